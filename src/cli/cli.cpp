@@ -1,0 +1,252 @@
+#include "cli/cli.h"
+
+#include <cctype>
+#include <charconv>
+#include <iostream>
+#include <iterator>
+#include <optional>
+#include <sstream>
+
+#include "cli/json_report.h"
+#include "cli/locale_platform.h"
+#include "cli/tokens.h"
+#include "display/display_text.h"
+#include "engine/key_table.h"
+
+namespace brinto {
+
+namespace {
+
+// Collects what the session raises, for the report; confirms Clear All without asking.
+class CliHost : public Host {
+public:
+    Report report;
+    std::ostream* echo = nullptr;  // where messages are shown at once, if anywhere
+
+    void ShowMessage(std::string_view caption, std::string_view text) override {
+        report.messages.push_back({std::string(caption), std::string(text)});
+        if (echo) *echo << caption << ": " << text << '\n';
+    }
+    bool Confirm(std::string_view, std::string_view) override { return true; }
+    void PutOnClipboard(std::string_view text) override { report.clipboard = std::string(text); }
+    std::optional<std::string> ClipboardText() override { return report.clipboard; }
+};
+
+struct Options {
+    bool json = false;
+    bool memory = false;
+    bool listKeys = false;
+    std::optional<std::string> db;
+    std::vector<std::pair<int, u16>> prefs;
+    std::optional<DateFields> now;
+    std::optional<u32> seed;
+    std::vector<std::string> tokens;
+};
+
+std::optional<unsigned long> ParseUnsigned(std::string_view text, unsigned long max) {
+    int base = 10;
+    if (text.size() > 2 && text[0] == '0' && (text[1] == 'x' || text[1] == 'X')) {
+        text.remove_prefix(2);
+        base = 16;
+    }
+    unsigned long value = 0;
+    const auto r = std::from_chars(text.data(), text.data() + text.size(), value, base);
+    if (text.empty() || r.ec != std::errc{} || r.ptr != text.data() + text.size() || value > max) return std::nullopt;
+    return value;
+}
+
+// Reads the options; on a bad one names it in `error`.
+std::optional<Options> ParseOptions(const std::vector<std::string>& args, std::string& error) {
+    Options o;
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        const std::string& a = args[i];
+        const bool hasValue = i + 1 < args.size();
+        if (a == "--json") {
+            o.json = true;
+        } else if (a == "--memory") {
+            o.memory = true;
+        } else if (a == "--list-keys") {
+            o.listKeys = true;
+        } else if (a == "--db" && hasValue) {
+            o.db = args[++i];
+        } else if (a == "--pref" && hasValue) {
+            const std::string& v = args[++i];
+            const std::size_t eq = v.find('=');
+            const auto word = eq == std::string::npos ? std::nullopt : ParseUnsigned(std::string_view(v).substr(0, eq), 6);
+            const auto value = eq == std::string::npos ? std::nullopt : ParseUnsigned(std::string_view(v).substr(eq + 1), 0xFFFF);
+            if (!word || !value) {
+                error = "bad --pref value: " + v;
+                return std::nullopt;
+            }
+            o.prefs.emplace_back(static_cast<int>(*word), static_cast<u16>(*value));
+        } else if (a == "--now" && hasValue) {
+            o.now = ParseDateTime(args[++i]);
+            if (!o.now) {
+                error = "bad --now value (want \"YYYY-MM-DD HH:MM:SS\"): " + args[i];
+                return std::nullopt;
+            }
+        } else if (a == "--seed" && hasValue) {
+            const auto seed = ParseUnsigned(args[++i], 0xFFFFFFFFul);
+            if (!seed) {
+                error = "bad --seed value: " + args[i];
+                return std::nullopt;
+            }
+            o.seed = static_cast<u32>(*seed);
+        } else if (a.size() > 2 && a[0] == '-' && a[1] == '-') {
+            error = (a == "--db" || a == "--pref" || a == "--now" || a == "--seed") ? "option needs a value: " + a
+                                                                                    : "unknown option: " + a;
+            return std::nullopt;
+        } else {
+            o.tokens.push_back(a);
+        }
+    }
+    return o;
+}
+
+std::string Printable(std::string_view text) {
+    std::string out;
+    for (const char c : text.substr(0, 60)) {
+        out += (static_cast<unsigned char>(c) < 0x20 || static_cast<unsigned char>(c) >= 0x7F) ? '?' : c;
+    }
+    if (text.size() > 60) out += "...";
+    return out;
+}
+
+// Parses every token first; on a bad one names it in `error`.
+std::optional<std::vector<Token>> ParseTokens(const std::vector<std::string>& texts, std::string& error) {
+    std::vector<Token> tokens;
+    tokens.reserve(texts.size());
+    for (const std::string& t : texts) {
+        auto token = ParseToken(t);
+        if (!token) {
+            error = "unknown token: " + Printable(t);
+            return std::nullopt;
+        }
+        tokens.push_back(std::move(*token));
+    }
+    return tokens;
+}
+
+// Runs one token; false when a key of it was not accepted.
+bool RunToken(Session& session, const Token& t) {
+    switch (t.kind) {
+        case TokenKind::Keys: {
+            bool accepted = true;
+            for (const FunctionId id : t.keys) accepted = session.Tap(id) && accepted;
+            return accepted;
+        }
+        case TokenKind::Characters: {
+            bool accepted = true;
+            for (const char c : t.text) accepted = session.CharacterKey(static_cast<unsigned char>(c)) && accepted;
+            return accepted;
+        }
+        case TokenKind::Keyboard: session.SelectKeyboard(t.number); return true;
+        case TokenKind::BlockKey: return session.TapBlockKey(t.number);
+        case TokenKind::Undo: session.Undo(); return true;
+        case TokenKind::Redo: session.Redo(); return true;
+        case TokenKind::Copy: session.Copy(); return true;
+        case TokenKind::Cut: session.Cut(); return true;
+        case TokenKind::Paste:
+            session.PasteText(t.text);
+            return true;
+        case TokenKind::Basic: session.Basic(); return true;
+        case TokenKind::Advanced: session.Advanced(); return true;
+    }
+    return true;
+}
+
+void PrintLine(std::ostream& out, const Engine& e, int level, std::string_view name) {
+    const DisplayLine line = DisplayLevel(e, level);
+    out << name << line.text;
+    if (!line.label.empty()) out << "  " << line.label;
+    out << '\n';
+}
+
+void PrintStack(std::ostream& out, const Engine& e) {
+    static constexpr std::string_view kNames[] = {"X: ", "Y: ", "Z: ", "T: "};
+    for (int level = 3; level >= 0; --level) PrintLine(out, e, level, kNames[level]);
+}
+
+std::vector<std::string> SplitWords(const std::string& text) {
+    std::vector<std::string> words;
+    std::size_t i = 0;
+    while (i < text.size()) {
+        while (i < text.size() && std::isspace(static_cast<unsigned char>(text[i]))) ++i;
+        const std::size_t start = i;
+        while (i < text.size() && !std::isspace(static_cast<unsigned char>(text[i]))) ++i;
+        if (i > start) words.emplace_back(text, start, i - start);
+    }
+    return words;
+}
+
+int Interactive(Session& session, CliHost& host, std::istream& in, std::ostream& out, std::ostream& err) {
+    host.echo = &out;
+    out << "Brinto. Type keys (2 enter 3 +), \"quit\" to leave.\n";
+    PrintStack(out, session.engine());
+    std::string line;
+    while (out << "> " << std::flush, std::getline(in, line)) {
+        const std::vector<std::string> words = SplitWords(line);
+        if (words.size() == 1 && words[0] == "quit") break;
+        std::string error;
+        const auto tokens = ParseTokens(words, error);
+        if (!tokens) {
+            err << error << '\n';
+            continue;
+        }
+        for (const Token& t : *tokens) RunToken(session, t);
+        PrintStack(out, session.engine());
+    }
+    return 0;
+}
+
+}  // namespace
+
+int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerminal, std::ostream& out,
+           std::ostream& err) {
+    std::string error;
+    auto options = ParseOptions(args, error);
+    if (!options) {
+        err << "brinto-cli: " << error << '\n';
+        return 2;
+    }
+    if (options->listKeys) {
+        for (const KeyInfo& k : kKeyTable) out << k.name << ' ' << k.id << '\n';
+        return 0;
+    }
+    std::vector<std::string> words = options->tokens;
+    const bool interactive = words.empty() && inIsTerminal && !options->json;
+    if (words.empty() && !inIsTerminal) {
+        const std::string script{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+        words = SplitWords(script);
+    }
+    std::optional<std::vector<Token>> tokens;
+    if (!interactive) {
+        tokens = ParseTokens(words, error);
+        if (!tokens) {
+            err << "brinto-cli: " << error << '\n';
+            return 2;
+        }
+    }
+
+    LocalePlatform platform;
+    platform.pinnedNow = options->now;
+    Engine engine(&platform);
+    CliHost host;
+    Session session(engine, host);
+    for (const auto& [word, value] : options->prefs) engine.prefs.words[word] = value;
+    if (options->seed) engine.state.randomSeed = *options->seed;
+
+    if (interactive) return Interactive(session, host, in, out, err);
+    for (std::size_t i = 0; i < tokens->size(); ++i) {
+        if (!RunToken(session, (*tokens)[i])) host.report.rejected.push_back(static_cast<int>(i));
+    }
+    if (options->json) {
+        out << JsonReport(session, host.report);
+    } else {
+        for (const ReportMessage& m : host.report.messages) err << m.caption << ": " << m.text << '\n';
+        PrintLine(out, engine, 0, "");
+    }
+    return 0;
+}
+
+}  // namespace brinto

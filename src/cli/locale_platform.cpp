@@ -1,0 +1,81 @@
+#include "cli/locale_platform.h"
+
+#include <langinfo.h>
+
+#include <chrono>
+#include <cstdio>
+#include <ctime>
+#include <string>
+
+namespace brinto {
+
+namespace {
+
+std::tm ToTm(const DateFields& d) {
+    std::tm t{};
+    t.tm_year = d.year - 1900;
+    t.tm_mon = d.month - 1;
+    t.tm_mday = d.day;
+    t.tm_hour = d.hour;
+    t.tm_min = d.minute;
+    t.tm_sec = d.second;
+    t.tm_wday = d.dayOfWeek;
+    return t;
+}
+
+std::string Format(const char* pattern, const DateFields& d) {
+    const std::tm t = ToTm(d);
+    char text[128];
+    const std::size_t n = std::strftime(text, sizeof text, pattern, &t);
+    return std::string(text, n);
+}
+
+// Days since 1970-01-01 of a civil date (proleptic Gregorian).
+int DayOfWeek(int year, int month, int day) {
+    const std::chrono::sys_days days{std::chrono::year{year} / month / day};
+    return static_cast<int>(std::chrono::weekday{days}.c_encoding());
+}
+
+}  // namespace
+
+DateFields LocalePlatform::Now() const {
+    if (pinnedNow) return *pinnedNow;
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    return DateFields{local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour,
+                      local.tm_min, local.tm_sec, local.tm_wday};
+}
+
+std::string LocalePlatform::DateText(const DateFields& date, bool longForm) const {
+    // The C library has no long date format of its own; spell out the weekday and the month.
+    return Format(longForm ? "%A, %B %d, %Y" : nl_langinfo(D_FMT), date);
+}
+
+std::string LocalePlatform::TimeText(const DateFields& time) const {
+    // The locale's time format without its seconds.
+    std::string pattern = nl_langinfo(T_FMT);
+    const std::size_t seconds = pattern.find("%S");
+    if (seconds != std::string::npos) {
+        const std::size_t from = seconds > 0 ? seconds - 1 : seconds;
+        pattern.erase(from, seconds + 2 - from);
+    }
+    if (pattern.find("%T") != std::string::npos) pattern = "%H:%M";
+    return Format(pattern.c_str(), time);
+}
+
+std::optional<DateFields> ParseDateTime(std::string_view text) {
+    int y, mo, d, h, mi, s;
+    char tail;
+    const std::string copy(text);
+    if (std::sscanf(copy.c_str(), "%4d-%2d-%2d %2d:%2d:%2d%c", &y, &mo, &d, &h, &mi, &s, &tail) != 6) {
+        return std::nullopt;
+    }
+    if (y < 1 || mo < 1 || mo > 12 || d < 1 || d > 31 || h < 0 || h > 23 || mi < 0 || mi > 59 || s < 0 ||
+        s > 59) {
+        return std::nullopt;
+    }
+    return DateFields{y, mo, d, h, mi, s, DayOfWeek(y, mo, d)};
+}
+
+}  // namespace brinto

@@ -1,0 +1,125 @@
+#include "engine/algebraic.h"
+
+#include "engine/families.h"
+
+namespace brinto {
+
+namespace {
+
+enum class Level { None, Additive, Multiplicative, Highest };
+
+Level LevelOf(FunctionId id) {
+    switch (id) {
+        case 22: case 23: case 180: case 181:
+            return Level::Additive;
+        case 24: case 25: case 182: case 183:
+            return Level::Multiplicative;
+        case 54: case 55: case 64: case 67: case 128: case 129: case 134: case 135: case 136:
+        case 138: case 139: case 140: case 141: case 166:
+            return Level::Highest;
+        default:
+            return Level::None;
+    }
+}
+
+void PopAndApply(Engine& e) { ApplyBinary(e, e.PopPending()); }
+
+// Precedence: an operator first applies the pending operators that bind more tightly.
+void ApplyTighter(Engine& e, Level level) {
+    while (true) {
+        const Level top = LevelOf(e.PendingTop());
+        const bool tighter = (level == Level::Additive && (top == Level::Multiplicative || top == Level::Highest)) ||
+                             (level == Level::Multiplicative && top == Level::Highest);
+        if (!tighter) return;
+        PopAndApply(e);
+    }
+}
+
+bool Defer(Engine& e, FunctionId op) {
+    if (e.state.pendingCount >= kMaxPending) return false;
+    e.Lift();
+    e.DisableLift();  // the next number overwrites X
+    e.PushPending(op);
+    e.state.engineFlags |= flags::OperatorLast;
+    return true;
+}
+
+}  // namespace
+
+bool IsBinaryOperator(FunctionId id) { return LevelOf(id) != Level::None; }
+
+void ApplyBinary(Engine& e, FunctionId op) {
+    if (IsBinaryOperator(op)) EvaluateTwoOperand(e, op);
+}
+
+void EvaluatePending(Engine& e, PendingScope scope) {
+    CalcState& s = e.state;
+    if (scope == PendingScope::All) {
+        while (s.pendingCount > 0 && e.PendingTop() != fid::Enter) {
+            const FunctionId op = e.PopPending();
+            if (IsBinaryOperator(op)) s.repeatOperator = op;
+            ApplyBinary(e, op);
+        }
+        return;
+    }
+    while (s.pendingCount > 0) {
+        const FunctionId op = e.PopPending();
+        ApplyBinary(e, op);
+        if (scope == PendingScope::One || op == fid::OpenParen) return;
+    }
+}
+
+u32 OpenParen(Engine& e) {
+    if (!e.LiftEnabled()) {
+        if (!e.PushPending(fid::OpenParen)) return 0;
+        e.DisableLift();
+    }
+    ++e.state.parenDepth;
+    return 1;
+}
+
+void CloseParen(Engine& e) {
+    if (e.PendingTop() != fid::Enter) EvaluatePending(e, PendingScope::ToParen);
+    if (e.state.parenDepth > 0) --e.state.parenDepth;
+}
+
+bool HandleOperator(Engine& e, FunctionId op) {
+    CalcState& s = e.state;
+    const Level level = LevelOf(op);
+    if (level == Level::None) {
+        s.engineFlags &= static_cast<u16>(~flags::OperatorLast);
+        return false;
+    }
+    if (e.IsRpn()) {
+        ApplyBinary(e, op);
+        return true;
+    }
+    const bool precedence = e.IsPrecedence();
+    // Refuse an operator that would have to wait when the pending stack is full, before any change.
+    const bool appliesAtOnce = e.PendingTop() == fid::Enter || (s.engineFlags & flags::OperatorLast);
+    if (!appliesAtOnce && s.pendingCount >= kMaxPending) return false;
+    if (precedence) ApplyTighter(e, level);
+    const Level top = LevelOf(e.PendingTop());
+    if (!(precedence && level == Level::Multiplicative && top == Level::Additive)) {
+        if (e.PendingTop() == fid::Enter) {
+            // "2 Enter 3 +" works in the algebraic methods too.
+            ApplyBinary(e, op);
+            e.PopPending();
+            s.engineFlags &= static_cast<u16>(~flags::OperatorLast);
+            return true;
+        }
+        if (s.engineFlags & flags::OperatorLast) {
+            // Two operators in a row: the second replaces the first.
+            e.PopPending();
+            e.PushPending(op);
+            e.DisableLift();
+            return true;
+        }
+        if (e.PendingTop() != fid::OpenParen && s.pendingCount > 0) {
+            if (!precedence || level == Level::Additive || level == Level::Multiplicative) PopAndApply(e);
+        }
+    }
+    return Defer(e, op);
+}
+
+}  // namespace brinto

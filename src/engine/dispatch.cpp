@@ -1,0 +1,365 @@
+// Dispatch: every key of every keyboard ends here. Around the family chain it keeps the stack-lift
+// state, the shift latches, macro recording, the undo history and the last-key words consistent.
+#include <array>
+
+#include "engine/algebraic.h"
+#include "engine/built_in.h"
+#include "engine/families.h"
+#include "engine/macro.h"
+#include "engine/number_entry.h"
+#include "engine/register_clears.h"
+#include "engine/register_keys.h"
+#include "ops/integer_format.h"
+
+namespace brinto {
+
+namespace {
+
+constexpr std::array<FamilyHandler, 7> kFamilies = {
+    HandleRegisterKey,  HandleFormatPrefix,  HandleModeKey,  HandleFinancialKey,
+    HandleScientificFamily, HandleConversionKey, HandleOperator,
+};
+
+bool IsShiftKey(FunctionId id) { return id == fid::Shift || id == fid::FirstShift || id == fid::SecondShift; }
+
+bool IsMacroKey(FunctionId id) { return id >= fid::MacroRecord && id <= fid::MacroStop; }
+
+bool PrefixPending(const CalcState& s) {
+    return s.pendingArgument != kNoKey || s.pendingFormat != kNoKey || (s.status & status::Hyperbolic);
+}
+
+void SetBase(CalcState& s, u16 base) {
+    s.status = static_cast<u16>((s.status & ~status::BaseMask) | base);
+}
+
+// What a built-in key did, for the steps after it.
+struct Outcome {
+    u32 accepted = 1;
+    FunctionId actedAs;     // the key whose after-steps apply (backspace can act as 31, 40 or 96)
+    bool endsEntry = false; // change sign outside an entry ends it, although its id is below 21
+};
+
+u32 Digit(Engine& e, FunctionId id) {
+    const u16 base = e.EntryBase();
+    if (id >= 2 && id <= 7 && base == status::BaseBinary) SetBase(e.state, 0);
+    if (id >= 8 && id <= 9 && (base == status::BaseBinary || base == status::BaseOctal)) SetBase(e.state, 0);
+    return EditEntry(e, id);
+}
+
+u32 HexDigit(Engine& e, FunctionId id) {
+    if (e.IntegerEntryAllowed()) SetBase(e.state, status::BaseHex);
+    if (e.EntryBase() != status::BaseHex) return 0;
+    return EditEntry(e, id);
+}
+
+// Change sign outside a decimal entry: a unit or date keeps its tag, any other tag is dropped.
+void NegateX(Engine& e) {
+    const u32 category = TagCategory(e.XTag());
+    e.state.stack[0] = -e.state.stack[0];
+    if (category == 0 || category == 7) {
+        e.state.tags[0] = 0;
+        e.state.aux[0] = kNoAux;
+    } else if (e.state.tags[0] < 1800) {
+        e.state.tags[0] = 0;
+    }
+}
+
+void NegateInteger(Engine& e) {
+    const ValueTag format = IntegerFormatOf(e.prefs, e.XTag());
+    const double value = Narrow(e.X(), e.XTag(), format);
+    e.SetX(Narrow(-value, format, format));
+    e.SetXTag(format);
+}
+
+void Equals(Engine& e) {
+    CalcState& s = e.state;
+    if (s.pendingCount == 0) {
+        if (s.repeatOperator == fid::Amortize) {
+            AmortizationRepeat(e);
+        } else if (s.repeatOperator != kNoKey) {
+            e.Lift();
+            e.RecallLastX();
+            e.PushPending(s.repeatOperator);
+        }
+    }
+    EvaluatePending(e, PendingScope::All);
+    s.parenDepth = 0;
+}
+
+void LastX(Engine& e) {
+    const bool liftDisabled = !e.LiftEnabled();
+    if (!(liftDisabled && (!e.IsRpn() || !e.EntryOpen()))) e.Lift();
+    e.RecallLastX();
+}
+
+void SetMethod(Engine& e, u16 methodBits) {
+    e.state.engineFlags = static_cast<u16>((e.state.engineFlags & ~flags::MethodMask) | methodBits);
+    e.RequestRedraw();
+}
+
+void ClearAll(Engine& e) {
+    ClearAllRegisters(e);
+    e.ClearStack();
+    e.ResetMacro();
+    e.state.status &= static_cast<u16>(~status::Entry);
+    e.RequestRedraw();
+}
+
+// Clears a register group and shows one of its registers, labelled, in X.
+void ClearAndShow(Engine& e, void (*clear)(Engine&), int registerNumber, ValueTag tag) {
+    clear(e);
+    RegisterOperation(e, fid::Recall, kNoKey, registerNumber);
+    e.SetXTag(tag);
+    e.DisableLift();
+}
+
+Outcome HandleBuiltIn(Engine& e, FunctionId id) {
+    CalcState& s = e.state;
+    Outcome out{1, id, false};
+    switch (id) {
+        case 0: case 1: case 2: case 3: case 4: case 5: case 6: case 7: case 8: case 9:
+            out.accepted = Digit(e, id);
+            break;
+        case 10: case 11: case 12: case 13: case 14: case 15:
+            out.accepted = HexDigit(e, id);
+            break;
+        case fid::Point: case fid::Point2: case fid::Exponent:
+            out.accepted = e.EntryBase() == 0 ? EditEntry(e, id) : 0;
+            break;
+        case fid::ChangeSign:
+        case fid::IntegerNegate:
+            if (e.EntryOpen() && e.EntryBase() == 0) {
+                out.accepted = EditEntry(e, id);
+            } else {
+                id == fid::ChangeSign ? NegateX(e) : NegateInteger(e);
+                out.endsEntry = true;
+            }
+            break;
+        case fid::Backspace:
+            if (s.status & status::Hyperbolic) {
+                out.accepted = 0;
+                out.actedAs = fid::Hyperbolic;  // the prefix is cancelled by the toggle below
+            } else if (e.EntryOpen()) {
+                out.accepted = EditEntry(e, id);
+            } else if (e.prefs.BackspaceDrops()) {
+                e.Drop();
+                out.actedAs = fid::Drop;
+            } else {
+                e.ClearX();
+                out.actedAs = fid::ClearX;
+            }
+            break;
+        case fid::Enter:
+            if (!e.IsRpn() && s.pendingCount >= kMaxPending) return {0, id, false};
+            e.Lift();
+            e.DisableLift();
+            if (!e.IsRpn()) e.PushPending(fid::Enter);
+            break;
+        case fid::Equals: Equals(e); break;
+        case fid::Shift: ShiftKey(e, 0); break;
+        case fid::FirstShift: ShiftKey(e, 1); break;
+        case fid::SecondShift: ShiftKey(e, 2); break;
+        case fid::DisplayToggle: s.status ^= status::FullDisplay; break;
+        case fid::ClearAll: case fid::ClearAll2: ClearAll(e); break;
+        case fid::ClearStack: case fid::ClearStack2:
+            if ((s.engineFlags & flags::Playing) && (s.engineFlags & flags::Paused)) MacroStop(e);
+            e.ClearStack();
+            break;
+        case fid::ClearX: case fid::ClearX2: e.ClearX(); break;
+        case fid::ClearRegisters:
+            ClearUserRegisters(e);
+            ClearTvmRegisters(e);
+            ClearStatistics(e);
+            e.KeepLiftState();
+            break;
+        case fid::ClearFinancial: ClearAndShow(e, ClearFinancial, reg::PYr, 1404); break;
+        case fid::ClearDate: ClearAndShow(e, ClearDateGroup, reg::FramesPerSecond, fid::TagDpy + 4); break;
+        case fid::ClearStatistics: ClearStatistics(e); break;
+        case fid::RollDown: e.RollDown(); break;
+        case fid::RollUp: e.RollUp(); break;
+        case fid::Drop: e.Drop(); break;
+        case fid::Fill: e.FillWithX(); break;
+        case fid::Swap: e.Swap(); break;
+        case fid::LastX: LastX(e); break;
+        case fid::OpenParen: out.accepted = OpenParen(e); break;
+        case fid::CloseParen: CloseParen(e); break;
+        case fid::Rotate3: e.Rotate3(); break;
+        case fid::Over: e.Over(); break;
+        case fid::MethodSimple: SetMethod(e, 0); break;
+        case fid::MethodPrecedence: SetMethod(e, flags::Precedence); break;
+        case fid::MethodRpn: SetMethod(e, flags::Rpn); break;
+        case fid::MacroRecord: MacroStartRecording(e); break;
+        case fid::MacroPlay: MacroPlay(e); break;
+        case fid::MacroPause: MacroPause(e); break;
+        case fid::MacroStop: MacroStop(e); break;
+        default: out.accepted = 0; break;
+    }
+    return out;
+}
+
+// Ends or keeps the entry and resolves the lift bits after a key.
+u32 EndKey(Engine& e, FunctionId id, const Outcome& out) {
+    u32 accepted = out.accepted;
+    CalcState& s = e.state;
+    if (s.pendingArgument != kNoKey) {
+        s.status |= status::KeepEntry;
+        return accepted;
+    }
+    if (IsMacroKey(id) || IsShiftKey(id)) return accepted;
+    if (out.actedAs <= fid::Backspace && !(s.status & status::KeepEntry) && !out.endsEntry) return accepted;
+    s.status &= static_cast<u16>(~(status::Entry | status::KeepEntry));
+    if (out.actedAs == fid::Hyperbolic) {
+        s.status ^= status::Hyperbolic;
+        accepted = 1;
+    } else {
+        s.status &= static_cast<u16>(~status::Hyperbolic);
+    }
+    if (!(s.status & status::KeepLift)) {
+        if (s.status & status::NoLift) {
+            s.status &= static_cast<u16>(~(status::NoLift | status::LiftEnabled));
+        } else {
+            s.status |= status::LiftEnabled;
+        }
+    }
+    s.status &= static_cast<u16>(~status::KeepLift);
+    return accepted;
+}
+
+}  // namespace
+
+void ShiftKey(Engine& e, int mode) {
+    CalcState& s = e.state;
+    u16& v = s.viewFlags;
+    const bool locking = e.prefs.LockingShift();
+    const bool sticky = e.prefs.StickyShift();
+    const bool first = s.status & status::FirstShift;
+    const bool second = v & view::SecondShift;
+    if (mode == 0) {
+        if (!first && !second) {
+            mode = 1;
+        } else if (!first && second) {
+            mode = 2;
+        } else {
+            mode = ((!locking || (v & view::ShiftHeld)) && (v & view::ShiftKeyboardMask) > 0x10) ? 2 : 1;
+        }
+    }
+    if (mode != 1 && mode != 2) return;
+    const u16 latchBit = mode == 1 ? status::FirstShift : view::SecondShift;
+    u16& latchWord = mode == 1 ? s.status : v;
+    const FunctionId ownKey = mode == 1 ? fid::FirstShift : fid::SecondShift;
+    const bool latch = latchWord & latchBit;
+    const bool held = v & view::ShiftHeld;
+    if (locking && latch && !held && (s.lastKey == fid::Shift || s.lastKey == ownKey)) {
+        v |= view::ShiftHeld;  // a second press in a row holds the shift
+    } else {
+        v &= static_cast<u16>(~view::ShiftHeld);
+        latchWord ^= latchBit;
+    }
+    if (latchWord & latchBit) {
+        if (sticky) v |= view::ShiftHeld;
+    } else {
+        v &= static_cast<u16>(~view::ShiftHeld);
+    }
+    if (mode == 1) {
+        v &= static_cast<u16>(~view::SecondShift);
+    } else {
+        s.status &= static_cast<u16>(~status::FirstShift);
+    }
+    e.RequestRedraw();
+}
+
+bool HandleFormatPrefix(Engine& e, FunctionId id) {
+    CalcState& s = e.state;
+    if (id == fid::FormatStandard || id == fid::FormatScientific || id == fid::FormatEngineering ||
+        id == fid::FormatFixed) {
+        s.pendingFormat = id;
+        e.KeepLiftState();
+        return true;
+    }
+    if (s.pendingFormat == kNoKey) return false;
+    const FunctionId prefix = s.pendingFormat;
+    s.pendingFormat = kNoKey;
+    if (id == fid::Backspace) return true;
+    if (id > fid::Digit9 && id != fid::Point && id != fid::Point2) return false;
+    const u16 code = prefix == fid::FormatStandard ? 0 : prefix == fid::FormatScientific ? 1
+                   : prefix == fid::FormatEngineering ? 2 : 3;
+    e.prefs.SetFormat(static_cast<NumberFormat>(code));
+    e.prefs.SetDigitField(id <= fid::Digit9 ? static_cast<int>(id) + 1 : 0);
+    e.dirty.preferences = true;
+    e.dirty.state = true;
+    e.RequestRedraw();
+    return true;
+}
+
+bool HandleModeKey(Engine& e, FunctionId id) {
+    CalcState& s = e.state;
+    switch (id) {
+        case fid::BeginEnd: s.engineFlags ^= flags::Begin; break;
+        case fid::Degrees:
+        case fid::Radians:
+        case fid::Grads:
+            s.engineFlags = static_cast<u16>((s.engineFlags & ~flags::AngleMask) |
+                                             ((id - fid::Degrees) << flags::AngleShift));
+            break;
+        case fid::BaseBinary: SetBase(s, status::BaseBinary); break;
+        case fid::BaseOctal: SetBase(s, status::BaseOctal); break;
+        case fid::BaseDecimal: SetBase(s, 0); break;
+        case fid::BaseHex: SetBase(s, status::BaseHex); break;
+        default: return false;
+    }
+    if (id >= fid::BaseBinary && id <= fid::BaseHex) RederiveIntegerTag(e);
+    e.dirty.state = true;
+    e.KeepLiftState();
+    e.RequestRedraw();
+    return true;
+}
+
+bool HandleScientificFamily(Engine& e, FunctionId id) {
+    return HandleScientificKey(e, id) || HandleFinanceResultKey(e, id) || HandleDateKey(e, id) ||
+           HandleIntegerKey(e, id);
+}
+
+u32 Engine::Dispatch(FunctionId id) {
+    if (id == fid::Enter2) id = fid::Enter;
+    CalcState& s = state;
+    const bool shiftKey = IsShiftKey(id);
+    const bool capture = !PrefixPending(s) && !(s.engineFlags & flags::UndoSuspended) && !shiftKey;
+    if (capture) history.TakeSnapshot(Records());
+    if ((s.status & status::BaseMask) && !IntegerEntryAllowed()) SetBase(s, 0);
+    const bool entryWasOpen = EntryOpen();
+
+    Outcome out{0, id, false};
+    bool taken = false;
+    for (std::size_t i = 0; i < kFamilies.size() && !taken; ++i) {
+        taken = kFamilies[i](*this, id);
+        if (taken && i < 6) s.engineFlags &= static_cast<u16>(~flags::OperatorLast);
+    }
+    if (taken) {
+        out.accepted = 1;
+        dirty.state = true;
+    } else {
+        out = HandleBuiltIn(*this, id);
+        if (out.accepted) dirty.state = true;
+    }
+
+    u32 accepted = EndKey(*this, id, out);
+    if (accepted && !(s.viewFlags & view::ShiftHeld) && !shiftKey) {
+        if ((s.status & status::FirstShift) || (s.viewFlags & view::SecondShift)) RequestRedraw();
+        s.status &= static_cast<u16>(~status::FirstShift);
+        s.viewFlags &= static_cast<u16>(~view::SecondShift);
+    }
+    if ((s.engineFlags & flags::Recording) && !(s.engineFlags & flags::Playing) && !IsMacroKey(id)) {
+        if (!MacroRecordKey(*this, id)) accepted = 0;
+    }
+    if (accepted && !shiftKey && !PrefixPending(s) && !(s.engineFlags & flags::UndoSuspended) &&
+        !(entryWasOpen && EntryOpen())) {
+        history.Commit(Records());
+    }
+    if (accepted) {
+        s.lastKey = id;
+        if (!shiftKey) s.lastCommand = id;
+    }
+    return accepted;
+}
+
+}  // namespace brinto

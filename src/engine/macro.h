@@ -1,0 +1,19 @@
+#pragma once
+// The keystroke macro: one recorded list of keys, played back through Dispatch. A recording
+// starts with the input-method key, so playback runs in the method it was recorded in and the
+// user's own method is restored at the end.
+#include "engine/engine.h"
+
+namespace brinto {
+
+// Appends a key to the macro being recorded; 0 when it is full (recording then stops).
+u32 MacroRecordKey(Engine& e, FunctionId id);
+void MacroStartRecording(Engine& e);  // key 212
+void MacroPlay(Engine& e);            // key 213
+void MacroPause(Engine& e);           // key 214
+void MacroStop(Engine& e);            // key 215
+
+// Shortest macro that can be played: the method key, one key and the stop key.
+inline constexpr int kMinimumMacroLength = 3;
+
+}  // namespace brinto

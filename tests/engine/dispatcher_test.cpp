@@ -1,0 +1,210 @@
+#include <gtest/gtest.h>
+
+#include "engine/register_keys.h"
+#include "engine_test_support.h"
+
+namespace brinto {
+namespace {
+
+using test::MakeEngine;
+using test::Press;
+
+TEST(FormatPrefix, DigitOrPointSetsTheDisplayFormat) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {fid::FormatStandard, fid::Point});
+    EXPECT_EQ(e.prefs.Format(), NumberFormat::Standard);
+    EXPECT_EQ(e.prefs.DigitField(), 0);
+    Press(e, {fid::FormatScientific, 3});
+    EXPECT_EQ(e.prefs.Format(), NumberFormat::Scientific);
+    EXPECT_EQ(e.prefs.DigitField(), 4);
+    EXPECT_TRUE(e.dirty.preferences);
+    Press(e, {fid::FormatFixed, fid::Backspace, 7});  // backspace cancels; 7 is typed
+    EXPECT_EQ(e.prefs.Format(), NumberFormat::Scientific);
+    EXPECT_EQ(e.X(), 7.0);
+}
+
+TEST(Dispatcher, BackspaceWithHyperbolicPrefixOnlyCancelsIt) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {4, fid::Enter, fid::Hyperbolic});
+    EXPECT_TRUE(e.state.status & status::Hyperbolic);
+    e.Dispatch(fid::Backspace);  // acts as the prefix key itself, toggling it off
+    EXPECT_FALSE(e.state.status & status::Hyperbolic);
+    EXPECT_EQ(e.X(), 4.0);
+}
+
+TEST(Dispatcher, BackspaceOutsideAnEntryClearsXOrDrops) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {4, fid::Enter, 5, fid::Add, fid::Backspace});
+    EXPECT_EQ(e.X(), 0.0);
+    EXPECT_FALSE(e.LiftEnabled());  // acts as Clear X: the next number replaces the zero
+    Press(e, {3});
+    EXPECT_EQ(e.Y(), 0.0);
+    e.prefs.SetBackspaceDrops(true);
+    Press(e, {fid::Enter, 9, fid::Enter, fid::Backspace});
+    EXPECT_EQ(e.X(), 9.0);
+}
+
+TEST(Dispatcher, ChangeSignOutsideEntryKeepsOnlyUnitTags) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {5, fid::Enter});
+    e.SetXTag(1903);
+    e.Dispatch(fid::ChangeSign);
+    EXPECT_EQ(e.X(), -5.0);
+    EXPECT_EQ(e.XTag(), 1903);
+    e.SetXTag(1410);  // "PV" is a label, not a unit
+    e.Dispatch(fid::ChangeSign);
+    EXPECT_EQ(e.XTag(), 0);
+    Press(e, {2});  // change sign ended the entry and enabled lift
+    EXPECT_EQ(e.Y(), 5.0);
+}
+
+TEST(Dispatcher, UnknownKeyIsNotAcceptedAndChangesNothing) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {1, 2});
+    EXPECT_FALSE(e.Dispatch(9999));
+    EXPECT_EQ(e.state.lastCommand, 2u);
+}
+
+TEST(Dispatcher, ModeKeysKeepTheLiftState) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {3, fid::Enter, fid::Radians, 4});
+    EXPECT_EQ(e.Angle(), AngleUnit::Radians);
+    EXPECT_EQ(e.Y(), 3.0);
+    EXPECT_EQ(e.state.stack[2], 0.0);  // 4 replaced the copy left by Enter
+    Press(e, {fid::BeginEnd});
+    EXPECT_TRUE(e.state.engineFlags & flags::Begin);
+}
+
+TEST(ShiftKeys, StandardLastsOneKeyStickyUntilPressedAgain) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    e.Dispatch(fid::Shift);
+    EXPECT_TRUE(e.state.status & status::FirstShift);
+    e.Dispatch(1);
+    EXPECT_FALSE(e.state.status & status::FirstShift);
+
+    e.prefs.SetShift(ShiftMode::Sticky);
+    e.Dispatch(fid::Shift);
+    e.Dispatch(2);
+    e.Dispatch(3);
+    EXPECT_TRUE(e.state.status & status::FirstShift);
+    e.Dispatch(fid::Shift);
+    EXPECT_FALSE(e.state.status & status::FirstShift);
+}
+
+TEST(ShiftKeys, LockingHoldsOnADoublePress) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    e.prefs.SetShift(ShiftMode::Locking);
+    Press(e, {fid::Shift, fid::Shift, 1, 2});
+    EXPECT_TRUE(e.state.status & status::FirstShift);
+    e.Dispatch(fid::Shift);
+    EXPECT_FALSE(e.state.status & status::FirstShift);
+    Press(e, {fid::SecondShift});
+    EXPECT_TRUE(e.state.viewFlags & view::SecondShift);
+    Press(e, {fid::FirstShift});
+    EXPECT_FALSE(e.state.viewFlags & view::SecondShift);
+}
+
+TEST(ShiftKeys, ShiftDoesNotEndTheEntry) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {1, fid::Shift, 2});
+    EXPECT_EQ(e.X(), 12.0);
+}
+
+TEST(RegisterKeys, StoreRecallAndArithmetic) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    e.prefs.SetHundredRegisters(false);
+    Press(e, {7, fid::Store, 3});
+    EXPECT_EQ(e.registers.values[3], 7.0);
+    Press(e, {2, fid::Store, fid::Multiply, 3});  // R3 = R3 x 2
+    EXPECT_EQ(e.registers.values[3], 14.0);
+    Press(e, {fid::Store, fid::Subtract, 3});
+    EXPECT_EQ(e.registers.values[3], 12.0);
+    Press(e, {fid::Recall, 3});
+    EXPECT_EQ(e.X(), 12.0);
+    EXPECT_EQ(e.Y(), 2.0);  // recall lifts
+    EXPECT_EQ(e.XTag(), fid::TagCashFlow);
+    EXPECT_EQ(e.state.aux[0], 3);
+    Press(e, {fid::Recall, fid::Add, 3});  // X = X + R3
+    EXPECT_EQ(e.X(), 24.0);
+    EXPECT_EQ(e.state.lastX, 12.0);
+}
+
+TEST(RegisterKeys, TwoDigitArgumentsWithTheLargeRegisterSet) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    ASSERT_TRUE(e.prefs.HundredRegisters());
+    Press(e, {4, 2, fid::StoreLarge, 4, 7});
+    EXPECT_EQ(e.registers.values[47], 42.0);
+    Press(e, {fid::StoreLarge, fid::CashFlow});  // the register after the last one used
+    EXPECT_EQ(e.registers.values[48], 42.0);
+    Press(e, {fid::RecallVariant, 9});  // the small set's key takes one digit
+    EXPECT_EQ(e.X(), 0.0);
+    EXPECT_EQ(e.Y(), 42.0);
+}
+
+TEST(RegisterKeys, EntryStaysOpenAcrossThePrefix) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {1, 2, fid::StoreLarge});
+    EXPECT_TRUE(e.EntryOpen());
+    EXPECT_NE(e.state.pendingArgument, kNoKey);
+    Press(e, {0, 5});
+    EXPECT_FALSE(e.EntryOpen());
+    EXPECT_EQ(e.registers.values[5], 12.0);
+    EXPECT_TRUE(e.LiftEnabled());
+}
+
+TEST(RegisterKeys, BackspaceCancelsAndOtherKeysCancelThenAct) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {5, fid::Enter, fid::Store, fid::Backspace});
+    EXPECT_EQ(e.state.pendingArgument, kNoKey);
+    EXPECT_EQ(e.X(), 5.0);
+    Press(e, {fid::Store, fid::Swap});
+    EXPECT_EQ(e.state.pendingArgument, kNoKey);
+    EXPECT_EQ(e.Y(), 5.0);  // the swap happened
+}
+
+TEST(RegisterKeys, FinancialKeysNameTheirRegisters) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {fid::Recall, fid::PYr});
+    EXPECT_EQ(e.X(), 12.0);
+    EXPECT_EQ(e.XTag(), 1404);
+    Press(e, {9, fid::Store, fid::PV, fid::Recall, fid::PV});
+    EXPECT_EQ(e.registers.values[reg::PV], 9.0);
+    EXPECT_EQ(e.XTag(), 1410);
+    Press(e, {fid::Recall, 202});
+    EXPECT_EQ(e.X(), 30.0);
+    EXPECT_EQ(e.XTag(), fid::TagDpy + 4);
+}
+
+TEST(RegisterClears, KeysClearTheirGroups) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    for (int r = 0; r < kRegisterCount; ++r) e.registers.values[r] = 1.0;
+    e.registers.values[reg::PYr] = 0.0;
+    e.Dispatch(fid::ClearFinancial);
+    EXPECT_EQ(e.registers.values[5], 0.0);
+    EXPECT_EQ(e.registers.values[reg::PV], 0.0);
+    EXPECT_EQ(e.registers.values[reg::PYr], 12.0);
+    EXPECT_EQ(e.X(), 12.0);
+    EXPECT_EQ(e.XTag(), 1404);
+    EXPECT_EQ(e.registers.cashFlowCount, -1);
+    EXPECT_EQ(e.registers.values[reg::DaysPerYear], 1.0);
+    e.Dispatch(fid::ClearStatistics);
+    EXPECT_EQ(e.registers.values[reg::DaysPerYear], 0.0);  // the wide clear reaches dpy
+    EXPECT_EQ(e.DurationSetting(reg::DaysPerYear), 365.25);
+    e.Dispatch(fid::ClearDate);
+    EXPECT_EQ(e.X(), 30.0);
+    EXPECT_EQ(e.XTag(), fid::TagDpy + 4);
+    EXPECT_EQ(e.registers.values[reg::DaysPerYear], 365.25);
+}
+
+TEST(RegisterClears, ClearAllClearsRegistersStackAndMacro) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {fid::MacroRecord, 1, fid::MacroStop, 5, fid::Store, 7, fid::Enter});
+    e.Dispatch(fid::ClearAll);
+    EXPECT_EQ(e.registers.values[7], 0.0);
+    EXPECT_EQ(e.macro.macroLength, 0);
+    EXPECT_EQ(e.X(), 0.0);
+    EXPECT_EQ(e.Y(), 0.0);
+}
+
+}  // namespace
+}  // namespace brinto

@@ -1,0 +1,163 @@
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <random>
+
+#include "engine_test_support.h"
+
+namespace brinto {
+namespace {
+
+using test::MakeEngine;
+using test::Press;
+
+bool Undo(Engine& e) { return e.history.Undo(e.Records(), e.prefs.StickyShift()); }
+bool Redo(Engine& e) { return e.history.Redo(e.Records(), e.prefs.StickyShift()); }
+
+TEST(History, KeepsTheTenNewestSteps) {
+    Engine e = MakeEngine(InputMethod::Simple);
+    for (int i = 0; i < 11; ++i) e.Dispatch(fid::Enter);  // each pushes one more Enter marker
+    int undone = 0;
+    while (Undo(e)) ++undone;
+    EXPECT_EQ(undone, 10);
+    EXPECT_EQ(e.state.pendingCount, 1);  // the first step is gone
+}
+
+TEST(History, RefusedKeyIsNotAStep) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {5, fid::Enter});
+    const int steps = e.history.UndoCount();
+    EXPECT_FALSE(e.Dispatch(9999));
+    EXPECT_EQ(e.history.UndoCount(), steps);
+}
+
+TEST(History, NewOperationEndsTheRedoChain) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {5, fid::Enter, 6, fid::Add});
+    ASSERT_TRUE(Undo(e));
+    EXPECT_EQ(e.X(), 6.0);
+    ASSERT_TRUE(Redo(e));
+    EXPECT_EQ(e.X(), 11.0);
+    ASSERT_TRUE(Undo(e));
+    Press(e, {fid::Multiply});
+    EXPECT_FALSE(e.history.CanRedo());
+    EXPECT_EQ(e.X(), 30.0);
+}
+
+TEST(History, UndoRestoresRegistersAndMacro) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {fid::MacroRecord, 1, fid::Add, fid::MacroStop});
+    Press(e, {7, fid::StoreVariant, 4});
+    Press(e, {fid::ClearAll});
+    ASSERT_EQ(e.macro.macroLength, 0);
+    ASSERT_TRUE(Undo(e));
+    EXPECT_EQ(e.registers.values[4], 7.0);
+    EXPECT_EQ(e.macro.macroLength, 4);
+}
+
+TEST(History, FirstShiftSurvivesUndoOnlyWhenSticky) {
+    for (const bool sticky : {false, true}) {
+        SCOPED_TRACE(sticky ? "sticky" : "standard");
+        Engine e = MakeEngine(InputMethod::Rpn);
+        e.prefs.SetShift(sticky ? ShiftMode::Sticky : ShiftMode::Standard);
+        Press(e, {5, fid::Enter});
+        e.state.status |= status::FirstShift;  // a shift latched before the next step
+        Press(e, {fid::Drop});
+        ASSERT_TRUE(Undo(e));
+        EXPECT_EQ(static_cast<bool>(e.state.status & status::FirstShift), sticky);
+    }
+}
+
+TEST(Macro, RecordsFromTheMethodKeyToStop) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {fid::MacroRecord, 2, fid::Multiply, fid::MacroStop});
+    ASSERT_EQ(e.macro.macroLength, 4);
+    EXPECT_EQ(e.macro.macroKeys[0], fid::MethodRpn);
+    EXPECT_EQ(e.macro.macroKeys[3], fid::MacroStop);
+    Press(e, {2, 1, fid::MacroPlay});
+    EXPECT_EQ(e.X(), 42.0);
+}
+
+TEST(Macro, TooShortToPlay) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {fid::MacroRecord, fid::MacroStop, 8});
+    EXPECT_EQ(e.macro.macroLength, 2);
+    e.Dispatch(fid::MacroPlay);
+    EXPECT_EQ(e.X(), 8.0);
+    EXPECT_FALSE(e.state.engineFlags & flags::Playing);
+}
+
+TEST(Macro, SixtySecondKeyIsRefusedAndStopsRecording) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    e.Dispatch(fid::MacroRecord);
+    for (int i = 0; i < 61; ++i) ASSERT_TRUE(e.Dispatch(fid::Swap)) << i;
+    EXPECT_FALSE(e.Dispatch(fid::Swap));
+    EXPECT_FALSE(e.state.engineFlags & flags::Recording);
+    EXPECT_EQ(e.macro.macroLength, 63);
+    EXPECT_EQ(e.macro.macroKeys[62], fid::MacroStop);
+}
+
+TEST(Macro, PlaysInTheRecordedMethodAndRestoresTheUsersMethod) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {fid::MacroRecord, fid::Enter, fid::Multiply, fid::MacroStop});  // squares X
+    Press(e, {fid::MethodSimple, 7, fid::MacroPlay});
+    EXPECT_EQ(e.X(), 49.0);
+    EXPECT_FALSE(e.IsRpn());
+}
+
+TEST(Macro, ErrorStopsPlayback) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {fid::MacroRecord, fid::Enter, fid::Subtract, fid::Reciprocal, 5, fid::MacroStop});
+    Press(e, {fid::MacroRecord});  // replace with: 0, divide (error), then 5
+    Press(e, {0, fid::Divide, 5, fid::MacroStop});
+    Press(e, {3, fid::MacroPlay});
+    EXPECT_TRUE(IsErrorValue(e.X()));
+    EXPECT_FALSE(e.state.engineFlags & flags::Playing);
+}
+
+TEST(Macro, PlaybackIsOneUndoStep) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {fid::MacroRecord, 1, fid::Add, 2, fid::Multiply, fid::MacroStop});
+    Press(e, {4, fid::Enter});
+    const double before = e.X();
+    e.Dispatch(fid::MacroPlay);
+    EXPECT_EQ(e.X(), 10.0);
+    ASSERT_TRUE(Undo(e));
+    EXPECT_EQ(e.X(), before);
+}
+
+TEST(Macro, PauseStopsPlaybackUntilResumed) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {fid::MacroRecord, 1, fid::Add, fid::MacroPause, 1, 0, fid::Multiply, fid::MacroStop});
+    Press(e, {fid::MacroPause});  // the recorder is paused by the recorded pause: resume to stop cleanly
+    Press(e, {5, fid::Enter});
+    e.Dispatch(fid::MacroPlay);
+    EXPECT_EQ(e.X(), 6.0);
+    EXPECT_TRUE(e.state.engineFlags & flags::Paused);
+    e.Dispatch(fid::MacroPlay);
+    EXPECT_EQ(e.X(), 60.0);
+    EXPECT_FALSE(e.state.engineFlags & flags::Playing);
+}
+
+// Any key sequence keeps the engine's invariants.
+TEST(Robustness, RandomKeysKeepInvariants) {
+    std::mt19937 random(20261122);
+    std::uniform_int_distribution<int> key(0, 260);
+    for (const InputMethod method : {InputMethod::Simple, InputMethod::Precedence, InputMethod::Rpn}) {
+        Engine e = MakeEngine(method);
+        for (int i = 0; i < 200000; ++i) {
+            FunctionId id = static_cast<FunctionId>(key(random));
+            if (id == fid::MacroPlay && (i % 7) != 0) id = fid::Enter;  // keep playback occasional
+            e.Dispatch(id);
+            ASSERT_LE(e.state.pendingCount, kMaxPending);
+            ASSERT_LT(std::strlen(e.state.entryText), sizeof e.state.entryText);
+            ASSERT_GE(e.StackDepth(), 1);
+            ASSERT_LE(e.StackDepth(), kStackLevels);
+            ASSERT_LE(e.macro.macroLength, kMacroSlots);
+            ASSERT_LE(e.history.UndoCount() + e.history.RedoCount(), kHistoryRecords);
+        }
+    }
+}
+
+}  // namespace
+}  // namespace brinto
