@@ -3,13 +3,10 @@
 
 namespace brinto {
 
-bool HandleFinancialKey(Engine&, FunctionId) { return false; }
 bool HandleScientificKey(Engine&, FunctionId) { return false; }
-bool HandleFinanceResultKey(Engine&, FunctionId) { return false; }
 bool HandleDateKey(Engine&, FunctionId) { return false; }
 bool HandleIntegerKey(Engine&, FunctionId) { return false; }
 bool HandleConversionKey(Engine&, FunctionId) { return false; }
-void AmortizationRepeat(Engine&) {}
 void RederiveIntegerTag(Engine&) {}
 
 }  // namespace brinto
