@@ -104,6 +104,7 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& args, std::s
 }
 
 std::string Printable(std::string_view text) {
+    // Unprintable bytes are shown as "?", and a huge token is cut short.
     std::string out;
     for (const char c : text.substr(0, 60)) {
         out += (static_cast<unsigned char>(c) < 0x20 || static_cast<unsigned char>(c) >= 0x7F) ? '?' : c;
@@ -112,27 +113,40 @@ std::string Printable(std::string_view text) {
     return out;
 }
 
-// Parses every token first; on a bad one names it in `error`.
-std::optional<std::vector<Token>> ParseTokens(const std::vector<std::string>& texts, std::string& error) {
-    std::vector<Token> tokens;
-    tokens.reserve(texts.size());
-    for (const std::string& t : texts) {
-        auto token = ParseToken(t);
-        if (!token) {
-            error = "unknown token: " + Printable(t);
-            return std::nullopt;
-        }
-        tokens.push_back(std::move(*token));
+constexpr bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+
+// Calls `each` with every whitespace-separated word of `text`.
+template <typename F>
+void ForEachWord(std::string_view text, F&& each) {
+    std::size_t i = 0;
+    while (i < text.size()) {
+        while (i < text.size() && IsSpace(text[i])) ++i;
+        const std::size_t start = i;
+        while (i < text.size() && !IsSpace(text[i])) ++i;
+        if (i > start && !each(text.substr(start, i - start))) return;
     }
-    return tokens;
+}
+
+// Checks every word before any runs; on a bad one names it in `error`.
+template <typename Words>
+bool CheckTokens(const Words& words, std::string& error) {
+    bool ok = true;
+    words([&](std::string_view word) {
+        if (ParseToken(word)) return true;
+        error = "unknown token: " + Printable(word);
+        ok = false;
+        return false;
+    });
+    return ok;
 }
 
 // Runs one token; false when a key of it was not accepted.
 bool RunToken(Session& session, const Token& t) {
     switch (t.kind) {
-        case TokenKind::Keys: {
+        case TokenKind::Key: return session.Tap(t.id);
+        case TokenKind::Number: {
             bool accepted = true;
-            for (const FunctionId id : t.keys) accepted = session.Tap(id) && accepted;
+            TypeNumber(t.text, [&](FunctionId id) { accepted = session.Tap(id) && accepted; });
             return accepted;
         }
         case TokenKind::Characters: {
@@ -146,13 +160,32 @@ bool RunToken(Session& session, const Token& t) {
         case TokenKind::Redo: session.Redo(); return true;
         case TokenKind::Copy: session.Copy(); return true;
         case TokenKind::Cut: session.Cut(); return true;
-        case TokenKind::Paste:
-            session.PasteText(t.text);
-            return true;
+        case TokenKind::Paste: session.PasteText(t.text); return true;
         case TokenKind::Basic: session.Basic(); return true;
         case TokenKind::Advanced: session.Advanced(); return true;
     }
     return true;
+}
+
+// Runs every word as a token; the indices of tokens with a refused key go to `rejected`. Stops at
+// a word that is no token and names it in `error`: nothing has been shown or saved by then, so
+// the run ends as if it had not started.
+template <typename Words>
+bool RunTokens(Session& session, const Words& words, std::vector<int>& rejected, std::string& error) {
+    int index = 0;
+    bool ok = true;
+    words([&](std::string_view word) {
+        const auto token = ParseToken(word);
+        if (!token) {
+            error = "unknown token: " + Printable(word);
+            ok = false;
+            return false;
+        }
+        if (!RunToken(session, *token)) rejected.push_back(index);
+        ++index;
+        return true;
+    });
+    return ok;
 }
 
 void PrintLine(std::ostream& out, const Engine& e, int level, std::string_view name) {
@@ -167,33 +200,23 @@ void PrintStack(std::ostream& out, const Engine& e) {
     for (int level = 3; level >= 0; --level) PrintLine(out, e, level, kNames[level]);
 }
 
-std::vector<std::string> SplitWords(const std::string& text) {
-    std::vector<std::string> words;
-    std::size_t i = 0;
-    while (i < text.size()) {
-        while (i < text.size() && std::isspace(static_cast<unsigned char>(text[i]))) ++i;
-        const std::size_t start = i;
-        while (i < text.size() && !std::isspace(static_cast<unsigned char>(text[i]))) ++i;
-        if (i > start) words.emplace_back(text, start, i - start);
-    }
-    return words;
-}
-
 int Interactive(Session& session, CliHost& host, std::istream& in, std::ostream& out, std::ostream& err) {
     host.echo = &out;
     out << "Brinto. Type keys (2 enter 3 +), \"quit\" to leave.\n";
     PrintStack(out, session.engine());
     std::string line;
     while (out << "> " << std::flush, std::getline(in, line)) {
-        const std::vector<std::string> words = SplitWords(line);
-        if (words.size() == 1 && words[0] == "quit") break;
+        const auto words = [&](auto&& each) { ForEachWord(line, each); };
+        bool quit = false;
+        words([&](std::string_view w) { return !(quit = (w == "quit")); });
+        if (quit) break;
         std::string error;
-        const auto tokens = ParseTokens(words, error);
-        if (!tokens) {
+        if (!CheckTokens(words, error)) {
             err << error << '\n';
             continue;
         }
-        for (const Token& t : *tokens) RunToken(session, t);
+        std::vector<int> rejected;
+        RunTokens(session, words, rejected, error);
         PrintStack(out, session.engine());
     }
     return 0;
@@ -213,20 +236,21 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
         for (const KeyInfo& k : kKeyTable) out << k.name << ' ' << k.id << '\n';
         return 0;
     }
-    std::vector<std::string> words = options->tokens;
-    const bool interactive = words.empty() && inIsTerminal && !options->json;
-    if (words.empty() && !inIsTerminal) {
-        const std::string script{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-        words = SplitWords(script);
+    const bool interactive = options->tokens.empty() && inIsTerminal && !options->json;
+    std::string script;
+    if (options->tokens.empty() && !inIsTerminal) {
+        script.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
     }
-    std::optional<std::vector<Token>> tokens;
-    if (!interactive) {
-        tokens = ParseTokens(words, error);
-        if (!tokens) {
-            err << "brinto-cli: " << error << '\n';
-            return 2;
+    // The tokens: the arguments, or the words of the script.
+    const auto words = [&](auto&& each) {
+        if (options->tokens.empty()) {
+            ForEachWord(script, each);
+            return;
         }
-    }
+        for (const std::string& t : options->tokens) {
+            if (!each(std::string_view(t))) return;
+        }
+    };
 
     LocalePlatform platform;
     platform.pinnedNow = options->now;
@@ -237,8 +261,9 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
     if (options->seed) engine.state.randomSeed = *options->seed;
 
     if (interactive) return Interactive(session, host, in, out, err);
-    for (std::size_t i = 0; i < tokens->size(); ++i) {
-        if (!RunToken(session, (*tokens)[i])) host.report.rejected.push_back(static_cast<int>(i));
+    if (!RunTokens(session, words, host.report.rejected, error)) {
+        err << "brinto-cli: " << error << '\n';
+        return 2;
     }
     if (options->json) {
         out << JsonReport(session, host.report);

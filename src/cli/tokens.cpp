@@ -1,8 +1,5 @@
 #include "cli/tokens.h"
 
-#include <charconv>
-
-#include "engine/function_ids.h"
 #include "engine/key_table.h"
 
 namespace brinto {
@@ -14,8 +11,11 @@ bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 std::optional<int> WholeNumber(std::string_view text, int low, int high) {
     if (text.empty() || text.size() > 6) return std::nullopt;
     int value = 0;
-    const auto r = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (r.ec != std::errc{} || r.ptr != text.data() + text.size() || value < low || value > high) return std::nullopt;
+    for (const char c : text) {
+        if (!IsDigit(c)) return std::nullopt;
+        value = value * 10 + (c - '0');
+    }
+    if (value < low || value > high) return std::nullopt;
     return value;
 }
 
@@ -23,39 +23,28 @@ bool StartsWith(std::string_view text, std::string_view prefix) { return text.su
 
 }  // namespace
 
-std::optional<std::vector<FunctionId>> NumberKeys(std::string_view t) {
-    std::vector<FunctionId> keys;
-    std::size_t i = 0;
-    const bool negative = i < t.size() && t[i] == '-';
-    if (negative) ++i;
+bool IsNumberToken(std::string_view t) {
+    std::size_t i = (!t.empty() && t[0] == '-') ? 1 : 0;
     bool digits = false, point = false;
     for (; i < t.size(); ++i) {
         if (IsDigit(t[i])) {
-            keys.push_back(static_cast<FunctionId>(t[i] - '0'));
             digits = true;
         } else if (t[i] == '.' && !point) {
-            keys.push_back(fid::Point);
             point = true;
         } else {
             break;
         }
     }
-    if (!digits) return std::nullopt;
-    if (negative) keys.push_back(fid::ChangeSign);
-    if (i < t.size()) {
-        if (t[i] != 'e' && t[i] != 'E') return std::nullopt;
-        ++i;
-        bool exponentNegative = false;
-        if (i < t.size() && (t[i] == '-' || t[i] == '+')) exponentNegative = t[i++] == '-';
-        if (i == t.size()) return std::nullopt;
-        keys.push_back(fid::Exponent);
-        if (exponentNegative) keys.push_back(fid::ChangeSign);
-        for (; i < t.size(); ++i) {
-            if (!IsDigit(t[i])) return std::nullopt;
-            keys.push_back(static_cast<FunctionId>(t[i] - '0'));
-        }
+    if (!digits) return false;
+    if (i == t.size()) return true;
+    if (t[i] != 'e' && t[i] != 'E') return false;
+    ++i;
+    if (i < t.size() && (t[i] == '-' || t[i] == '+')) ++i;
+    if (i == t.size()) return false;
+    for (; i < t.size(); ++i) {
+        if (!IsDigit(t[i])) return false;
     }
-    return keys;
+    return true;
 }
 
 std::optional<Token> ParseToken(std::string_view text) {
@@ -63,20 +52,20 @@ std::optional<Token> ParseToken(std::string_view text) {
     if (text[0] == '#') {
         const auto id = WholeNumber(text.substr(1), 0, 65535);
         if (!id) return std::nullopt;
-        return Token{TokenKind::Keys, {static_cast<FunctionId>(*id)}, {}, 0};
+        return Token{TokenKind::Key, static_cast<FunctionId>(*id), {}, 0};
     }
-    if (auto keys = NumberKeys(text)) return Token{TokenKind::Keys, std::move(*keys), {}, 0};
-    if (StartsWith(text, "keys:")) return Token{TokenKind::Characters, {}, std::string(text.substr(5)), 0};
-    if (StartsWith(text, "paste:")) return Token{TokenKind::Paste, {}, std::string(text.substr(6)), 0};
+    if (IsNumberToken(text)) return Token{TokenKind::Number, 0, text, 0};
+    if (StartsWith(text, "keys:")) return Token{TokenKind::Characters, 0, text.substr(5), 0};
+    if (StartsWith(text, "paste:")) return Token{TokenKind::Paste, 0, text.substr(6), 0};
     if (StartsWith(text, "kb:")) {
         const auto n = WholeNumber(text.substr(3), 0, 8);
         if (!n) return std::nullopt;
-        return Token{TokenKind::Keyboard, {}, {}, *n};
+        return Token{TokenKind::Keyboard, 0, {}, *n};
     }
     if (StartsWith(text, "key:")) {
         const auto n = WholeNumber(text.substr(4), 1, 12);
         if (!n) return std::nullopt;
-        return Token{TokenKind::BlockKey, {}, {}, *n};
+        return Token{TokenKind::BlockKey, 0, {}, *n};
     }
     struct Command {
         std::string_view name;
@@ -86,9 +75,9 @@ std::optional<Token> ParseToken(std::string_view text) {
                                             {"copy", TokenKind::Copy}, {"cut", TokenKind::Cut},
                                             {"basic", TokenKind::Basic}, {"advanced", TokenKind::Advanced}};
     for (const Command& c : kCommands) {
-        if (text == c.name) return Token{c.kind, {}, {}, 0};
+        if (text == c.name) return Token{c.kind, 0, {}, 0};
     }
-    if (const auto id = KeyByName(text)) return Token{TokenKind::Keys, {*id}, {}, 0};
+    if (const auto id = KeyByName(text)) return Token{TokenKind::Key, *id, {}, 0};
     return std::nullopt;
 }
 

@@ -23,7 +23,7 @@ public:
 
     // Empties both lists and takes a staging snapshot of `live` (when given).
     void Init(const EngineRecords* live = nullptr);
-    void TakeSnapshot(const EngineRecords& live) { m_staging = live; }
+    void TakeSnapshot(const EngineRecords& live);
     // Keeps the staging snapshot as an undo step if `live` differs from the newest step.
     void Commit(const EngineRecords& live);
     bool CanUndo() const { return m_undoCount > 0; }
@@ -36,13 +36,20 @@ public:
 
 private:
     static bool SameIgnoringShift(const EngineRecords& a, const EngineRecords& b);
-    // Each list is a ring of slots, newest last; the two share the ten slots.
-    std::array<EngineRecords, kHistoryRecords> m_undo{};
-    std::array<EngineRecords, kHistoryRecords> m_redo{};
+    int NewestUndo() const { return m_undo[(m_undoHead + m_undoCount - 1) % kHistoryRecords]; }
+
+    // Ten history records and the staging snapshot. Steps move between the lists by index, so a
+    // commit copies nothing: the staging record becomes the step and a free record the new stage.
+    std::array<EngineRecords, kHistoryRecords + 1> m_slots{};
+    std::array<int, kHistoryRecords> m_undo{};  // ring, oldest at m_undoHead
+    std::array<int, kHistoryRecords> m_redo{};  // stack, newest last
+    std::array<int, kHistoryRecords> m_free{};  // stack
+    int m_undoHead = 0;
     int m_undoCount = 0;
-    int m_undoHead = 0;  // index of the oldest undo step
     int m_redoCount = 0;
-    EngineRecords m_staging{};
+    int m_freeCount = 0;
+    int m_staging = kHistoryRecords;
+    bool m_stagingFresh = false;  // a staging snapshot is kept at most once
 };
 
 }  // namespace brinto

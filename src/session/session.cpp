@@ -143,20 +143,27 @@ void Session::AfterRestore() {
     m_host.Repaint();
 }
 
-void Session::Undo() {
-    if (!m_engine.history.Undo(m_engine.Records(), m_engine.prefs.StickyShift())) {
-        m_host.ShowMessage(message::NothingToUndoCaption, message::NothingToUndoText);
-        return;
-    }
+// Undo and redo are commands, not keys: the last-key words keep what the user last pressed, so
+// "Repeat last key" still repeats it.
+bool Session::Restore(bool undo) {
+    CalcState& s = m_engine.state;
+    const u32 lastKey = s.lastKey, lastCommand = s.lastCommand;
+    const bool keepShift = m_engine.prefs.StickyShift();
+    const bool restored = undo ? m_engine.history.Undo(m_engine.Records(), keepShift)
+                               : m_engine.history.Redo(m_engine.Records(), keepShift);
+    if (!restored) return false;
+    s.lastKey = lastKey;
+    s.lastCommand = lastCommand;
     AfterRestore();
+    return true;
+}
+
+void Session::Undo() {
+    if (!Restore(true)) m_host.ShowMessage(message::NothingToUndoCaption, message::NothingToUndoText);
 }
 
 void Session::Redo() {
-    if (!m_engine.history.Redo(m_engine.Records(), m_engine.prefs.StickyShift())) {
-        m_host.ShowMessage(message::NothingToRedoCaption, message::NothingToRedoText);
-        return;
-    }
-    AfterRestore();
+    if (!Restore(false)) m_host.ShowMessage(message::NothingToRedoCaption, message::NothingToRedoText);
 }
 
 void Session::Copy() {

@@ -51,6 +51,7 @@ public:
 private:
     // Dispatches one key and raises the macro messages that the key caused.
     bool Execute(FunctionId id);
+    bool Restore(bool undo);
     void AfterRestore();
 
     Engine& m_engine;

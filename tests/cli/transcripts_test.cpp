@@ -1,0 +1,150 @@
+// End-to-end transcripts: each file under tests/cli/transcripts holds cases of
+//   $ TOKENS...        run `brinto-cli --json --memory TOKENS` ($! runs the arguments as given)
+//   < TEXT             a line of standard input
+//   exit = N           the exit status (default 0)
+//   stderr ~ TEXT      standard error contains TEXT
+//   stdout = TEXT      standard output, without its last newline
+//   PATH = VALUE       a field of the JSON report ("stack.0.text = 5."), arrays as [1,2]
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "cli_runner.h"
+
+namespace brinto::test {
+namespace {
+
+struct Case {
+    std::string where;
+    std::vector<std::string> args;
+    std::string input;
+    std::vector<std::pair<std::string, std::string>> checks;
+};
+
+std::vector<std::string> Words(const std::string& text) {
+    std::istringstream in(text);
+    std::vector<std::string> words;
+    for (std::string w; in >> w;) words.push_back(w);
+    return words;
+}
+
+std::string Trim(const std::string& s) {
+    const auto b = s.find_first_not_of(' ');
+    const auto e = s.find_last_not_of(' ');
+    return b == std::string::npos ? "" : s.substr(b, e - b + 1);
+}
+
+std::vector<Case> ReadCases(const std::filesystem::path& file) {
+    std::ifstream in(file);
+    std::vector<Case> cases;
+    std::string line;
+    for (int number = 1; std::getline(in, line); ++number) {
+        if (line.empty() || line[0] == '#') continue;
+        const std::string where = file.filename().string() + ":" + std::to_string(number);
+        if (line.rfind("$!", 0) == 0) {
+            cases.push_back({where, Words(line.substr(2)), {}, {}});
+        } else if (line[0] == '$') {
+            cases.push_back({where, {"--json", "--memory"}, {}, {}});
+            for (const std::string& w : Words(line.substr(1))) cases.back().args.push_back(w);
+        } else if (!cases.empty() && line[0] == '<') {
+            cases.back().input += line.substr(line.size() > 1 && line[1] == ' ' ? 2 : 1) + "\n";
+        } else if (!cases.empty()) {
+            const auto tilde = line.find(" ~ ");
+            const auto eq = line.find(" = ");
+            if (tilde != std::string::npos && (eq == std::string::npos || tilde < eq)) {
+                cases.back().checks.emplace_back(Trim(line.substr(0, tilde)) + "~", line.substr(tilde + 3));
+            } else if (eq != std::string::npos) {
+                cases.back().checks.emplace_back(Trim(line.substr(0, eq)), line.substr(eq + 3));
+            }
+        }
+    }
+    return cases;
+}
+
+void RunCase(const Case& c) {
+    SCOPED_TRACE(c.where);
+    const RunResult r = RunCli(c.args, c.input);
+    int expectedExit = 0;
+    std::optional<Json> json;
+    for (const auto& [path, value] : c.checks) {
+        if (path == "exit") {
+            expectedExit = std::stoi(value);
+        } else if (path == "stderr~") {
+            EXPECT_NE(r.err.find(value), std::string::npos) << "stderr: " << r.err;
+        } else if (path == "stdout") {
+            EXPECT_EQ(r.out.substr(0, r.out.empty() ? 0 : r.out.size() - 1), value);
+        } else {
+            if (!json) json = ParseJson(r.out);
+            ASSERT_TRUE(json.has_value()) << "not JSON: " << r.out << r.err;
+            const Json* node = json->Find(path);
+            ASSERT_NE(node, nullptr) << "no field " << path;
+            EXPECT_EQ(node->Compact(), value) << path;
+        }
+    }
+    EXPECT_EQ(r.exitCode, expectedExit) << r.err;
+}
+
+TEST(Transcripts, EveryCaseHolds) {
+    const std::filesystem::path folder = std::filesystem::path(BRINTO_SOURCE_DIR) / "tests/cli/transcripts";
+    int count = 0;
+    for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+        if (entry.path().extension() != ".txt") continue;
+        for (const Case& c : ReadCases(entry.path())) {
+            RunCase(c);
+            ++count;
+        }
+    }
+    EXPECT_GT(count, 0);
+}
+
+TEST(Cli, JsonReportIsOneObjectWithEveryField) {
+    const RunResult r = RunCli({"--json", "--memory", "1", "2"});
+    ASSERT_EQ(r.exitCode, 0);
+    const auto json = ParseJson(r.out);
+    ASSERT_TRUE(json.has_value());
+    for (const char* field : {"stack", "depth", "lastX", "entry", "status", "viewFlags", "engineFlags", "pending",
+                              "repeatOperator", "parenDepth", "registers", "cashFlowCount", "groupCounts", "amort",
+                              "prefs", "macro", "messages", "rejected", "clipboard"}) {
+        EXPECT_NE(json->Find(field), nullptr) << field;
+    }
+    EXPECT_EQ(json->Find("stack")->items.size(), 20u);
+    EXPECT_EQ(json->Find("registers")->items.size(), 124u);
+    EXPECT_EQ(json->Find("groupCounts")->items.size(), 100u);
+    EXPECT_EQ(json->Find("entry")->Compact(), "12");
+}
+
+TEST(Cli, BadInputIsAOneLineErrorWithStatusTwo) {
+    const std::vector<std::vector<std::string>> bad = {
+        {"--memory", "bogus"}, {"--memory", "--nonsense"}, {"--memory", "#65536"}, {"--memory", "#-1"},
+        {"--memory", "kb:9"}, {"--memory", "key:13"}, {"--memory", std::string(100000, '7') + "x"},
+        {"--memory", "--pref", "7=1"}, {"--memory", "--now", "2020-13-01 00:00:00"}, {"--memory", "--db"},
+    };
+    for (const auto& args : bad) {
+        SCOPED_TRACE(args.back().substr(0, 20));
+        const RunResult r = RunCli(args);
+        EXPECT_EQ(r.exitCode, 2);
+        EXPECT_TRUE(r.out.empty());
+        EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 1) << r.err;
+    }
+}
+
+TEST(Cli, BinaryJunkOnStandardInputIsRefused) {
+    std::string junk;
+    for (int i = 0; i < 4096; ++i) junk += static_cast<char>((i * 37 + 11) % 256);
+    const RunResult r = RunCli({"--memory"}, junk);
+    EXPECT_EQ(r.exitCode, 2);
+    EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 1);
+}
+
+TEST(Cli, ListKeysNamesEveryKey) {
+    const RunResult r = RunCli({"--list-keys"});
+    ASSERT_EQ(r.exitCode, 0);
+    EXPECT_NE(r.out.find("enter 21\n"), std::string::npos);
+    EXPECT_NE(r.out.find("+ 22\n"), std::string::npos);
+    EXPECT_NE(r.out.find("rpn 211\n"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace brinto::test
