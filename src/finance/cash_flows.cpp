@@ -52,7 +52,8 @@ double InternalRateOfReturn(const RegisterBank& registers, double guess) {
 
 bool AppendCashFlow(Engine& e) {
     RegisterBank& r = e.registers;
-    if (r.cashFlowCount + 1 >= kMostCashFlows) return false;
+    // Full, or a count no key could have left (a damaged record): nothing to append to.
+    if (r.cashFlowCount + 1 >= kMostCashFlows || r.cashFlowCount < -1) return false;
     if (e.EntryOpen()) {
         e.FinishEntry();
         e.DisableLift();
@@ -69,7 +70,7 @@ bool AppendCashFlow(Engine& e) {
 
 bool SetGroupCount(Engine& e) {
     RegisterBank& r = e.registers;
-    if (r.cashFlowCount < 0) return false;
+    if (r.cashFlowCount < 0 || r.cashFlowCount >= kMostCashFlows) return false;
     if (e.EntryOpen()) {
         e.FinishEntry();
         e.DisableLift();

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <utility>
 
-#include "display/number_format.h"
+#include "finance/clean_difference.h"
 #include "engine/types.h"
 
 namespace brinto {
@@ -70,7 +70,7 @@ double SolveSecant(Residual f, double x0, double x1) {
 }
 
 double SolveFromGuess(Residual f, double guess) {
-    return SolveSecant(f, RoundTo14(guess - 0.1), guess + 0.1);
+    return SolveSecant(f, CleanDifference(guess, 0.1), guess + 0.1);
 }
 
 }  // namespace brinto

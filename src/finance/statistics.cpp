@@ -3,7 +3,7 @@
 #include <array>
 #include <cmath>
 
-#include "display/number_format.h"
+#include "finance/clean_difference.h"
 #include "engine/register_keys.h"
 #include "finance/result_labels.h"
 
@@ -101,10 +101,10 @@ void ShowEstimate(Engine& e, FunctionId id) {
     const StatisticsSums s = SumsFromRegisters(e);
     const CentredSums c = Centre(s);
     const double slope = c.xy / c.xx;
-    const double intercept = RoundTo14((1.0 / s.count) * s.sumY - (1.0 / s.count) * s.sumX * slope);
+    const double intercept = CleanDifference((1.0 / s.count) * s.sumY, (1.0 / s.count) * s.sumX * slope);
     if (id == fid::EstimateX) {
         const double correlation = c.xy / std::sqrt(c.yy * c.xx);
-        e.SetX(RoundTo14(e.X() - intercept) / slope);
+        e.SetX(CleanDifference(e.X(), intercept) / slope);
         e.SetXTag(label::EstimateX);
         e.SetY(correlation);
         e.SetYTag(label::Correlation);
@@ -124,8 +124,8 @@ StatisticsSums SumsFromRegisters(const Engine& e) {
 }
 
 CentredSums Centre(const StatisticsSums& s) {
-    return {RoundTo14(s.sumX2 - (s.sumX / s.count) * s.sumX), RoundTo14(s.sumY2 - (s.sumY / s.count) * s.sumY),
-            RoundTo14(s.sumXY - (s.sumX / s.count) * s.sumY)};
+    return {CleanDifference(s.sumX2, (s.sumX / s.count) * s.sumX), CleanDifference(s.sumY2, (s.sumY / s.count) * s.sumY),
+            CleanDifference(s.sumXY, (s.sumX / s.count) * s.sumY)};
 }
 
 bool HandleStatisticsKey(Engine& e, FunctionId id) {
