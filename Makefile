@@ -1,8 +1,15 @@
 # Brinto: `make run` starts the calculator, `make test` builds and runs every test.
 JOBS ?= $(shell nproc)
 CMAKE_FLAGS ?=
+# Fuzzing: seconds per target for `make fuzz`, targets run at once, and clang's packages.
+FUZZ_SECONDS ?= 60
+FUZZ_JOBS ?= 2
+FUZZ_CXX ?= clang++-14
+FUZZ_PACKAGES = clang-14 libclang-rt-14-dev libfuzzer-14-dev
+FUZZ_CMAKE = cmake -S . -B build-fuzz -DCMAKE_CXX_COMPILER=$(FUZZ_CXX) -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+	-DBRINTO_TESTS=OFF -DBRINTO_FUZZ=ON $(CMAKE_FLAGS)
 
-.PHONY: all deps build run test test-release test-sanitize bench clean
+.PHONY: all deps build run test test-release test-sanitize bench clean fuzz-deps fuzz-build test-fuzz fuzz fuzz-coverage
 
 all: build
 
@@ -16,7 +23,7 @@ build: deps
 run: build
 	./build/brinto-cli
 
-test: deps test-release test-sanitize
+test: deps test-release test-sanitize test-fuzz
 
 test-release:
 	cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo -DBRINTO_WERROR=ON $(CMAKE_FLAGS)
@@ -34,5 +41,25 @@ bench: deps
 	cmake --build build-bench -j $(JOBS)
 	./build-bench/brinto_bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true
 
+# Every fuzz target for 20 s on its seeds plus new inputs: a regression check, not a search.
+test-fuzz: fuzz-build
+	FUZZ_JOBS=$(FUZZ_JOBS) scripts/fuzz.sh 20 build-fuzz/run
+
+# A longer search; the corpus it grows stays in fuzz/out/ (not in git) for the next run.
+fuzz: fuzz-build
+	FUZZ_JOBS=$(FUZZ_JOBS) scripts/fuzz.sh $(FUZZ_SECONDS) fuzz/out
+
+fuzz-deps:
+	@scripts/install-deps.sh $(FUZZ_PACKAGES)
+
+fuzz-build: fuzz-deps
+	$(FUZZ_CMAKE)
+	cmake --build build-fuzz -j $(JOBS)
+
+# Line coverage of the sources reached by the fuzzers' corpora (seeds and fuzz/out/).
+fuzz-coverage:
+	@scripts/install-deps.sh $(FUZZ_PACKAGES) llvm-14
+	scripts/fuzz-coverage.sh
+
 clean:
-	rm -rf build build-asan build-bench
+	rm -rf build build-asan build-bench build-fuzz build-fuzz-cov

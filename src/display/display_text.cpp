@@ -97,7 +97,8 @@ DisplayLine DisplayLevel(const Engine& e, int level, Amortizing amortizing) {
     const StackEntry entry = e.Level(level);
     DisplayLine line;
     line.label = LevelLabel(e, entry, amortizing);
-    if (level == 0 && e.EntryOpen()) {
+    // A sign changed away from an otherwise empty entry leaves nothing typed: X (zero) is shown.
+    if (level == 0 && e.EntryOpen() && e.state.entryText[0] != '\0') {
         line.text = DisplayText(e, e.state.entryText, entry.tag);
         return line;
     }

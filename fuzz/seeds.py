@@ -1,0 +1,119 @@
+#!/usr/bin/env python3
+"""Writes the seed inputs of the fuzz targets into corpus/<target>/.
+
+Each seed is a small, meaningful use of the surface (a calculation in each input method, a macro,
+a paste, a legacy export...), so that the fuzzers start from inputs that reach deep instead of
+having to discover the key codes and record layouts by chance. Run it again after changing a
+target's input layout; the files are kept in the repository.
+"""
+import os
+import struct
+import sys
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+
+# session_keys_fuzzer: a byte below 96 taps the key named by the next byte; 95 + n runs step n.
+STEP = {name: 95 + n for n, name in enumerate(
+    ["TapRawId", "DispatchKey", "Character", "Special", "Action", "Undo", "Redo", "Copy", "Cut",
+     "Paste", "PasteText", "SelectKeyboard", "BlockKey", "BasicOrAdvanced", "PreferenceWord",
+     "PreferenceField", "UserKey", "HostAnswers"], start=1)}
+
+
+def keys(*ids):
+    return b"".join(bytes([0, i]) for i in ids)
+
+
+def step(name, *payload):
+    return bytes([STEP[name], *payload])
+
+
+def text_step(name, text, prefix=b""):
+    data = text.encode() if isinstance(text, str) else text
+    return bytes([STEP[name]]) + prefix + bytes([len(data)]) + data
+
+
+SIMPLE, PRECEDENCE, RPN = 209, 210, 211
+ENTER, ADD, SUB, MUL, DIV, EQ = 21, 22, 23, 24, 25, 26
+
+SESSION = {
+    "rpn_arithmetic": keys(RPN, 2, ENTER, 3, ADD, 5, MUL, 4, ENTER, 0, DIV, 38, 39, 40, 41, 42, 44, 207, 208),
+    "simple_and_precedence": keys(SIMPLE, 2, ADD, 3, MUL, 5, EQ, PRECEDENCE, 2, ADD, 3, MUL, 5, EQ, EQ,
+                                  47, 2, ADD, 47, 3, 48, 48, MUL, MUL, 4, EQ),
+    "entry_editing": keys(1, 16, 2, 3, 18, 19, 4, 5, 6, 7, 20, 20, 19, 17, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9),
+    "undo_redo": keys(RPN, 1, ENTER, 2, ADD, 3, MUL) + step("Undo") + step("Undo") + step("Redo")
+    + keys(7) + step("Redo") + step("Undo") * 12,
+    "macro": keys(RPN, 212, 1, ENTER, 2, ADD, 214, 3, MUL, 215, 213, 213, 214, 215, 212) + keys(*([1] * 64)) + keys(213),
+    "programmer": step("SelectKeyboard", 5) + keys(133, 10, 11, 12, 13, 14, 15, ENTER, 130, 1, 0, 1, 1, 180,
+                                                   131, 7, 7, 182, 134, 135, 136, 137, 138, 139, 140, 141, 178, 179)
+    + step("BlockKey", 1) + step("BlockKey", 7) + keys(167, 168, 169, 170, 171, 172, 132),
+    "scientific": keys(RPN, 3, 89, 90, 91, 92, 93, 94, 95, 96, 89, 97, 98, 99, 100, 102, 104, 105, 106, 107, 108, 109,
+                       5, 124, 125, 123, 60, 61, 62, 63, 2, 64, 3, 166, 4, 54, 55, 56, 57, 58, 59, 65, 66, 67, 176, 177),
+    "financial": keys(RPN, 3, 6, 0, 69, 5, 70, 1, 0, 0, 0, 0, 0, 71, 0, 73, 72, 68, 72, 1, 2, 74, 6, 75, 76, 77, 78,
+                      1, 0, 79, 1, 2, 80, 81, 82, 1, 83, 84, 241, 26, 29),
+    "cash_flows": keys(RPN, 1, 0, 0, 19, 43, 0, 3, 0, 43, 1, 4, 0, 43, 85, 2, 86, 1, 0, 87, 88, 35, 36, 37),
+    "statistics": keys(RPN, 1, ENTER, 2, 110, 3, ENTER, 5, 110, 4, ENTER, 9, 110, 111, 112, 113, 114, 115, 116, 117,
+                       118, 119, 120, 121, 122, 126, 127, 128, 129),
+    "units_and_dates": keys(RPN, 1, 0, 142, 143, 144, 145, 216, 217, 218, 219, 220, 164, 165, 150, 151, 152, 153,
+                            160, 161, 162, 229, 230, 186, 187, 188, 1, 0, 192, ADD, 189, 190, 191, 193, 194, 195,
+                            196, 197, 198, 199, 200, 201, 202, 203, 204, 205, 185),
+    "registers_and_formats": keys(RPN, 7, 43, 1, 2, 45, 1, 2, 46, 0, 5, 43, ADD, 3, 248, 9, 9, 244, 9, 9, 85,
+                                  173, 16, 174, 3, 175, 4, 184, 2, 184, 20, 28, 68),
+    "paste_and_clipboard": text_step("PasteText", "abc -12.5e3xyz") + step("Copy") + step("Cut") + step("Paste")
+    + text_step("HostAnswers", "0x1F,5", prefix=b"\x01") + step("Paste") + step("SelectKeyboard", 5)
+    + keys(133) + text_step("PasteText", "DEADBEEF1"),
+    "preferences_and_clear_all": step("PreferenceWord", 2, 0x51, 0x00) + keys(1, ENTER, 2, ADD)
+    + step("PreferenceField", 1, 4) + step("PreferenceField", 5, 2) + keys(27, 27, 250, 251, 27)
+    + step("PreferenceWord", 3, 0x0C, 0x00) + step("HostAnswers", 0, 0) + keys(29)
+    + step("HostAnswers", 1, 0) + keys(32) + step("PreferenceWord", 2, 0xFF, 0xFF) + keys(38, 39, 41),
+    "hardware_keys": b"".join(step("Character", ord(c)) for c in "12+3*4=\b5.5e2/2=%()sr")
+    + step("Special", 0) + step("Special", 1) + step("Special", 2) + step("Special", 3) + step("Special", 5)
+    + step("Special", 6) + step("Action") + step("PreferenceField", 6, 3) + step("Action") + step("BasicOrAdvanced", 1)
+    + step("BasicOrAdvanced", 0),
+    "user_keyboard": step("UserKey", 0, 22) + step("UserKey", 1, 89) + step("UserKey", 12, 10)
+    + step("SelectKeyboard", 9) + keys(5) + step("BlockKey", 1) + step("BlockKey", 2) + step("BlockKey", 3)
+    + step("PreferenceField", 8, 2) + keys(27) + step("BlockKey", 1),
+    "unknown_ids": step("TapRawId", 0xFF, 0, 0, 0) + step("TapRawId", 0x10, 0x27, 0, 0) + step("DispatchKey", 252)
+    + step("TapRawId", 0xFF, 0xFF, 0xFF, 0xFF) + keys(42, 43, 255, 253),
+}
+
+PASTE = {
+    "decimal": b"\x00" + b"12.5",
+    "comma_radix_exponent": b"\x00" + b"Total: -1,25E-3 units",
+    "huge": b"\x00" + b"9" * 60,
+    "overflow_exponent": b"\x00" + b"1e999",
+    "underflow_exponent": b"\x00" + b"1e-999",
+    "binary": b"\x00" + b"101101",
+    "octal_while_typing": bytes([0x48]) + b"777777777777",
+    "hex": bytes([0x0C]) + b"0xDeadBeef",
+    "no_digits": b"\x01" + b"-.e+",
+    "rpn_trailing_point": bytes([0x42]) + b"3.",
+}
+
+CLI = {
+    "rpn_json": b"\x00--json\n--pref\n2=0x51\n2\nenter\n3\n+",
+    "characters_and_keyboards": b"\x00--json\nkeys:12+3*4=\nkb:4\nhex\nkey:1\nkey:12\nundo\nredo",
+    "paste_and_copy": b"\x00--json\npaste:-12.5e3\ncopy\ncut\npaste:7",
+    "numbers": b"\x00--json\n-1.5e-3\n#65535\n#211\n1.\n.5e",
+    "options": b"\x00--now\n2026-02-28 23:59:59\n--seed\n0xFFFFFFFF\n--json\nnow\nrand",
+    "bad_option": b"\x00--pref\n9=1",
+    "list_keys": b"\x00--list-keys",
+    "stdin_script": b"\x01--json\x002 enter 3 +\n  sin\tbasic advanced\n",
+    "interactive": b"\x09\x00" + b"1 2 +\nbogus\nundo\nquit\n",
+    "db_option": b"\x00--db\n/nonexistent/state.db\n1",
+}
+
+
+def write(target, seeds):
+    folder = os.path.join(HERE, "corpus", target)
+    os.makedirs(folder, exist_ok=True)
+    for name, data in seeds.items():
+        with open(os.path.join(folder, name), "wb") as f:
+            f.write(data)
+
+
+TARGETS = {"session_keys_fuzzer": SESSION, "paste_fuzzer": PASTE, "cli_fuzzer": CLI}
+
+if __name__ == "__main__":
+    for target, seeds in TARGETS.items():
+        if len(sys.argv) < 2 or target in sys.argv[1:]:
+            write(target, seeds)
