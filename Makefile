@@ -54,7 +54,7 @@ fuzz-deps:
 
 fuzz-build: fuzz-deps
 	$(FUZZ_CMAKE)
-	cmake --build build-fuzz -j $(JOBS)
+	cmake --build build-fuzz -j $(JOBS) --target fuzz_targets
 
 # Line coverage of the sources reached by the fuzzers' corpora (seeds and fuzz/out/).
 fuzz-coverage:
