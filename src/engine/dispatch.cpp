@@ -1,6 +1,7 @@
 // Dispatch: every key of every keyboard ends here. Around the family chain it keeps the stack-lift
 // state, the shift latches, macro recording, the undo history and the last-key words consistent.
 #include <array>
+#include <cstring>
 
 #include "engine/algebraic.h"
 #include "engine/built_in.h"
@@ -47,6 +48,11 @@ u32 Digit(Engine& e, FunctionId id) {
 }
 
 u32 HexDigit(Engine& e, FunctionId id) {
+    // A decimal number already holding a point or an exponent has no hexadecimal reading, so a
+    // letter cannot switch it to hexadecimal: the key is refused and the number stays as typed.
+    const bool decimalOnly = e.EntryOpen() && e.EntryBase() == 0 &&
+                             (std::strchr(e.state.entryText, '.') || std::strchr(e.state.entryText, 'e'));
+    if (decimalOnly) return 0;
     if (e.IntegerEntryAllowed()) SetBase(e.state, status::BaseHex);
     if (e.EntryBase() != status::BaseHex) return 0;
     return EditEntry(e, id);
