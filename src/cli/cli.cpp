@@ -12,6 +12,7 @@
 #include "cli/tokens.h"
 #include "display/display_text.h"
 #include "engine/key_table.h"
+#include "ops/constants.h"
 
 namespace brinto {
 
@@ -163,6 +164,9 @@ bool RunToken(Session& session, const Token& t) {
         case TokenKind::Paste: session.PasteText(t.text); return true;
         case TokenKind::Basic: session.Basic(); return true;
         case TokenKind::Advanced: session.Advanced(); return true;
+        case TokenKind::Constant:
+            // No list is scrolled here, so the remembered list position stays as it is.
+            return session.RecallConstant(t.number, session.engine().state.constantsTopRow);
     }
     return true;
 }
@@ -234,6 +238,7 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
     }
     if (options->listKeys) {
         for (const KeyInfo& k : kKeyTable) out << k.name << ' ' << k.id << '\n';
+        for (int i = 0; i < kConstantCount; ++i) out << "const:" << i << ' ' << ConstantName(i) << '\n';
         return 0;
     }
     const bool interactive = options->tokens.empty() && inIsTerminal && !options->json;

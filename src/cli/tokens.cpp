@@ -67,6 +67,11 @@ std::optional<Token> ParseToken(std::string_view text) {
         if (!n) return std::nullopt;
         return Token{TokenKind::BlockKey, 0, {}, *n};
     }
+    if (StartsWith(text, "const:")) {
+        const auto n = WholeNumber(text.substr(6), 0, 32);
+        if (!n) return std::nullopt;
+        return Token{TokenKind::Constant, 0, {}, *n};
+    }
     struct Command {
         std::string_view name;
         TokenKind kind;

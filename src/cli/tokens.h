@@ -9,13 +9,13 @@
 namespace brinto {
 
 enum class TokenKind { Key, Number, Characters, Keyboard, BlockKey, Undo, Redo, Copy, Cut, Paste, Basic,
-                       Advanced };
+                       Advanced, Constant };
 
 struct Token {
     TokenKind kind;
     FunctionId id = 0;      // Key
     std::string_view text;  // Number, Characters and Paste
-    int number = 0;         // Keyboard, BlockKey
+    int number = 0;         // Keyboard, BlockKey, Constant
 };
 
 // Nothing when the token is not one brinto-cli knows.

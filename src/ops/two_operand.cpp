@@ -1,9 +1,13 @@
 #include "ops/two_operand.h"
 
 #include <cmath>
+#include <optional>
 
 #include "display/number_format.h"
 #include "engine/families.h"
+#include "ops/date_time.h"
+#include "ops/integer_ops.h"
+#include "ops/units.h"
 
 namespace brinto {
 
@@ -15,6 +19,8 @@ double Factorial(double x) {
 }
 
 namespace {
+
+constexpr ValueTag kHms = 1800, kHours = 1808;
 
 double Combinations(double y, double x) {
     const double top = Factorial(y), bottom = Factorial(x), rest = Factorial(RoundTo14(y - x));
@@ -28,31 +34,65 @@ double Permutations(double y, double x) {
     return top / rest;
 }
 
+bool IsDateKind(const TaggedValue& v) { return TagCategory(v.tag) == 9; }
+
+// Add and subtract (plain or integer) of a date, time or date-time follow the date rules;
+// multiply and divide have no meaning for them.
+TaggedValue DateArithmetic(FunctionId op, TaggedValue y, TaggedValue x) {
+    if (op == fid::Add || op == fid::IntegerAdd) return DateSum(y, x);
+    if (op == fid::Subtract || op == fid::IntegerSubtract) return DateDifference(y, x);
+    return {kErrorValue, 0};
+}
+
+TaggedValue HmsAsHours(TaggedValue v) { return v.tag == kHms ? TaggedValue{HmsToHours(v.value), kHours} : v; }
+
+// The four basic operations on doubles: the units decide the tag and convert an operand into the
+// unit the arithmetic needs; a result in an integer format loses it (a float operation on
+// integers gives a plain number).
+TaggedValue BasicArithmetic(const Engine& e, FunctionId op, TaggedValue y, TaggedValue x) {
+    y = HmsAsHours(y);
+    x = HmsAsHours(x);
+    ValueTag tag = ArithmeticResultTag(op, y, x, DurationSettingsOf(e));
+    if (TagCategory(tag) == 7) tag = 0;
+    switch (op) {
+        case fid::Add: return {y.value + x.value, tag};
+        case fid::Subtract: return {RoundTo14(y.value - x.value), tag};  // so that 0.3 - 0.1 is 0.2
+        case fid::Multiply: return {y.value * x.value, tag};
+        default: return {y.value / x.value, tag};
+    }
+}
+
+std::optional<TaggedValue> Evaluate(const Engine& e, FunctionId op, TaggedValue y, TaggedValue x) {
+    const double a = y.value, b = x.value;
+    switch (op) {
+        case fid::Add: case fid::Subtract: case fid::Multiply: case fid::Divide:
+            if (IsDateKind(y) || IsDateKind(x)) return DateArithmetic(op, y, x);
+            return BasicArithmetic(e, op, y, x);
+        case fid::IntegerAdd: case fid::IntegerSubtract: case fid::IntegerMultiply: case fid::IntegerDivide:
+            if (IsDateKind(y) || IsDateKind(x)) return DateArithmetic(op, y, x);
+            return IntegerOperation(e.prefs, op, y, x);
+        case fid::PercentTotal: return TaggedValue{b / a * 100.0, 0};
+        case fid::PercentChange: return TaggedValue{RoundTo14(b - a) / a * 100.0, 0};
+        case fid::Power: return TaggedValue{std::pow(a, b), 0};
+        case fid::Modulo: return TaggedValue{std::fmod(a, b), 0};
+        case fid::Combinations: return TaggedValue{Combinations(a, b), 0};
+        case fid::Permutations: return TaggedValue{Permutations(a, b), 0};
+        case fid::XRoot: return TaggedValue{std::pow(a, 1.0 / b), 0};
+        default: return IntegerOperation(e.prefs, op, y, x);  // AND .. rotate, or nothing
+    }
+}
+
 }  // namespace
 
 bool EvaluateTwoOperand(Engine& e, FunctionId op) {
-    const double y = e.Y();
-    const double x = e.X();
-    double result;
-    switch (op) {
-        case fid::Add: result = y + x; break;
-        case fid::Subtract: result = RoundTo14(y - x); break;  // so that 0.3 - 0.1 is 0.2
-        case fid::Multiply: result = y * x; break;
-        case fid::Divide: result = y / x; break;
-        case fid::PercentTotal: result = x / y * 100.0; break;
-        case fid::PercentChange: result = RoundTo14(x - y) / y * 100.0; break;
-        case fid::Power: result = std::pow(y, x); break;
-        case fid::Modulo: result = std::fmod(y, x); break;
-        case fid::Combinations: result = Combinations(y, x); break;
-        case fid::Permutations: result = Permutations(y, x); break;
-        case fid::XRoot: result = std::pow(y, 1.0 / x); break;
-        default: return false;
-    }
+    const std::optional<TaggedValue> result = Evaluate(e, op, {e.Y(), e.YTag()}, {e.X(), e.XTag()});
+    if (!result) return false;
     e.SaveLastX();
     // Percent of total and percent change keep the total in Y under RPN.
     const bool keepsY = e.IsRpn() && (op == fid::PercentTotal || op == fid::PercentChange);
     if (!keepsY) e.Drop();
-    e.SetX(result);
+    e.SetX(result->value);
+    e.SetXTag(result->tag);
     return true;
 }
 

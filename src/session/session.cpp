@@ -2,6 +2,7 @@
 
 #include "display/display_text.h"
 #include "engine/function_ids.h"
+#include "ops/constants.h"
 #include "ops/integer_format.h"
 #include "session/keyboards.h"
 #include "session/paste.h"
@@ -179,6 +180,15 @@ void Session::Cut() {
 
 void Session::Paste() {
     if (const auto text = m_host.ClipboardText()) PasteText(*text);
+}
+
+bool Session::RecallConstant(int index, u16 topRow) {
+    Engine& e = m_engine;
+    e.history.TakeSnapshot(e.Records());
+    if (!brinto::RecallConstant(e, index, topRow)) return false;
+    e.history.Commit(e.Records());
+    m_host.Repaint();
+    return true;
 }
 
 void Session::PasteText(std::string_view text) {

@@ -45,6 +45,9 @@ public:
     void Paste();
     void PasteText(std::string_view text);
     void SelectKeyboard(int index);
+    // The "Constants" list's OK on constant `index` (0..32) while `topRow` is its first visible
+    // row; an undoable step. False for an index outside the list.
+    bool RecallConstant(int index, u16 topRow);
     void Basic();
     void Advanced();
 
