@@ -1,0 +1,76 @@
+// One representative key of each calculator family of the Scientific, Programmer, Conversion and
+// Date & Time keyboards, through Engine::Dispatch with its undo snapshot and commit. Each key must
+// stay under a microsecond. The stacks are set up so that every repetition takes the same path.
+#include <benchmark/benchmark.h>
+
+#include "engine/engine.h"
+#include "ops/constants.h"
+#include "session/session.h"
+
+namespace brinto {
+namespace {
+
+struct Level {
+    double value;
+    ValueTag tag;
+};
+
+// Y and X are put back before every key, so that each repetition takes the same path; the rest of
+// the stack holds zeros.
+void KeyOn(benchmark::State& state, Level y, Level x, FunctionId key) {
+    Engine e;
+    e.prefs.SetMethod(InputMethod::Rpn);
+    e.prefs.SetStackDepth(4);
+    e.ClearStack();
+    e.state.status |= status::LiftEnabled;
+    for (auto _ : state) {
+        e.SetLevel(1, StackEntry{y.value, y.tag, kNoAux});
+        e.SetLevel(0, StackEntry{x.value, x.tag, kNoAux});
+        benchmark::DoNotOptimize(e.Dispatch(key));
+    }
+}
+
+// Scientific: sine in degrees (exact-zero tests, conversion to radians); rectangular to polar.
+BENCHMARK_CAPTURE(KeyOn, sine, Level{0, 0}, Level{30, 0}, fid::Sin);
+BENCHMARK_CAPTURE(KeyOn, rectangularToPolar, Level{1, 0}, Level{-1, 0}, fid::RectToPolar);
+BENCHMARK_CAPTURE(KeyOn, factorial170, Level{0, 0}, Level{170, 0}, fid::Factorial);
+
+// Programmer: NOT of a u16 value; rotate right of an 8-bit value through the evaluator.
+BENCHMARK_CAPTURE(KeyOn, bitwiseNot, Level{0, 0}, Level{1234, 1926}, fid::Not);
+BENCHMARK_CAPTURE(KeyOn, rotateRight, Level{3, 1924}, Level{-1, 0}, fid::RotateRight);
+
+// Conversion: a unit key converting inches to feet; meters plus centimetres (X converted into
+// Y's unit); 100 km / 50 mi/h.
+BENCHMARK_CAPTURE(KeyOn, inchesToFeet, Level{0, 0}, Level{12, 1900}, 143);
+BENCHMARK_CAPTURE(KeyOn, metersPlusCm, Level{2, 1903}, Level{50, 1930}, fid::Add);
+BENCHMARK_CAPTURE(KeyOn, kmPerMph, Level{100, 1933}, Level{50, 1911}, fid::Divide);
+
+// Date & Time: Y.MMDD to a date; decimal hours to h.mmss; a date-time plus one day; 90 minutes
+// to hours through the duration chain.
+BENCHMARK_CAPTURE(KeyOn, dateEntry, Level{0, 0}, Level{5.0315, 0}, fid::Date);
+BENCHMARK_CAPTURE(KeyOn, hoursToHms, Level{0, 0}, Level{1.5125, 1808}, fid::ToHms);
+BENCHMARK_CAPTURE(KeyOn, dateTimePlusDay, Level{3193739130.0, 1803}, Level{1, 0}, fid::Add);
+BENCHMARK_CAPTURE(KeyOn, minutesToHours, Level{0, 0}, Level{90, 1809}, 193);
+
+// Constants: the list's OK through the session, with its undo step.
+class NoHost : public Host {
+public:
+    void ShowMessage(std::string_view, std::string_view) override {}
+    bool Confirm(std::string_view, std::string_view) override { return true; }
+    void PutOnClipboard(std::string_view) override {}
+    std::optional<std::string> ClipboardText() override { return std::nullopt; }
+};
+
+void RecallConstantThroughSession(benchmark::State& state) {
+    Engine e;
+    e.prefs.SetMethod(InputMethod::Rpn);
+    e.ClearStack();
+    NoHost host;
+    Session session(e, host);
+    for (auto _ : state) benchmark::DoNotOptimize(session.RecallConstant(7, 0));
+    state.SetItemsProcessed(state.iterations());
+}
+BENCHMARK(RecallConstantThroughSession);
+
+}  // namespace
+}  // namespace brinto
