@@ -49,7 +49,7 @@ DateFields LocalePlatform::Now() const {
 
 std::string LocalePlatform::DateText(const DateFields& date, bool longForm) const {
     // The C library has no long date format of its own; spell out the weekday and the month.
-    return Format(longForm ? "%A, %B %d, %Y" : nl_langinfo(D_FMT), date);
+    return Format(longForm ? "%A, %B %-d, %Y" : nl_langinfo(D_FMT), date);
 }
 
 std::string LocalePlatform::TimeText(const DateFields& time) const {
