@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <cctype>
+#include <cstdlib>
 #include <cstring>
 
 namespace brinto::test {
@@ -27,6 +28,7 @@ RunResult RunCli(const std::vector<std::string>& args, const std::string& input)
     if (pid == 0) {
         dup2(in[0], 0), dup2(out[1], 1), dup2(err[1], 2);
         for (int fd : {in[0], in[1], out[0], out[1], err[0], err[1]}) close(fd);
+        setenv("LC_ALL", "C", 1);  // dates in the transcripts are written the C library's way
         std::vector<char*> argv;
         argv.push_back(const_cast<char*>(BRINTO_CLI_PATH));
         for (const std::string& a : args) argv.push_back(const_cast<char*>(a.c_str()));
