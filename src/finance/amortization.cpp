@@ -76,11 +76,14 @@ double RoundToPlaces(double value, int places) {
         // which is what reading the rounded digits gives.
         const double scale = kPowersOfTen[places];
         const double scaled = std::fabs(value) * scale;
-        const double whole = std::floor(scaled);
-        const double fraction = scaled - whole;
-        if (scaled < kShortcutLimit && std::fabs(fraction - 0.5) > kShortcutMargin) {
-            const double k = fraction > 0.5 ? whole + 1.0 : whole;
-            return std::copysign(k / scale, value);
+        if (scaled < kShortcutLimit) {
+            // Truncation is the floor of a positive value, without a library call.
+            const double whole = static_cast<double>(static_cast<long long>(scaled));
+            const double fraction = scaled - whole;
+            if (std::fabs(fraction - 0.5) > kShortcutMargin) {
+                const double k = fraction > 0.5 ? whole + 1.0 : whole;
+                return std::copysign(k / scale, value);
+            }
         }
     }
     return RoundToPlacesByDigits(value, places);
@@ -88,11 +91,11 @@ double RoundToPlaces(double value, int places) {
 
 int AmortizationPlaces(const Preferences& prefs) { return prefs.DigitField() - 1; }
 
-void Amortize(Engine& e, Continuation continuation) {
-    CalcState& s = e.state;
-    const double* r = e.registers.values;
-    const double periods = r[reg::N];
-    bool next = continuation == Continuation::NextBlock && s.amortStart >= 1 && s.amortBalance > 0.0;
+namespace {
+
+// Start and End cut to 1..N (N's integer part, which wins when N is below 1). A block starting
+// beyond N cannot continue: the result is whether continuing is still allowed.
+bool ClampRange(CalcState& s, double periods, bool next) {
     if (s.amortStart < 1) s.amortStart = 1;
     if (s.amortStart > periods) {
         s.amortStart = TruncatedPeriods(periods);
@@ -100,31 +103,12 @@ void Amortize(Engine& e, Continuation continuation) {
     }
     if (s.amortEnd < 1) s.amortEnd = 1;
     if (s.amortEnd > periods) s.amortEnd = TruncatedPeriods(periods);
+    return next;
+}
 
-    const int places = AmortizationPlaces(e.prefs);
-    const double i = PeriodicRate(r[reg::IYr], r[reg::PYr]);
-    const double payment = RoundToPlaces(r[reg::PMT], places);
-    const bool begin = e.state.engineFlags & flags::Begin;
-    if (!next) s.amortBalance = RoundToPlaces(r[reg::PV], places);
-    s.amortInterest = 0.0;
-    s.amortPrincipal = 0.0;
-
-    for (int k = next ? s.amortStart - 1 : 0; k < s.amortEnd;) {
-        double interest = RoundToPlaces(s.amortBalance * i, places);
-        // In Begin mode the loan's first payment falls before any interest is due; a block
-        // continued from a balance is never the loan's first.
-        if (k == 0 && begin && !next) interest = 0.0;
-        const double principal = interest + payment;  // the change of the balance, with its sign
-        // Interest is reported with the sign of the payment.
-        const double shown = payment < 0.0 ? -std::fabs(interest) : std::fabs(interest);
-        s.amortBalance = s.amortBalance + principal;
-        ++k;
-        if (s.amortStart <= k && k <= s.amortEnd) {
-            s.amortInterest += shown;
-            s.amortPrincipal += principal;
-        }
-    }
-
+// X Int, Y Prin, Z Bal; "=" then steps through Prin and Bal.
+void ShowResults(Engine& e) {
+    CalcState& s = e.state;
     if (e.LiftEnabled()) e.Lift();
     Show(e, s.amortBalance, label::Balance);
     e.Lift();
@@ -133,6 +117,48 @@ void Amortize(Engine& e, Continuation continuation) {
     Show(e, s.amortInterest, label::Interest);
     s.repeatOperator = fid::Amortize;
     s.amortStep = 2;
+}
+
+}  // namespace
+
+void Amortize(Engine& e, Continuation continuation) {
+    CalcState& s = e.state;
+    const double* r = e.registers.values;
+    const bool next = ClampRange(
+        s, r[reg::N], continuation == Continuation::NextBlock && s.amortStart >= 1 && s.amortBalance > 0.0);
+    const int places = AmortizationPlaces(e.prefs);
+    const double i = PeriodicRate(r[reg::IYr], r[reg::PYr]);
+    const double payment = RoundToPlaces(r[reg::PMT], places);
+    const bool begin = s.engineFlags & flags::Begin;
+    if (!next) s.amortBalance = RoundToPlaces(r[reg::PV], places);
+    s.amortInterest = 0.0;
+    s.amortPrincipal = 0.0;
+
+    // Sums of amounts already at the display's places are rounded again only to shed the binary
+    // residue of the addition: the balance reads 99900.45, not 99900.450000000012.
+    const auto add = [places](double a, double b) { return RoundToPlaces(a + b, places); };
+    for (int k = next ? s.amortStart - 1 : 0; k < s.amortEnd;) {
+        double interest = RoundToPlaces(s.amortBalance * i, places);
+        // In Begin mode the loan's first payment falls before any interest is due; a block
+        // continued from a balance is never the loan's first.
+        if (k == 0 && begin && !next) interest = 0.0;
+        const double principal = add(interest, payment);  // the change of the balance, with its sign
+        // Interest is reported with the sign of the payment.
+        const double shown = payment < 0.0 ? -std::fabs(interest) : std::fabs(interest);
+        // The same sum as balance + principal (every term is a whole number of the last place),
+        // without waiting for the principal's rounding.
+        s.amortBalance = add(s.amortBalance + interest, payment);
+        ++k;
+        if (s.amortStart <= k && k <= s.amortEnd) {
+            s.amortInterest += shown;
+            s.amortPrincipal += principal;
+        }
+    }
+    // The totals' residue is far below half a unit of the last place: one rounding at the end
+    // gives what rounding every partial sum would.
+    s.amortInterest = RoundToPlaces(s.amortInterest, places);
+    s.amortPrincipal = RoundToPlaces(s.amortPrincipal, places);
+    ShowResults(e);
 }
 
 void AmortizeKey(Engine& e) {

@@ -72,8 +72,7 @@ struct Tally {
         if (Shown(engine) == Shown(static_cast<double>(reference))) {
             ++agree;
         } else {
-            std::printf("  differs: %s engine %s reference %s\n", what, Shown(engine).c_str(),
-                        Shown(static_cast<double>(reference)).c_str());
+            std::printf("  differs: %s engine %.17g reference %.17Lg\n", what, engine, reference);
         }
     }
 };
