@@ -1,8 +1,10 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <vector>
 
 #include "finance/result_labels.h"
+#include "finance/solver.h"
 #include "finance/tvm.h"
 #include "finance_test_support.h"
 
@@ -12,264 +14,146 @@ namespace {
 using test::MakeEngine;
 using test::Press;
 using test::Store;
-using test::Type;
 
-// The account a loan runs through, period by period in long double: it opens with PV, each
-// period earns interest and takes the payment (before the interest in Begin mode), and FV
-// closes it. The TVM equation holds when the closing balance is zero; this walks it instead
-// of using the annuity formulas.
-long double ClosingBalance(const TvmProblem& p, int periods) {
-    const long double i = static_cast<long double>(p.yearlyRate) / p.perYear / 100.0L;
+// The account a loan runs through, period by period in long double: it opens with PV, earns
+// interest each period and takes the payment (before the interest in Begin mode); the TVM
+// equation holds when FV closes it. This walks the account instead of using annuity formulas.
+long double ClosingBalance(const TvmProblem& p) {
+    const long double i = static_cast<long double>(p.yearlyRate) / p.perYear / 100;
     long double balance = p.presentValue;
-    for (int t = 0; t < periods; ++t) {
-        if (p.begin) balance += p.payment;
-        balance *= 1.0L + i;
-        if (!p.begin) balance += p.payment;
-    }
+    for (int t = 0; t < p.periods; ++t) balance = (balance + (p.begin ? p.payment : 0)) * (1 + i) + (p.begin ? 0 : p.payment);
     return balance;
 }
 
-// Problems whose cash flows change sign once (one rate solves them) and whose FV is not a
-// small difference of large terms.
-struct Loan {
-    const char* name;
-    TvmProblem p;  // futureValue is filled in from the walk
-};
-
-std::vector<Loan> Loans() {
-    std::vector<Loan> loans = {
-        {"balloon", {360, 6.0, 100000, -550, 0, 12, false}},
-        {"balloonBegin", {360, 6.0, 100000, -550, 0, 12, true}},
-        {"savings", {40, 3.25, -2500, -150, 0, 4, false}},
-        {"savingsBegin", {40, 3.25, -2500, -150, 0, 4, true}},
-        {"lease", {48, 9.9, 32000, -640, 0, 12, true}},
-        {"yearly", {10, 11.0, -10000, 1500, 0, 1, false}},
-        {"weekly", {104, 4.5, 5000, -40, 0, 52, false}},
-    };
-    for (Loan& l : loans) {
-        l.p.futureValue = static_cast<double>(-ClosingBalance(l.p, static_cast<int>(l.p.periods)));
-    }
-    return loans;
-}
-
 void ExpectClose(double actual, long double expected, const char* what) {
-    SCOPED_TRACE(what);
-    const long double scale = std::fmax(1.0L, std::fabs(expected));
-    EXPECT_LE(std::fabs(actual - expected) / scale, 1e-11L) << actual << " vs " << static_cast<double>(expected);
+    EXPECT_LE(std::fabs(actual - expected) / std::fmax(1.0L, std::fabs(expected)), 1e-11L) << what;
 }
 
 TEST(TvmClosedForms, AgreeWithThePeriodByPeriodAccount) {
-    for (const Loan& l : Loans()) {
-        SCOPED_TRACE(l.name);
-        const TvmProblem& p = l.p;
-        ExpectClose(SolveFutureValue(p), -ClosingBalance(p, static_cast<int>(p.periods)), "FV");
-
-        // The closing balance is linear in PV and in PMT: two walks give the root of each.
-        TvmProblem q = p;
-        q.presentValue = 0;
-        const long double withoutPv = ClosingBalance(q, static_cast<int>(p.periods)) + p.futureValue;
-        q.presentValue = 1;
-        const long double perPv = ClosingBalance(q, static_cast<int>(p.periods)) + p.futureValue - withoutPv;
-        ExpectClose(SolvePresentValue(p), -withoutPv / perPv, "PV");
-
-        q = p;
-        q.payment = 0;
-        const long double withoutPmt = ClosingBalance(q, static_cast<int>(p.periods)) + p.futureValue;
-        q.payment = 1;
-        const long double perPmt = ClosingBalance(q, static_cast<int>(p.periods)) + p.futureValue - withoutPmt;
-        ExpectClose(SolvePayment(p), -withoutPmt / perPmt, "PMT");
-
+    // One sign change each (one rate solves them), FV not a small difference of large terms.
+    std::vector<TvmProblem> loans = {{360, 6.0, 100000, -550, 0, 12, false}, {360, 6.0, 100000, -550, 0, 12, true},
+                                     {40, 3.25, -2500, -150, 0, 4, true},     {10, 11.0, -10000, 1500, 0, 1, false},
+                                     {104, 4.5, 5000, -40, 0, 52, false}};
+    for (TvmProblem& p : loans) {
+        SCOPED_TRACE(testing::Message() << p.periods << " periods, begin " << p.begin);
+        p.futureValue = static_cast<double>(-ClosingBalance(p));
+        // The closing balance is linear in PV and in PMT: two walks give each root.
+        const auto root = [&p](double TvmProblem::*field) {
+            TvmProblem q = p;
+            q.*field = 0;
+            const long double at0 = ClosingBalance(q) + p.futureValue;
+            q.*field = 1;
+            return -at0 / (ClosingBalance(q) + p.futureValue - at0);
+        };
+        ExpectClose(SolveFutureValue(p), -ClosingBalance(p), "FV");
+        ExpectClose(SolvePresentValue(p), root(&TvmProblem::presentValue), "PV");
+        ExpectClose(SolvePayment(p), root(&TvmProblem::payment), "PMT");
         ExpectClose(SolvePeriods(p), p.periods, "N");
-
-        q = p;
-        q.yearlyRate = 1.0;  // a poor guess
-        ExpectClose(SolveYearlyRate(q), p.yearlyRate, "I/YR");
+        for (const double guess : {0.0, -5.0, 20.0}) {
+            TvmProblem q = p;
+            q.yearlyRate = guess;
+            ExpectClose(SolveYearlyRate(q), p.yearlyRate, "I/YR");
+        }
     }
 }
 
-TEST(TvmClosedForms, ZeroRateUsesTheStraightLineForms) {
-    // No interest: the payments simply add up. 24 payments of -50 against PV 1000 leave FV 200.
-    for (const bool begin : {false, true}) {
-        SCOPED_TRACE(begin ? "Begin" : "End");
+TEST(TvmClosedForms, ZeroRateAndImpossibleSigns) {
+    for (const bool begin : {false, true}) {  // no interest: the payments simply add up
         const TvmProblem p{24, 0.0, 1000, -50, 200, 12, begin};
         EXPECT_EQ(SolvePeriods(p), 24.0);
         EXPECT_EQ(SolvePresentValue(p), 1000.0);
-        EXPECT_DOUBLE_EQ(SolvePayment(p), -50.0);
+        EXPECT_EQ(SolvePayment(p), -50.0);
         EXPECT_EQ(SolveFutureValue(p), 200.0);
     }
-    // A zero denominator gives what the arithmetic gives.
-    EXPECT_TRUE(std::isinf(SolvePeriods({0, 0.0, 1000, 0, 0, 12, false})));
-    EXPECT_TRUE(std::isnan(SolvePayment({0, 0.0, 0, 0, 0, 12, false})));
+    EXPECT_TRUE(std::isinf(SolvePeriods({0, 0.0, 1000, 0, 0, 12, false})));  // what division gives
+    EXPECT_EQ(SolvePeriods({0, 5.0, 1000, 10, 10000, 12, false}), kErrorValue);  // money only comes in
+    EXPECT_NEAR(SolvePeriods({0, 6.0, -100000, 599.550525152752, 0, 12, false}), 360.0, 1e-9);  // both negative
+    EXPECT_EQ(SolveYearlyRate({360, 6.0, 100000, 599.55, 0, 12, false}), kErrorValue);  // no root
+    EXPECT_EQ(SolveYearlyRate({0, 6.0, 100000, -599.55, 0, 12, false}), kErrorValue);
 }
 
-TEST(TvmClosedForms, PeriodsNeedPAndQOfOneSign) {
-    // Money only comes in: no number of periods balances it.
-    EXPECT_EQ(SolvePeriods({0, 5.0, 1000, 10, 10000, 12, false}), kErrorValue);
-    // Both sides negative is the mirror of both positive: same N.
-    const TvmProblem loan{0, 6.0, 100000, -599.55052515275, 0, 12, false};
-    TvmProblem mirrored = loan;
-    mirrored.presentValue = -loan.presentValue;
-    mirrored.payment = -loan.payment;
-    EXPECT_NEAR(SolvePeriods(loan), 360.0, 1e-9);
-    EXPECT_NEAR(SolvePeriods(mirrored), 360.0, 1e-9);
-    // A payment that only covers the interest never pays the loan off: ln 0 gives infinity.
-    EXPECT_TRUE(std::isinf(SolvePeriods({0, 12.0, 1000, -10, 0, 12, false})));
-}
-
-TEST(TvmYearlyRate, ConvergesFromPoorGuessesAndFailsWithoutARoot) {
-    const TvmProblem loan{360, 0.0, 100000, -599.550525152752, 0, 12, false};
-    for (const double guess : {0.0, -5.0, 40.0, 6.0, 1e-3}) {
-        SCOPED_TRACE(guess);
-        TvmProblem p = loan;
-        p.yearlyRate = guess;
-        EXPECT_NEAR(SolveYearlyRate(p), 6.0, 1e-10);
+TEST(SecantSolver, FollowsItsStepRules) {
+    std::vector<double> at;
+    const auto record = [&at](double (*f)(double)) {
+        return [&at, f](double x) { return at.push_back(x), f(x); };
+    };
+    // Through (0, 1) and (1, 0.99) the secant would land at 100: the step is cut to ten times 1.
+    SecantRun(record([](double x) { return x == 0 ? 1.0 : x == 1 ? 0.99 : 0.5; }), 0, 1, 1e-12);
+    EXPECT_EQ(at.at(2), 11.0);
+    // At 2 the residual is undefined: the point is nudged once.
+    at.clear();
+    SecantRun(record([](double x) { return x == 2 ? std::nan("") : 2 - x; }), 0, 1, 1e-12);
+    EXPECT_EQ(at.at(3), 2.0 + 1e-15);
+    // From (1.1, 1e14) and (1, r) the secant cannot move off 1: a small r is the root, a large
+    // one the error value, and the driver makes no further run.
+    for (const auto& [residual, root] : {std::pair{1e-6, 1.0}, std::pair{1e-4, kErrorValue}}) {
+        at.clear();
+        const double r = residual;
+        EXPECT_EQ(SolveSecant([&](double x) { return at.push_back(x), x == 1 ? r : 1e14; }, 1.1, 1.0), root);
+        EXPECT_EQ(at.size(), 3u);
     }
-    TvmProblem noRoot = loan;
-    noRoot.payment = 599.55;  // all money flows one way
-    EXPECT_EQ(SolveYearlyRate(noRoot), kErrorValue);
-    for (const double n : {0.0, -12.0, std::nan("")}) {
-        TvmProblem p = loan;
-        p.periods = n;
-        EXPECT_EQ(SolveYearlyRate(p), kErrorValue);
-    }
+    // A level residual never converges: six runs (tolerances 1e-12 up to near 1e-7) of 50 steps.
+    at.clear();
+    EXPECT_EQ(SolveSecant(record([](double) { return 1.0; }), 0.0, 0.1), kErrorValue);
+    EXPECT_EQ(at.size(), 6u * (2 + 50));
+    // A residual that never drops below 5e-8 is accepted only by the sixth run.
+    EXPECT_NEAR(SolveSecant([](double x) { return 5e-8 + (x - 1) * (x - 1); }, 1 - 4e-8, 1 + 4e-8), 1.0, 1e-7);
 }
 
-class TvmKeys : public ::testing::Test {
-protected:
+TEST(TvmKeys, SolveWithoutTypingStoreWhenTyping) {
     Engine e = MakeEngine(InputMethod::Rpn);
-    void Mortgage() {
-        Store(e, "360", fid::N);
-        Store(e, "6", fid::IYr);
-        Store(e, "100000", fid::PV);
-        Store(e, "0", fid::FV);
+    for (const auto& [number, key] : {std::pair{"360", fid::N}, {"6", fid::IYr}, {"100000", fid::PV}, {"0", fid::FV}}) {
+        Store(e, number, key);
     }
-};
-
-TEST_F(TvmKeys, MortgagePaymentThenRateBack) {
-    Mortgage();
-    e.Dispatch(fid::PMT);
-    EXPECT_NEAR(e.X(), -599.550525152752, 1e-9);
-    EXPECT_EQ(e.XTag(), label::Payment);
-    EXPECT_EQ(e.registers.values[reg::PMT], e.X());
-    Store(e, "0", fid::IYr);  // the guess
-    e.Dispatch(fid::IYr);
+    Press(e, {5, fid::Enter, fid::PMT});  // after Enter nothing is typed: PMT is solved and stored
+    EXPECT_NEAR(e.registers.values[reg::PMT], -599.550525152752, 1e-9);
+    EXPECT_EQ(e.Y(), 5.0);  // Enter disabled lift: the copy of 5 was replaced
+    Store(e, "0", fid::IYr);  // a typed guess is stored, and the next number replaces it
+    Press(e, {7, fid::Enter, fid::IYr});
+    EXPECT_EQ(e.state.stack[2], e.registers.values[reg::PMT]);
     EXPECT_NEAR(e.X(), 6.0, 1e-10);
-    EXPECT_EQ(e.XTag(), label::YearlyRate);
-    EXPECT_EQ(e.registers.values[reg::IYr], e.X());
-}
-
-TEST_F(TvmKeys, TypedNumberStoresAndTheNextNumberReplacesIt) {
-    Store(e, "12", fid::PYr);
-    EXPECT_EQ(e.registers.values[reg::PYr], 12.0);
-    EXPECT_EQ(e.XTag(), label::PerYear);
-    Type(e, "7");
-    EXPECT_EQ(e.X(), 7.0);
-    EXPECT_EQ(e.Y(), 0.0);  // 12 was replaced, not lifted
-}
-
-TEST_F(TvmKeys, PerYearWithoutTypingRecallsWithALift) {
-    Store(e, "4", fid::PYr);
-    Press(e, {5, fid::Enter, 4, fid::Add});  // 5 + 4: lift is enabled after it
-    e.Dispatch(fid::PYr);
-    EXPECT_EQ(e.X(), 4.0);
-    EXPECT_EQ(e.Y(), 9.0);
-    EXPECT_EQ(e.XTag(), label::PerYear);
-}
-
-TEST_F(TvmKeys, AfterEnterTheKeySolvesAlthoughXIsFresh) {
-    Mortgage();
-    e.Dispatch(fid::PMT);
-    Press(e, {5, fid::Enter});  // no entry open now; X = 5 is not stored
-    e.Dispatch(fid::N);
-    EXPECT_NEAR(e.X(), 360.0, 1e-6);
-    EXPECT_EQ(e.Y(), 5.0);  // lift was disabled by Enter: the 5 copy in X was replaced
-    EXPECT_EQ(e.registers.values[reg::N], e.X());
-}
-
-TEST_F(TvmKeys, PeriodsLabelFollowsPaymentsPerYear) {
-    const struct {
-        const char* perYear;
-        ValueTag label;
-    } cases[] = {{"12", label::Months}, {"1", label::Years}, {"4", label::Periods}};
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.perYear);
-        Store(e, c.perYear, fid::PYr);
-        Store(e, "30", fid::N);
-        EXPECT_EQ(e.XTag(), c.label);
-        e.Dispatch(fid::N);  // solved (here from zeros, which gives whatever it gives)
-        EXPECT_EQ(e.XTag(), c.label);
-    }
-}
-
-TEST_F(TvmKeys, FailedRateSolveStoresTheErrorAndTheNextSolveStartsFromZero) {
-    Mortgage();
-    e.Dispatch(fid::PMT);
     Store(e, "0", fid::N);
     e.Dispatch(fid::IYr);
-    EXPECT_EQ(e.X(), kErrorValue);
     EXPECT_EQ(e.registers.values[reg::IYr], kErrorValue);
     Store(e, "360", fid::N);
-    e.Dispatch(fid::IYr);
+    e.Dispatch(fid::IYr);  // the failed solve's error value is no guess: it restarts from 0
     EXPECT_NEAR(e.X(), 6.0, 1e-10);
 }
 
-TEST_F(TvmKeys, StoringLoanQuantitiesRestartsTheAmortizationBalance) {
+TEST(TvmKeys, LabelsBalanceRestartAndChangedFlag) {
+    Engine e = MakeEngine(InputMethod::Rpn);
     const struct {
         FunctionId key;
-        bool restarts;
-    } cases[] = {{fid::N, false}, {fid::IYr, true}, {fid::PV, true}, {fid::PMT, true}, {fid::FV, false},
-                 {fid::PYr, true}, {fid::Nom, true}, {fid::Eff, false}, {fid::Cost, false}};
+        ValueTag label;
+        bool restartsBalance;
+    } cases[] = {{fid::N, label::Months, false},   {fid::IYr, label::YearlyRate, true}, {fid::PV, label::PresentValue, true},
+                 {fid::PMT, label::Payment, true}, {fid::FV, label::FutureValue, false}, {fid::PYr, label::PerYear, true},
+                 {fid::Nom, label::Nominal, true}, {fid::Eff, label::Effective, false},  {fid::TimesPYr, label::Months, false},
+                 {fid::Cost, label::Cost, false},  {fid::Price, label::Price, false},    {fid::Markup, label::Markup, false}};
     for (const auto& c : cases) {
-        SCOPED_TRACE(c.key);
-        e.state.amortBalance = 1234.5;
-        Store(e, "12", c.key);
-        EXPECT_EQ(e.state.amortBalance == 0.0, c.restarts);
-        e.state.amortBalance = 1234.5;
-        e.Dispatch(c.key);  // solving counts as storing
-        EXPECT_EQ(e.state.amortBalance == 0.0, c.restarts);
+        for (const char* typed : {"12", ""}) {
+            e.state.amortBalance = 1234.5;
+            e.dirty.registers = false;
+            Store(e, typed, c.key);
+            EXPECT_EQ(e.XTag(), c.label) << c.key;
+            EXPECT_EQ(e.state.amortBalance == 0.0, c.restartsBalance) << c.key;
+            EXPECT_TRUE(e.dirty.registers) << c.key;
+        }
     }
-}
-
-TEST_F(TvmKeys, EveryKeyButDividePerYearMarksTheRegistersChanged) {
-    for (const FunctionId key : {fid::N, fid::IYr, fid::PV, fid::PMT, fid::FV, fid::PYr, fid::Nom, fid::Eff,
-                                 fid::TimesPYr, fid::Cost, fid::Price, fid::Margin, fid::Markup}) {
-        SCOPED_TRACE(key);
-        e.dirty.registers = false;
-        Store(e, "2", key);
-        EXPECT_TRUE(e.dirty.registers);
+    for (const auto& [perYear, label] : {std::pair{"1", label::Years}, {"4", label::Periods}}) {
+        Store(e, perYear, fid::PYr);
+        e.Dispatch(fid::N);
+        EXPECT_EQ(e.XTag(), label);
     }
-    e.dirty.registers = false;
-    Store(e, "24", fid::DividePYr);
-    EXPECT_FALSE(e.dirty.registers);
-}
-
-TEST_F(TvmKeys, TimesPerYearMakesMonthsOfYearsIntoN) {
-    Store(e, "12", fid::PYr);
-    Press(e, {3, 0, fid::TimesPYr});
-    EXPECT_EQ(e.X(), 360.0);
-    EXPECT_EQ(e.registers.values[reg::N], 360.0);
-    EXPECT_EQ(e.XTag(), label::Months);
-    Type(e, "5");  // lift is disabled: 5 replaces 360
-    EXPECT_EQ(e.X(), 5.0);
-    EXPECT_EQ(e.Y(), 0.0);
-}
-
-TEST_F(TvmKeys, DividePerYearLabelsYearsOnlyForPlainOrMatchingValues) {
+    // ÷P/YR: years for a plain number or matching periods; any other label is dropped.
     const struct {
-        const char* name;
         double perYear;
-        ValueTag before;
-        ValueTag after;
-    } cases[] = {
-        {"plain", 12, 0, label::Years},           {"monthsMonthly", 12, label::Months, label::Years},
-        {"monthsQuarterly", 4, label::Months, 0}, {"yearsYearly", 1, label::Years, label::Years},
-        {"yearsMonthly", 12, label::Years, 0},    {"otherLabel", 12, label::PresentValue, 0},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
+        ValueTag before, after;
+    } divisions[] = {{12, 0, label::Years},           {12, label::Months, label::Years}, {4, label::Months, 0},
+                     {1, label::Years, label::Years}, {12, label::Years, 0},             {12, label::PresentValue, 0}};
+    for (const auto& c : divisions) {
         e.registers.values[reg::PYr] = c.perYear;
-        e.SetX(360);
-        e.SetXTag(c.before);
+        e.SetLevel(0, {360, c.before, kNoAux});
         e.Dispatch(fid::DividePYr);
         EXPECT_EQ(e.X(), 360 / c.perYear);
         EXPECT_EQ(e.XTag(), c.after);
