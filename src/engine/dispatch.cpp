@@ -77,9 +77,18 @@ void NegateInteger(Engine& e) {
     e.SetXTag(format);
 }
 
+// An operator is pending when "=" would apply one: a binary operator above the newest Enter
+// marker. Markers alone are no operator, so "1 Enter 12 AMORT =" still steps through the results.
+bool OperatorPending(const CalcState& s) {
+    for (int i = s.pendingCount - 1; i >= 0 && s.pendingOps[i] != fid::Enter; --i) {
+        if (IsBinaryOperator(s.pendingOps[i])) return true;
+    }
+    return false;
+}
+
 void Equals(Engine& e) {
     CalcState& s = e.state;
-    if (s.pendingCount == 0) {
+    if (!OperatorPending(s)) {
         if (s.repeatOperator == fid::Amortize) {
             AmortizationRepeat(e);
         } else if (s.repeatOperator != kNoKey) {
