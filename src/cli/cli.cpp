@@ -13,6 +13,9 @@
 #include "display/display_text.h"
 #include "engine/key_table.h"
 #include "ops/constants.h"
+#include "session/persistence.h"
+#include "store/legacy_import.h"
+#include "store/state_file.h"
 
 namespace brinto {
 
@@ -38,6 +41,7 @@ struct Options {
     bool memory = false;
     bool listKeys = false;
     std::optional<std::string> db;
+    std::optional<std::string> importLegacy;
     std::vector<std::pair<int, u16>> prefs;
     std::optional<DateFields> now;
     std::optional<u32> seed;
@@ -70,6 +74,8 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& args, std::s
             o.listKeys = true;
         } else if (a == "--db" && hasValue) {
             o.db = args[++i];
+        } else if (a == "--import-legacy" && hasValue) {
+            o.importLegacy = args[++i];
         } else if (a == "--pref" && hasValue) {
             const std::string& v = args[++i];
             const std::size_t eq = v.find('=');
@@ -94,8 +100,9 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& args, std::s
             }
             o.seed = static_cast<u32>(*seed);
         } else if (a.size() > 2 && a[0] == '-' && a[1] == '-') {
-            error = (a == "--db" || a == "--pref" || a == "--now" || a == "--seed") ? "option needs a value: " + a
-                                                                                    : "unknown option: " + a;
+            const bool needsValue =
+                a == "--db" || a == "--import-legacy" || a == "--pref" || a == "--now" || a == "--seed";
+            error = needsValue ? "option needs a value: " + a : "unknown option: " + a;
             return std::nullopt;
         } else {
             o.tokens.push_back(a);
@@ -204,7 +211,35 @@ void PrintStack(std::ostream& out, const Engine& e) {
     for (int level = 3; level >= 0; --level) PrintLine(out, e, level, kNames[level]);
 }
 
-int Interactive(Session& session, CliHost& host, std::istream& in, std::ostream& out, std::ostream& err) {
+// Opens and loads the calculator this run works on: the database file (--db, else the default one
+// shared with the desktop program), or nothing at all with --memory, unless --import-legacy asks
+// for an import, which then goes into a database in memory. False, after saying why, when an
+// explicit import failed.
+bool LoadCalculator(const Options& o, Session& session, RecordStore& store, std::ostream& err) {
+    std::string warning;
+    const StateLocations where = DefaultLocations();
+    if (o.memory) {
+        if (!o.importLegacy) return true;
+        store.Open(std::string(RecordStore::kInMemory));
+    } else {
+        OpenStateFile(store, o.db ? std::filesystem::path(*o.db) : where.database, warning);
+        if (!warning.empty()) err << "brinto-cli: " << warning << '\n';
+    }
+    if (o.importLegacy) {
+        const LegacyImport outcome = ImportLegacyFile(store, *o.importLegacy);
+        if (!outcome.imported) {
+            err << "brinto-cli: " << outcome.reason << '\n';
+            return false;
+        }
+    }
+    // A first run needs no question here: the CLI simply starts on the defaults.
+    LoadSession(session, store, o.memory ? std::filesystem::path() : where.legacyFile, warning);
+    if (!warning.empty()) err << "brinto-cli: " << warning << '\n';
+    return true;
+}
+
+int Interactive(Session& session, CliHost& host, std::istream& in, std::ostream& out, std::ostream& err,
+                RecordStore* store) {
     host.echo = &out;
     out << "Brinto. Type keys (2 enter 3 +), \"quit\" to leave.\n";
     PrintStack(out, session.engine());
@@ -221,8 +256,12 @@ int Interactive(Session& session, CliHost& host, std::istream& in, std::ostream&
         }
         std::vector<int> rejected;
         RunTokens(session, words, rejected, error);
+        // Each line is as far as the desktop program's deactivation: an interrupted session
+        // loses at most the line being typed.
+        if (store) SaveSession(session, *store);
         PrintStack(out, session.engine());
     }
+    if (store) SaveSession(session, *store);
     return 0;
 }
 
@@ -262,14 +301,22 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
     Engine engine(&platform);
     CliHost host;
     Session session(engine, host);
-    for (const auto& [word, value] : options->prefs) engine.prefs.words[word] = value;
+    RecordStore store;
+    if (!LoadCalculator(*options, session, store, err)) return 1;
+    RecordStore* const saveTo = options->memory ? nullptr : &store;
+    // Preferences given on the command line are changes like any other: they are kept.
+    for (const auto& [word, value] : options->prefs) {
+        engine.prefs.words[word] = value;
+        engine.dirty.preferences = true;
+    }
     if (options->seed) engine.state.randomSeed = *options->seed;
 
-    if (interactive) return Interactive(session, host, in, out, err);
+    if (interactive) return Interactive(session, host, in, out, err, saveTo);
     if (!RunTokens(session, words, host.report.rejected, error)) {
         err << "brinto-cli: " << error << '\n';
-        return 2;
+        return 2;  // nothing is saved: the run ends as if it had not started
     }
+    if (saveTo) SaveSession(session, *saveTo);
     if (options->json) {
         out << JsonReport(session, host.report);
     } else {

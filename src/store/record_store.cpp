@@ -1,0 +1,406 @@
+#include "store/record_store.h"
+
+#include <sqlite3.h>
+#include <unistd.h>
+
+#include <cstring>
+#include <filesystem>
+#include <system_error>
+
+namespace brinto {
+
+namespace {
+
+// Marks the file as ours, so that another program's SQLite database is never taken for one.
+constexpr int kApplicationId = 0x42726E74;  // "Brnt"
+constexpr int kSchemaVersion = 1;
+// How long a save waits for another process's save to finish before giving up.
+constexpr int kBusyTimeoutMs = 2000;
+
+constexpr const char* kTableNames[2] = {"BrintoConfig", "BrintoState"};
+
+constexpr const char* kCreateSchema =
+    "CREATE TABLE BrintoConfig(id INTEGER PRIMARY KEY, header BLOB NOT NULL, payload BLOB NOT NULL);"
+    "CREATE TABLE BrintoState(id INTEGER PRIMARY KEY, header BLOB NOT NULL, payload BLOB NOT NULL);";
+
+int TableOf(u32 kind) { return kind == kind::Preferences ? 0 : 1; }
+
+// What an error while reading a file that exists says about it.
+OpenResult Judge(int code) {
+    switch (code & 0xFF) {
+        case SQLITE_NOTADB:
+        case SQLITE_CORRUPT:
+        case SQLITE_FORMAT:
+        case SQLITE_SCHEMA:
+        case SQLITE_ERROR:
+        case SQLITE_MISMATCH: return OpenResult::NotBrinto;
+        case SQLITE_BUSY:
+        case SQLITE_LOCKED: return OpenResult::Busy;
+        default: return OpenResult::Unavailable;
+    }
+}
+
+// Runs a statement that returns one integer (a pragma); nullopt-like false on failure.
+bool QueryInt(sqlite3* db, const char* sql, int& value, int& code) {
+    sqlite3_stmt* statement = nullptr;
+    code = sqlite3_prepare_v2(db, sql, -1, &statement, nullptr);
+    if (code == SQLITE_OK) {
+        code = sqlite3_step(statement);
+        if (code == SQLITE_ROW) {
+            value = sqlite3_column_int(statement, 0);
+            code = SQLITE_OK;
+        }
+    }
+    sqlite3_finalize(statement);
+    return code == SQLITE_OK;
+}
+
+bool QueryText(sqlite3* db, const char* sql, std::string& value, int& code) {
+    sqlite3_stmt* statement = nullptr;
+    code = sqlite3_prepare_v2(db, sql, -1, &statement, nullptr);
+    if (code == SQLITE_OK) {
+        code = sqlite3_step(statement);
+        if (code == SQLITE_ROW) {
+            const unsigned char* text = sqlite3_column_text(statement, 0);
+            value = text ? reinterpret_cast<const char*>(text) : "";
+            code = SQLITE_OK;
+        }
+    }
+    sqlite3_finalize(statement);
+    return code == SQLITE_OK;
+}
+
+// A header as this program writes it; false when the name does not fit.
+bool MakeHeader(u32 kind, u16 index, std::u16string_view name, RecordHeader& header) {
+    if (name.size() > kMaxRecordName) return false;
+    std::memset(&header, 0, sizeof header);
+    header.headerSize = kHeaderSize;
+    header.headerFormat = kHeaderFormat;
+    header.kind = kind;
+    header.index = index;
+    std::memcpy(header.name, name.data(), name.size() * sizeof(char16_t));
+    return true;
+}
+
+// SQLite stores a blob bound from a null pointer as NULL; an empty payload must stay a blob.
+const void* BlobPointer(const void* buffer) {
+    static const char kEmpty = 0;
+    return buffer ? buffer : &kEmpty;
+}
+
+}  // namespace
+
+struct RecordStore::Found {
+    sqlite3_int64 id = 0;
+    sqlite3_stmt* row = nullptr;  // the scan, positioned on the matching row until reset
+};
+
+RecordStore::~RecordStore() { Close(); }
+
+void RecordStore::Fail(std::string_view what) {
+    m_error = std::string(what);
+    if (m_db) {
+        m_error += ": ";
+        m_error += sqlite3_errmsg(m_db);
+    }
+}
+
+OpenResult RecordStore::Open(const std::string& path) {
+    Close();
+    m_error.clear();
+    if (path == kInMemory) {
+        if (!OpenExisting(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_MEMORY) ||
+            sqlite3_exec(m_db, kCreateSchema, nullptr, nullptr, nullptr) != SQLITE_OK ||
+            !Prepare()) {
+            Fail("cannot create a database in memory");
+            Close();
+            return OpenResult::Unavailable;
+        }
+        return OpenResult::Opened;
+    }
+    std::error_code ec;
+    if (!std::filesystem::exists(path, ec) && !ec && !CreateFresh(path)) return OpenResult::Unavailable;
+    if (!OpenExisting(path, SQLITE_OPEN_READWRITE)) {
+        Close();
+        return OpenResult::Unavailable;
+    }
+    const OpenResult result = CheckBrinto();
+    if (result != OpenResult::Opened) Close();
+    return result;
+}
+
+bool RecordStore::OpenExisting(const std::string& path, int flags) {
+    if (sqlite3_open_v2(path.c_str(), &m_db, flags, nullptr) != SQLITE_OK) {
+        Fail("cannot open " + path);
+        return false;
+    }
+    sqlite3_busy_timeout(m_db, kBusyTimeoutMs);
+    return true;
+}
+
+// Builds the new database under a private name and links it into place only when complete; when
+// another process got there first, its file is kept and ours dropped.
+bool RecordStore::CreateFresh(const std::string& path) {
+    const std::string temporary = path + ".new-" + std::to_string(getpid());
+    std::error_code ec;
+    std::filesystem::remove(temporary, ec);
+    sqlite3* db = nullptr;
+    bool made = sqlite3_open_v2(temporary.c_str(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE,
+                                nullptr) == SQLITE_OK;
+    if (made) {
+        const std::string setup = "BEGIN;PRAGMA application_id=" + std::to_string(kApplicationId) +
+                                  ";PRAGMA user_version=" + std::to_string(kSchemaVersion) + ";" +
+                                  kCreateSchema + "COMMIT;PRAGMA journal_mode=WAL;";
+        made = sqlite3_exec(db, setup.c_str(), nullptr, nullptr, nullptr) == SQLITE_OK;
+    }
+    if (!made) m_error = std::string("cannot create ") + path + ": " + (db ? sqlite3_errmsg(db) : "out of memory");
+    made = sqlite3_close(db) == SQLITE_OK && made;
+    if (made) {
+        std::filesystem::create_hard_link(temporary, path, ec);
+        if (ec && ec != std::errc::file_exists) {
+            // Folders without hard links: an atomic rename will do, at the small risk of
+            // replacing a file another process created at the same instant.
+            ec.clear();
+            std::filesystem::rename(temporary, path, ec);
+        }
+        if (ec && ec != std::errc::file_exists) {
+            m_error = "cannot create " + path + ": " + ec.message();
+            made = false;
+        }
+    }
+    std::filesystem::remove(temporary, ec);
+    std::filesystem::remove(temporary + "-wal", ec);
+    std::filesystem::remove(temporary + "-shm", ec);
+    return made;
+}
+
+// Tells a Brinto database from anything else: our application id, both tables with the columns we
+// use, every header a well-formed 80-byte blob in the table of its kind, and an intact file.
+OpenResult RecordStore::CheckBrinto() {
+    int code = SQLITE_OK;
+    int applicationId = 0;
+    std::string check;
+    if (!QueryInt(m_db, "PRAGMA application_id", applicationId, code)) {
+        Fail("cannot read the database");
+        return Judge(code);
+    }
+    if (applicationId != kApplicationId) {
+        m_error = "not a Brinto database";
+        return OpenResult::NotBrinto;
+    }
+    if (!QueryText(m_db, "PRAGMA quick_check", check, code)) {
+        Fail("cannot read the database");
+        return Judge(code);
+    }
+    if (check != "ok") {
+        m_error = "damaged database: " + check;
+        return OpenResult::NotBrinto;
+    }
+    std::string mode;
+    if (QueryText(m_db, "PRAGMA journal_mode", mode, code) && mode != "wal") {
+        QueryText(m_db, "PRAGMA journal_mode=WAL", mode, code);
+    }
+    sqlite3_exec(m_db, "PRAGMA synchronous=NORMAL", nullptr, nullptr, nullptr);
+    if (!Prepare()) {
+        Fail("not a Brinto database");
+        return OpenResult::NotBrinto;
+    }
+    for (int table = 0; table < 2; ++table) {
+        sqlite3_stmt* scan = m_scan[table];
+        while ((code = sqlite3_step(scan)) == SQLITE_ROW) {
+            RecordHeader header;
+            const bool wellFormed = sqlite3_column_type(scan, 1) == SQLITE_BLOB &&
+                                    sqlite3_column_bytes(scan, 1) == kHeaderSize &&
+                                    sqlite3_column_type(scan, 2) == SQLITE_BLOB;
+            if (wellFormed) std::memcpy(&header, sqlite3_column_blob(scan, 1), sizeof header);
+            if (!wellFormed || header.headerSize != kHeaderSize || header.headerFormat != kHeaderFormat ||
+                TableOf(header.kind) != table) {
+                sqlite3_reset(scan);
+                m_error = std::string("a record of table ") + kTableNames[table] + " is damaged";
+                return OpenResult::NotBrinto;
+            }
+        }
+        sqlite3_reset(scan);
+        if (code != SQLITE_DONE) {
+            Fail("cannot read the database");
+            return Judge(code);
+        }
+    }
+    return OpenResult::Opened;
+}
+
+bool RecordStore::Prepare() {
+    auto prepare = [this](const std::string& sql, sqlite3_stmt*& statement) {
+        return sqlite3_prepare_v3(m_db, sql.c_str(), -1, SQLITE_PREPARE_PERSISTENT, &statement, nullptr) ==
+               SQLITE_OK;
+    };
+    bool ok = true;
+    for (int table = 0; table < 2; ++table) {
+        const std::string name = kTableNames[table];
+        ok = ok && prepare("SELECT id, header, payload FROM " + name + " ORDER BY id", m_scan[table]);
+        ok = ok && prepare("UPDATE " + name + " SET payload = ?1 WHERE id = ?2", m_update[table]);
+        ok = ok && prepare("INSERT INTO " + name + "(header, payload) VALUES(?1, ?2)", m_insert[table]);
+    }
+    return ok && prepare("BEGIN", m_beginRead) && prepare("BEGIN IMMEDIATE", m_beginWrite) &&
+           prepare("COMMIT", m_commit) && prepare("ROLLBACK", m_rollback);
+}
+
+void RecordStore::Close() {
+    if (!m_db) return;
+    if (m_transactionDepth > 0) sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+    m_transactionDepth = 0;
+    m_rollbackOnly = false;
+    for (sqlite3_stmt** group : {m_scan, m_update, m_insert}) {
+        for (int table = 0; table < 2; ++table) {
+            sqlite3_finalize(group[table]);
+            group[table] = nullptr;
+        }
+    }
+    for (sqlite3_stmt** statement : {&m_beginRead, &m_beginWrite, &m_commit, &m_rollback}) {
+        sqlite3_finalize(*statement);
+        *statement = nullptr;
+    }
+    sqlite3_close(m_db);
+    m_db = nullptr;
+}
+
+bool RecordStore::Execute(sqlite3_stmt* statement) {
+    const int code = sqlite3_step(statement);
+    sqlite3_reset(statement);
+    return code == SQLITE_DONE || code == SQLITE_ROW;
+}
+
+// Scans the kind's table in insertion order; the first header with the kind, the index and the
+// name wanted (an empty name when none is wanted) wins. Headers that are not 80 bytes never match.
+bool RecordStore::Find(u32 kind, u16 index, std::u16string_view name, Found& found) {
+    sqlite3_stmt* scan = m_scan[TableOf(kind)];
+    while (sqlite3_step(scan) == SQLITE_ROW) {
+        if (sqlite3_column_bytes(scan, 1) != kHeaderSize) continue;
+        RecordHeader header;
+        std::memcpy(&header, sqlite3_column_blob(scan, 1), sizeof header);
+        if (header.kind == kind && header.index == index && header.Name() == name) {
+            found.id = sqlite3_column_int64(scan, 0);
+            found.row = scan;
+            return true;
+        }
+    }
+    sqlite3_reset(scan);
+    return false;
+}
+
+bool RecordStore::ReadRecord(u32 kind, void* buffer, std::size_t& size, u16 index) {
+    return Read(kind, index, {}, buffer, size);
+}
+
+bool RecordStore::ReadRecord(u32 kind, void* buffer, std::size_t& size, std::u16string_view name) {
+    return Read(kind, kNamedIndex, name, buffer, size);
+}
+
+bool RecordStore::Read(u32 kind, u16 index, std::u16string_view name, void* buffer, std::size_t& size) {
+    const std::size_t capacity = size;
+    size = 0;
+    Found found;
+    if (!m_db || name.size() > kMaxRecordName || !Find(kind, index, name, found)) return false;
+    const std::size_t stored = static_cast<std::size_t>(sqlite3_column_bytes(found.row, 2));
+    size = stored < capacity ? stored : capacity;
+    if (size > 0) std::memcpy(buffer, sqlite3_column_blob(found.row, 2), size);
+    sqlite3_reset(found.row);
+    return true;
+}
+
+bool RecordStore::WriteRecord(u32 kind, const void* buffer, std::size_t size, u16 index) {
+    return Write(kind, buffer, size, index, {});
+}
+
+bool RecordStore::WriteRecord(u32 kind, const void* buffer, std::size_t size, std::u16string_view name) {
+    return Write(kind, buffer, size, kNamedIndex, name);
+}
+
+bool RecordStore::Write(u32 kind, const void* buffer, std::size_t size, u16 index, std::u16string_view name) {
+    RecordHeader header;
+    if (!m_db || !MakeHeader(kind, index, name, header) || size > 0x7FFFFFFF) return false;
+    // The search and the insert are one step, so two processes never both add the record.
+    StoreTransaction transaction(*this, StoreTransaction::Kind::Write);
+    if (!transaction.Started()) return false;
+    const int table = TableOf(kind);
+    Found found;
+    sqlite3_stmt* statement = nullptr;
+    if (Find(kind, index, name, found)) {
+        sqlite3_reset(found.row);
+        statement = m_update[table];
+        sqlite3_bind_blob(statement, 1, BlobPointer(buffer), static_cast<int>(size), SQLITE_STATIC);
+        sqlite3_bind_int64(statement, 2, found.id);
+    } else {
+        statement = m_insert[table];
+        sqlite3_bind_blob(statement, 1, &header, sizeof header, SQLITE_STATIC);
+        sqlite3_bind_blob(statement, 2, BlobPointer(buffer), static_cast<int>(size), SQLITE_STATIC);
+    }
+    const bool written = Execute(statement);
+    sqlite3_clear_bindings(statement);
+    if (!written) {
+        Fail("cannot write a record");
+        return false;
+    }
+    return transaction.Commit();
+}
+
+int RecordStore::CountRecords() {
+    if (!m_db) return 0;
+    int count = 0;
+    for (sqlite3_stmt* scan : m_scan) {
+        while (sqlite3_step(scan) == SQLITE_ROW) ++count;
+        sqlite3_reset(scan);
+    }
+    return count;
+}
+
+bool RecordStore::Begin(bool write) {
+    if (!m_db) return false;
+    if (m_transactionDepth == 0) {
+        if (!Execute(write ? m_beginWrite : m_beginRead)) {
+            Fail("cannot start a transaction");
+            return false;
+        }
+        m_rollbackOnly = false;
+    }
+    ++m_transactionDepth;
+    return true;
+}
+
+bool RecordStore::Commit() {
+    if (m_transactionDepth == 0) return false;
+    if (--m_transactionDepth > 0) return !m_rollbackOnly;
+    if (m_rollbackOnly || !Execute(m_commit)) {
+        if (!m_rollbackOnly) Fail("cannot commit");
+        Execute(m_rollback);
+        m_rollbackOnly = false;
+        return false;
+    }
+    return true;
+}
+
+void RecordStore::Rollback() {
+    if (m_transactionDepth == 0) return;
+    if (--m_transactionDepth > 0) {
+        m_rollbackOnly = true;
+        return;
+    }
+    Execute(m_rollback);
+    m_rollbackOnly = false;
+}
+
+StoreTransaction::StoreTransaction(RecordStore& store, Kind kind) : m_store(store) {
+    m_started = m_store.Begin(kind == Kind::Write);
+}
+
+StoreTransaction::~StoreTransaction() {
+    if (m_started && !m_done) m_store.Rollback();
+}
+
+bool StoreTransaction::Commit() {
+    if (!m_started || m_done) return false;
+    m_done = true;
+    return m_store.Commit();
+}
+
+}  // namespace brinto

@@ -1,0 +1,116 @@
+#pragma once
+// RecordStore: the calculator's memory between runs, one SQLite database file holding fixed-size
+// records. Each record is a row of two blobs, the 80-byte RecordHeader that names it and the
+// payload bytes; kind 1 (the preferences) lives in the table "BrintoConfig", every other kind in
+// "BrintoState". The store never looks inside a payload: repairs of wrong sizes and versions are
+// the loader's business (state_io.h).
+//
+// Several processes may share one file (the desktop program and brinto-cli): each waits a while
+// for the other's write to finish, and every change is one SQLite transaction, so a crash or kill
+// leaves the file as it was before or after a save, never in between.
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "engine/types.h"
+#include "store/record_header.h"
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace brinto {
+
+enum class OpenResult {
+    Opened,       // a Brinto database, created first if the file did not exist
+    NotBrinto,    // the file is damaged or holds something else; it was left untouched
+    Busy,         // another process kept the file locked for longer than the store waits
+    Unavailable,  // the file could not be opened or created at all (rights, a missing folder)
+};
+
+class RecordStore {
+public:
+    // The path that names a database kept only in memory, for runs that must not touch a file.
+    static constexpr std::string_view kInMemory = ":memory:";
+
+    RecordStore() = default;
+    ~RecordStore();
+    RecordStore(const RecordStore&) = delete;
+    RecordStore& operator=(const RecordStore&) = delete;
+
+    // Opens the database at `path`. A missing file is created complete (both tables) under a
+    // temporary name and then moved into place, so no other process ever sees a half-made one.
+    // A file that exists but is not a Brinto database is not changed in any way.
+    OpenResult Open(const std::string& path);
+    void Close();
+    bool IsOpen() const { return m_db != nullptr; }
+    // What went wrong last, in words, for a warning line.
+    const std::string& LastError() const { return m_error; }
+
+    // Finds the first record (in insertion order) with this kind and index and an empty name,
+    // copies min(stored size, size) payload bytes into `buffer` and sets `size` to that count.
+    // When none matches, or the store is closed, `size` becomes 0 and the result is false.
+    bool ReadRecord(u32 kind, void* buffer, std::size_t& size, u16 index = 0);
+    // The same for a record keyed by name (index 65535); the name compares case-sensitively.
+    bool ReadRecord(u32 kind, void* buffer, std::size_t& size, std::u16string_view name);
+    // Replaces the payload of the first matching record, or adds a record with a fresh header.
+    // False when the store is closed, the name is longer than 32 units or the write failed.
+    bool WriteRecord(u32 kind, const void* buffer, std::size_t size, u16 index = 0);
+    bool WriteRecord(u32 kind, const void* buffer, std::size_t size, std::u16string_view name);
+
+    // Number of rows in both tables, for tests and diagnostics.
+    int CountRecords();
+
+private:
+    friend class StoreTransaction;
+    struct Found;
+
+    bool OpenExisting(const std::string& path, int flags);
+    bool CreateFresh(const std::string& path);
+    OpenResult CheckBrinto();
+    bool Prepare();
+    bool Find(u32 kind, u16 index, std::u16string_view name, Found& found);
+    bool Read(u32 kind, u16 index, std::u16string_view name, void* buffer, std::size_t& size);
+    bool Write(u32 kind, const void* buffer, std::size_t size, u16 index, std::u16string_view name);
+    bool Execute(sqlite3_stmt* statement);
+    void Fail(std::string_view what);
+
+    // Transactions: only the outermost one talks to SQLite; inner ones join it.
+    bool Begin(bool write);
+    bool Commit();
+    void Rollback();
+
+    sqlite3* m_db = nullptr;
+    sqlite3_stmt* m_scan[2] = {nullptr, nullptr};    // config, state
+    sqlite3_stmt* m_update[2] = {nullptr, nullptr};
+    sqlite3_stmt* m_insert[2] = {nullptr, nullptr};
+    sqlite3_stmt* m_beginRead = nullptr;
+    sqlite3_stmt* m_beginWrite = nullptr;
+    sqlite3_stmt* m_commit = nullptr;
+    sqlite3_stmt* m_rollback = nullptr;
+    int m_transactionDepth = 0;
+    bool m_rollbackOnly = false;  // an inner transaction gave up: the outer one must not commit
+    std::string m_error;
+};
+
+// Groups the reads of a load into one consistent snapshot, or the writes of a save into one
+// all-or-nothing change. Nested transactions join the outermost one. Whatever is not committed
+// is rolled back when the object goes away.
+class StoreTransaction {
+public:
+    enum class Kind { Read, Write };
+    StoreTransaction(RecordStore& store, Kind kind);
+    ~StoreTransaction();
+    StoreTransaction(const StoreTransaction&) = delete;
+    StoreTransaction& operator=(const StoreTransaction&) = delete;
+
+    bool Started() const { return m_started; }
+    // True when the change is in the file (or, for an inner transaction, handed to the outer one).
+    bool Commit();
+
+private:
+    RecordStore& m_store;
+    bool m_started = false;
+    bool m_done = false;
+};
+
+}  // namespace brinto

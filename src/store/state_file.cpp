@@ -1,0 +1,108 @@
+#include "store/state_file.h"
+
+#include <pwd.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <ctime>
+#include <system_error>
+
+namespace brinto {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kCompanions[] = {"-wal", "-journal", "-shm"};
+constexpr const char* kNothingSaved = "; running on defaults, nothing will be saved";
+
+fs::path HomeFolder(const char* home) {
+    if (home && *home) return home;
+    // No $HOME (a service, a stripped environment): the account's own home folder.
+    if (const passwd* account = getpwuid(getuid()); account && account->pw_dir) return account->pw_dir;
+    return ".";
+}
+
+fs::path BaseFolder(const char* variable, const char* home, const char* fallback) {
+    if (variable && *variable && fs::path(variable).is_absolute()) return variable;
+    return HomeFolder(home) / fallback;
+}
+
+std::string Stamp() {
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    localtime_r(&now, &local);
+    char text[32];
+    std::strftime(text, sizeof text, "%Y%m%d-%H%M%S", &local);
+    return text;
+}
+
+bool Exists(const fs::path& path) {
+    std::error_code ec;
+    return fs::exists(fs::symlink_status(path, ec));
+}
+
+}  // namespace
+
+StateLocations LocationsFrom(const char* xdgDataHome, const char* xdgConfigHome, const char* home) {
+    return {BaseFolder(xdgDataHome, home, ".local/share") / "brinto" / "brinto.db",
+            BaseFolder(xdgConfigHome, home, ".config") / "brinto" / "Brinto.reg"};
+}
+
+StateLocations DefaultLocations() {
+    return LocationsFrom(std::getenv("XDG_DATA_HOME"), std::getenv("XDG_CONFIG_HOME"), std::getenv("HOME"));
+}
+
+fs::path MoveAside(const fs::path& path) {
+    const std::string base = path.string() + ".damaged-" + Stamp();
+    std::string aside = base;
+    for (int n = 2; Exists(aside) && n < 1000; ++n) aside = base + "-" + std::to_string(n);
+    std::error_code ec;
+    fs::rename(path, aside, ec);
+    if (ec) return {};
+    // The journal belongs to the damaged file: left behind, SQLite would replay it into the
+    // fresh database that takes the old name.
+    for (const char* suffix : kCompanions) {
+        const fs::path companion = path.string() + suffix;
+        if (Exists(companion)) fs::rename(companion, aside + suffix, ec);
+    }
+    return aside;
+}
+
+OpenResult OpenStateFile(RecordStore& store, const fs::path& path, std::string& warning) {
+    warning.clear();
+    std::error_code ec;
+    if (path.has_parent_path()) fs::create_directories(path.parent_path(), ec);
+    if (ec) {
+        warning = "cannot create the folder " + path.parent_path().string() + ": " + ec.message() + kNothingSaved;
+        return OpenResult::Unavailable;
+    }
+    const OpenResult result = store.Open(path.string());
+    switch (result) {
+        case OpenResult::Opened: return result;
+        case OpenResult::Busy:
+            warning = path.string() + " is in use by another program" + kNothingSaved;
+            return result;
+        case OpenResult::Unavailable:
+            if (!Exists(path)) {
+                warning = store.LastError() + kNothingSaved;
+                return result;
+            }
+            break;  // a file is there but cannot be opened: keep it aside and start afresh
+        case OpenResult::NotBrinto: break;
+    }
+    const std::string reason = store.LastError();
+    const fs::path aside = MoveAside(path);
+    if (aside.empty()) {
+        warning = path.string() + " cannot be used (" + reason + ") nor moved aside" + kNothingSaved;
+        return result;
+    }
+    const OpenResult fresh = store.Open(path.string());
+    const char* what = result == OpenResult::NotBrinto ? " was damaged or not a Brinto database ("
+                                                       : " could not be opened (";
+    warning = path.string() + what + reason + "); kept it as " +
+              aside.string() + (fresh == OpenResult::Opened ? "; starting on defaults" : kNothingSaved);
+    return fresh;
+}
+
+}  // namespace brinto

@@ -1,0 +1,33 @@
+#pragma once
+// Where the calculator keeps its database and where a legacy export is looked for, and opening
+// the database so that a damaged file never stops the program nor loses what it holds.
+#include <filesystem>
+#include <string>
+
+#include "store/record_store.h"
+
+namespace brinto {
+
+struct StateLocations {
+    std::filesystem::path database;    // $XDG_DATA_HOME/brinto/brinto.db
+    std::filesystem::path legacyFile;  // $XDG_CONFIG_HOME/brinto/Brinto.reg
+};
+
+// From the given variables (null or empty when unset). As the XDG rules say, a variable that is
+// not an absolute path is ignored and the folder defaults to ~/.local/share or ~/.config.
+StateLocations LocationsFrom(const char* xdgDataHome, const char* xdgConfigHome, const char* home);
+// From this process's environment.
+StateLocations DefaultLocations();
+
+// Opens the database at `path`, creating its folder and the file when missing. A file that is
+// damaged or not a Brinto database is renamed aside in the same folder (with ".damaged-" and the
+// time in its name, so nothing the user had is destroyed) and a fresh database takes its place.
+// `warning` gets one line when something was wrong; the store stays closed when nothing could be
+// opened, and the program then runs on defaults without saving.
+OpenResult OpenStateFile(RecordStore& store, const std::filesystem::path& path, std::string& warning);
+
+// Renames `path` (and SQLite's companion files beside it) to a free name with ".damaged-" and the
+// local time; returns the new name, or an empty path when the rename failed.
+std::filesystem::path MoveAside(const std::filesystem::path& path);
+
+}  // namespace brinto

@@ -1,0 +1,127 @@
+#include "store/state_io.h"
+
+#include <optional>
+
+namespace brinto {
+
+namespace {
+
+// Reads a record into a zeroed image of T: bytes the store does not deliver stay zero.
+template <class T>
+std::size_t ReadImage(RecordStore& store, u32 recordKind, T& image) {
+    image = T{};
+    std::size_t size = sizeof(T);
+    store.ReadRecord(recordKind, &image, size);
+    return size;
+}
+
+void LoadPreferences(Engine& e, RecordStore& store) {
+    Preferences prefs;
+    ReadImage(store, kind::Preferences, prefs);
+    if (prefs.words[0] != kPreferencesVersion) {
+        prefs = DefaultPreferences();
+        e.dirty.preferences = true;
+    }
+    // Depths below 4 or above 20 come from damaged or foreign records; 4..20 are kept even when
+    // they are not one of the listed choices.
+    const int depth = prefs.StackDepth();
+    if (depth < 4 || depth > 20) {
+        prefs.SetStackDepth(depth < 4 ? 4 : 20);
+        e.dirty.preferences = true;
+    }
+    e.prefs = prefs;
+}
+
+void LoadRegisters(Engine& e, RecordStore& store) {
+    RegisterBank registers;
+    ReadImage(store, kind::Registers, registers);  // a short record is zero-filled and accepted
+    if (registers.version == kRegisterBankVersion) {
+        e.registers = registers;
+    } else {
+        e.ResetRegisters();
+    }
+}
+
+void LoadUserKeys(Engine& e, UserKeyMap& userKeys, RecordStore& store) {
+    UserKeyMap keys;
+    if (ReadImage(store, kind::UserKeys, keys) == sizeof keys) {
+        userKeys = keys;
+    } else {
+        userKeys = EmptyUserKeyMap();
+        e.dirty.userKeys = true;
+    }
+}
+
+void LoadMacro(Engine& e, RecordStore& store) {
+    MacroRecord macro;
+    if (ReadImage(store, kind::Macro, macro) == sizeof macro) {
+        e.macro = macro;
+    } else {
+        e.ResetMacro();
+    }
+}
+
+void LoadCalcState(Engine& e, RecordStore& store) {
+    CalcState state;
+    if (ReadImage(store, kind::CalcState, state) == sizeof state && state.version == kCalcStateVersion) {
+        e.state = state;
+    } else {
+        e.ResetState();  // needs the preferences loaded first: it takes the input method from them
+    }
+}
+
+}  // namespace
+
+bool LoadState(Engine& e, UserKeyMap& userKeys, RecordStore& store, const LegacyMigration& migrate) {
+    e.dirty = DirtyFlags{};
+    bool result = true;
+    std::optional<StoreTransaction> snapshot;
+    snapshot.emplace(store, StoreTransaction::Kind::Read);
+    Preferences probe;
+    std::size_t size = sizeof probe;
+    if (!store.ReadRecord(kind::Preferences, &probe, size)) {
+        // The migration writes, so it runs outside the read snapshot; the load then starts afresh.
+        snapshot.reset();
+        result = migrate && migrate(store);
+        snapshot.emplace(store, StoreTransaction::Kind::Read);
+    }
+    LoadPreferences(e, store);
+    LoadRegisters(e, store);
+    LoadUserKeys(e, userKeys, store);
+    LoadMacro(e, store);
+    LoadCalcState(e, store);
+    snapshot->Commit();
+    e.history.Init(&e.Records());
+    return result;
+}
+
+bool SaveState(Engine& e, const UserKeyMap& userKeys, RecordStore& store) {
+    StoreTransaction transaction(store, StoreTransaction::Kind::Write);
+    // Without the transaction each record would be written on its own: a save is all or nothing.
+    bool saved = transaction.Started();
+    if (e.dirty.preferences) {
+        e.prefs.words[0] = kPreferencesVersion;
+        saved = saved && store.WriteRecord(kind::Preferences, &e.prefs, sizeof e.prefs);
+        e.dirty.preferences = false;
+    }
+    if (e.dirty.registers) {
+        e.registers.version = kRegisterBankVersion;
+        saved = saved && store.WriteRecord(kind::Registers, &e.registers, sizeof e.registers);
+        e.dirty.registers = false;
+    }
+    if (e.dirty.userKeys) {
+        saved = saved && store.WriteRecord(kind::UserKeys, &userKeys, sizeof userKeys);
+        e.dirty.userKeys = false;
+    }
+    if (e.dirty.macro) {
+        e.macro.macroVersion = kMacroVersion;
+        saved = saved && store.WriteRecord(kind::Macro, &e.macro, sizeof e.macro);
+        e.dirty.macro = false;
+    }
+    e.state.version = kCalcStateVersion;
+    saved = saved && store.WriteRecord(kind::CalcState, &e.state, sizeof e.state);
+    e.dirty.state = false;
+    return saved && transaction.Commit();
+}
+
+}  // namespace brinto
