@@ -5,6 +5,7 @@
 
 #include <cstring>
 #include <filesystem>
+#include <fstream>
 #include <system_error>
 
 namespace brinto {
@@ -120,6 +121,7 @@ OpenResult RecordStore::Open(const std::string& path) {
     }
     std::error_code ec;
     if (!std::filesystem::exists(path, ec) && !ec && !CreateFresh(path)) return OpenResult::Unavailable;
+    if (const OpenResult header = CheckFileHeader(path); header != OpenResult::Opened) return header;
     if (!OpenExisting(path, SQLITE_OPEN_READWRITE)) {
         Close();
         return OpenResult::Unavailable;
@@ -127,6 +129,33 @@ OpenResult RecordStore::Open(const std::string& path) {
     const OpenResult result = CheckBrinto();
     if (result != OpenResult::Opened) Close();
     return result;
+}
+
+// Looks at the file's first bytes before SQLite does: opening a foreign or garbage file would let
+// SQLite act on a journal lying beside it (replay it, or delete it on closing), and that journal
+// belongs to whatever the user had there.
+OpenResult RecordStore::CheckFileHeader(const std::string& path) {
+    constexpr std::size_t kHeaderBytes = 100;
+    std::ifstream file(path, std::ios::binary);
+    char header[kHeaderBytes] = {};
+    if (!file) {
+        m_error = "cannot open " + path;
+        return OpenResult::Unavailable;
+    }
+    file.read(header, kHeaderBytes);
+    if (file.bad()) {
+        m_error = "cannot read " + path;
+        return OpenResult::Unavailable;
+    }
+    // The format mark, then the application id as a big-endian word at offset 68.
+    const auto byte = [&](int i) { return static_cast<unsigned>(static_cast<unsigned char>(header[i])); };
+    const unsigned applicationId = byte(68) << 24 | byte(69) << 16 | byte(70) << 8 | byte(71);
+    if (file.gcount() != kHeaderBytes || std::memcmp(header, "SQLite format 3", 16) != 0 ||
+        applicationId != static_cast<unsigned>(kApplicationId)) {
+        m_error = "not a Brinto database";
+        return OpenResult::NotBrinto;
+    }
+    return OpenResult::Opened;
 }
 
 bool RecordStore::OpenExisting(const std::string& path, int flags) {
@@ -193,14 +222,9 @@ OpenResult RecordStore::CheckBrinto() {
         return Judge(code);
     }
     if (check != "ok") {
-        m_error = "damaged database: " + check;
+        m_error = "damaged database: " + check.substr(0, check.find('\n'));
         return OpenResult::NotBrinto;
     }
-    std::string mode;
-    if (QueryText(m_db, "PRAGMA journal_mode", mode, code) && mode != "wal") {
-        QueryText(m_db, "PRAGMA journal_mode=WAL", mode, code);
-    }
-    sqlite3_exec(m_db, "PRAGMA synchronous=NORMAL", nullptr, nullptr, nullptr);
     if (!Prepare()) {
         Fail("not a Brinto database");
         return OpenResult::NotBrinto;
@@ -226,6 +250,14 @@ OpenResult RecordStore::CheckBrinto() {
             return Judge(code);
         }
     }
+    // Only now that the file is known to be ours may it be changed. The write-ahead log makes a
+    // save one append (no waiting for the disk), and a kill at any moment leaves either the old or
+    // the new records; a power cut may lose the latest saves but never mixes them.
+    std::string mode;
+    if (QueryText(m_db, "PRAGMA journal_mode", mode, code) && mode != "wal") {
+        QueryText(m_db, "PRAGMA journal_mode=WAL", mode, code);
+    }
+    sqlite3_exec(m_db, "PRAGMA synchronous=NORMAL", nullptr, nullptr, nullptr);
     return OpenResult::Opened;
 }
 

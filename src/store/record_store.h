@@ -64,6 +64,7 @@ private:
     friend class StoreTransaction;
     struct Found;
 
+    OpenResult CheckFileHeader(const std::string& path);
     bool OpenExisting(const std::string& path, int flags);
     bool CreateFresh(const std::string& path);
     OpenResult CheckBrinto();
