@@ -10,6 +10,23 @@ Preferences DefaultPreferences() {
     return p;
 }
 
+namespace {
+// Stored number-format codes in the order the format list shows them.
+constexpr NumberFormat kFormatList[] = {NumberFormat::Standard, NumberFormat::Fixed, NumberFormat::Scientific,
+                                        NumberFormat::Engineering};
+}  // namespace
+
+int Preferences::FormatListIndex() const {
+    for (int i = 0; i < 4; ++i) {
+        if (kFormatList[i] == Format()) return i;
+    }
+    return 0;  // unreachable: the two-bit field holds one of the four codes
+}
+
+void Preferences::SetFormatListIndex(int index) {
+    SetFormat(index >= 0 && index < 4 ? kFormatList[index] : NumberFormat::Standard);
+}
+
 InputMethod Preferences::Method() const {
     if (words[2] & 1) return InputMethod::Rpn;  // bit 0 wins when both are set
     if (words[2] & 2) return InputMethod::Precedence;

@@ -40,6 +40,12 @@ struct Preferences {
     void SetFormat(NumberFormat f) { Set(2, 10, 2, static_cast<u16>(f)); }
     int DigitField() const { return words[2] >> 12; }  // 0 "All", else digits + 1
     void SetDigitField(int d) { Set(2, 12, 4, static_cast<u16>(d)); }
+    // The choices as the "General" page lists them: formats "Standard", "Fixed", "Scientific",
+    // "Engineering" (stored as 0, 3, 1, 2) and depths "4", "8", "12", "16", "20".
+    int FormatListIndex() const;
+    void SetFormatListIndex(int index);
+    int StackDepthListIndex() const { return StackDepth() / 4 - 1; }
+    void SetStackDepthListIndex(int index) { SetStackDepth((index + 1) * 4); }
 
     // Word 3.
     bool LongDate() const { return Bit(3, 0); }

@@ -15,7 +15,7 @@ namespace {
 template <std::size_t N>
 std::array<u8, N> ZeroFilled(std::span<const u8> saved) {
     std::array<u8, N> buffer{};
-    std::memcpy(buffer.data(), saved.data(), saved.size() < N ? saved.size() : N);
+    if (!saved.empty()) std::memcpy(buffer.data(), saved.data(), saved.size() < N ? saved.size() : N);
     return buffer;
 }
 

@@ -79,7 +79,7 @@ bool MakeHeader(u32 kind, u16 index, std::u16string_view name, RecordHeader& hea
     header.headerFormat = kHeaderFormat;
     header.kind = kind;
     header.index = index;
-    std::memcpy(header.name, name.data(), name.size() * sizeof(char16_t));
+    if (!name.empty()) std::memcpy(header.name, name.data(), name.size() * sizeof(char16_t));
     return true;
 }
 

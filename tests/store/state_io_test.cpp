@@ -24,7 +24,7 @@ protected:
     template <class T>
     void Plant(u32 recordKind, const T& record, std::size_t size = sizeof(T)) {
         std::vector<unsigned char> bytes(size, 0);
-        std::memcpy(bytes.data(), &record, size < sizeof(T) ? size : sizeof(T));
+        if (size > 0) std::memcpy(bytes.data(), &record, size < sizeof(T) ? size : sizeof(T));
         ASSERT_TRUE(store.WriteRecord(recordKind, bytes.data(), bytes.size()));
     }
     void PlantDefaults() {
