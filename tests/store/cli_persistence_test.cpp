@@ -119,11 +119,15 @@ TEST_F(CliPersistence, MemoryRunsReadAndWriteNothing) {
 
 TEST_F(CliPersistence, ABadTokenOrOptionSavesNothing) {
     const std::string db = (folder / "calc.db").string();
-    EXPECT_EQ(Cli({"--db", db, "5", "nonsense"}).status, 2);
     EXPECT_EQ(Cli({"--db", db, "--bogus", "5"}).status, 2);
     EXPECT_EQ(Cli({"--import-legacy"}).status, 2);
-    EXPECT_FALSE(std::filesystem::exists(db));
+    EXPECT_FALSE(std::filesystem::exists(db));  // options are checked before the file is opened
     EXPECT_FALSE(std::filesystem::exists(DefaultDatabase()));
+
+    Cli({"--db", db, "9", "+"});
+    // The keys before the bad token ran, but the run ends as if it had not started.
+    EXPECT_EQ(Cli({"--db", db, "5", "=", "nonsense"}).status, 2);
+    EXPECT_EQ(Cli({"--db", db, "1", "="}).out, "10.\n");
 }
 
 TEST_F(CliPersistence, ImportLegacyFillsTheDatabase) {
