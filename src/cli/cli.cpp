@@ -304,11 +304,9 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
     RecordStore store;
     if (!LoadCalculator(*options, session, store, err)) return 1;
     RecordStore* const saveTo = options->memory ? nullptr : &store;
-    // Preferences given on the command line are changes like any other: they are kept.
-    for (const auto& [word, value] : options->prefs) {
-        engine.prefs.words[word] = value;
-        engine.dirty.preferences = true;
-    }
+    // Preferences given on the command line are raw settings for this run: they mark nothing
+    // changed, so they are not kept unless a key changes the preferences too.
+    for (const auto& [word, value] : options->prefs) engine.prefs.words[word] = value;
     if (options->seed) engine.state.randomSeed = *options->seed;
 
     if (interactive) return Interactive(session, host, in, out, err, saveTo);

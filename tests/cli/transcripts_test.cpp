@@ -138,6 +138,19 @@ TEST(Cli, BinaryJunkOnStandardInputIsRefused) {
     EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 1);
 }
 
+TEST(Cli, PreferencesFromTheCommandLineHoldForOneRun) {
+    char folder[] = "/tmp/brinto-cli-test-XXXXXX";
+    ASSERT_NE(mkdtemp(folder), nullptr);
+    const std::string db = std::string(folder) + "/brinto.db";
+    ASSERT_EQ(RunCli({"--db", db, "--pref", "6=1", "5", "enter"}).exitCode, 0);
+    const RunResult second = RunCli({"--db", db, "--json"});
+    const auto json = ParseJson(second.out);
+    ASSERT_TRUE(json.has_value()) << second.err;
+    EXPECT_EQ(json->Find("prefs.6")->Compact(), "0");
+    EXPECT_EQ(json->Find("stack.0.value")->Compact(), "5");  // the calculator itself was kept
+    std::filesystem::remove_all(folder);
+}
+
 TEST(Cli, ListKeysNamesEveryKey) {
     const RunResult r = RunCli({"--list-keys"});
     ASSERT_EQ(r.exitCode, 0);
