@@ -304,9 +304,18 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
     RecordStore store;
     if (!LoadCalculator(*options, session, store, err)) return 1;
     RecordStore* const saveTo = options->memory ? nullptr : &store;
-    // Preferences given on the command line are raw settings for this run: they mark nothing
-    // changed, so they are not kept unless a key changes the preferences too.
+    // Preferences given on the command line are raw settings for this run: unless a key changes
+    // the preferences too, the saved record keeps the loaded ones.
+    const Preferences loadedPrefs = engine.prefs;
     for (const auto& [word, value] : options->prefs) engine.prefs.words[word] = value;
+    const Preferences givenPrefs = engine.prefs;
+    const auto save = [&] {
+        if (!saveTo) return;
+        const Preferences live = engine.prefs;
+        if (live.words == givenPrefs.words) engine.prefs = loadedPrefs;
+        SaveSession(session, *saveTo);
+        engine.prefs = live;
+    };
     if (options->seed) engine.state.randomSeed = *options->seed;
 
     if (interactive) return Interactive(session, host, in, out, err, saveTo);
@@ -314,7 +323,7 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
         err << "brinto-cli: " << error << '\n';
         return 2;  // nothing is saved: the run ends as if it had not started
     }
-    if (saveTo) SaveSession(session, *saveTo);
+    save();
     if (options->json) {
         out << JsonReport(session, host.report);
     } else {
