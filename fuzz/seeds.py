@@ -103,6 +103,121 @@ CLI = {
 }
 
 
+# load_state_fuzzer: a count byte, then records of [kind (bit 7: an index byte follows)]
+# [size, 16 bits][payload].
+def record(kind, payload, index=None):
+    head = kind | (0x80 if index is not None else 0)
+    out = bytes([head]) + (bytes([index]) if index is not None else b"")
+    return out + struct.pack("<H", len(payload)) + payload
+
+
+def preferences(word2=0x0290, word3=0x0002, version=7):
+    return struct.pack("<7H", version, 0, word2, word3, 0, 0, 0)
+
+
+def calc_state(x=5.0, y=0.0, status=0x0800, engine_flags=0x0020, entry=b"", pending=(), version=7,
+               macro_position=0, last_key=255):
+    b = bytearray(576)
+    struct.pack_into("<HHHHHBB", b, 0, version, status, 0, 0, engine_flags, len(entry), 0)
+    b[12:12 + len(entry)] = entry
+    struct.pack_into("<20d", b, 56, x, y, *([0.0] * 18))
+    struct.pack_into("<20H", b, 256, *([0xFFFF] * 20))
+    struct.pack_into("<H", b, 296, len(pending))
+    struct.pack_into("<II", b, 300, 255, 255)
+    struct.pack_into("<%dI" % len(pending), b, 308, *pending) if pending else None
+    struct.pack_into("<I", b, 468, 255)
+    struct.pack_into("<dHH", b, 472, 0.0, 0, 0xFFFF)
+    struct.pack_into("<HIH", b, 518, macro_position, 211, 0)
+    struct.pack_into("<III", b, 528, last_key, last_key, 1)
+    return bytes(b)
+
+
+def register_bank(values=None, cash_flows=-1, version=7):
+    b = bytearray(1616)
+    struct.pack_into("<Hh", b, 0, version, cash_flows)
+    v = [0.0] * 124
+    v[106] = 12.0
+    v[119:124] = [365.25, 30.4375, 7.0, 24.0, 30.0]
+    for k, value in (values or {}).items():
+        v[k] = value
+    struct.pack_into("<124d", b, 624, *v)
+    return bytes(b)
+
+
+def macro_record(keys_list, version=2):
+    b = bytearray(256)
+    struct.pack_into("<HH", b, 0, version, len(keys_list))
+    struct.pack_into("<%dI" % len(keys_list), b, 4, *keys_list)
+    return bytes(b)
+
+
+def user_keys(assigned=None):
+    k = [255] * 24
+    for slot, fid in (assigned or {}).items():
+        k[slot] = fid
+    return struct.pack("<24I", *k)
+
+
+def store(*records):
+    return bytes([len(records) - 1]) + b"".join(records)
+
+
+LOAD_STATE = {
+    "empty_store": bytes([0]),
+    "complete_rpn": store(record(1, preferences(0x0051)), record(3, register_bank({0: 42.0, 100: 36.0})),
+                          record(5, user_keys({0: 22, 12: 89})), record(4, macro_record([211, 1, 21, 22, 215])),
+                          record(2, calc_state(x=2.0, y=3.0))),
+    "pending_operators": store(record(1, preferences()), record(2, calc_state(engine_flags=0x0001, status=0x1000,
+                                                                              pending=(22, 47, 24)))),
+    "typing_a_number": store(record(1, preferences()), record(2, calc_state(status=0x0300, entry=b"-12.5e-3"))),
+    "cash_flows": store(record(1, preferences(0x0051)),
+                        record(3, register_bank({0: -100.0, 1: 30.0, 2: 40.0, 3: 50.0}, cash_flows=3))),
+    "old_versions": store(record(1, preferences(version=6)), record(3, register_bank(version=6)),
+                          record(4, macro_record([211, 215], version=1)), record(2, calc_state(version=6))),
+    "short_records": store(record(1, preferences()[:10]), record(3, register_bank()[:1600]),
+                           record(5, user_keys()[:95]), record(4, macro_record([211])[:200]),
+                           record(2, calc_state()[:575])),
+    "depth_out_of_range": store(record(1, preferences(0x007D)), record(2, calc_state())),
+    "duplicates_and_strangers": store(record(1, preferences(0x0052), index=0), record(1, preferences(0x0051)),
+                                      record(7, b"\x01\x02\x03"), record(2, calc_state(), index=3),
+                                      record(0, b"")),
+}
+
+
+# legacy_import_fuzzer: registry export files.
+def hex_value(name, data):
+    return '"%s"=hex:%s' % (name, ",".join("%02x" % c for c in data))
+
+
+def legacy_preferences(version, a=0, depth=4, b=0, c=0):
+    buf = bytearray(160)
+    struct.pack_into("<HHB", buf, 0, version, a, depth)
+    struct.pack_into("<HH", buf, 12, b, c)
+    return bytes(buf[:16])
+
+
+def export(lines, header="REGEDIT4"):
+    return ("\r\n".join([header, "", r"[HKEY_CURRENT_USER\Software\ZEB\Brinto]"] + lines) + "\r\n").encode()
+
+
+LEGACY = {
+    "version1_all_slots": export([hex_value("saved_0", legacy_preferences(1, a=0x2000)),
+                                  hex_value("saved_1", register_bank(version=3)[:64]),
+                                  hex_value("saved_3", user_keys({0: 22})),
+                                  hex_value("saved_4", struct.pack("<HH3I", 3, 0, 211, 1, 215))]),
+    "version6_preferences": export([hex_value("saved_0", legacy_preferences(6, a=0x4001, depth=20, b=0x8071,
+                                                                           c=0x3003))]),
+    "continued_lines_v5": ("Windows Registry Editor Version 5.00\r\n\r\n"
+                           "[HKEY_CURRENT_USER\\Software\\ZEB\\Brinto]\r\n"
+                           "\"saved_0\"=hex:05,00,01,00,\\\r\n  08,00,00,00,00,00,00,00,51,00,04,00\r\n"
+                           "\"other\"=dword:00000001\r\n[HKEY_CURRENT_USER\\Software\\Other]\r\n"
+                           "\"saved_0\"=hex:01\r\n").encode("utf-16-le").join([b"\xff\xfe", b""]),
+    "no_preferences": export([hex_value("saved_4", struct.pack("<HH2I", 2, 0, 211, 215))]),
+    "deleted_value": export([hex_value("saved_0", legacy_preferences(4)), '"saved_0"=-']),
+    "not_an_export": b"hello\n",
+}
+
+
 def write(target, seeds):
     folder = os.path.join(HERE, "corpus", target)
     os.makedirs(folder, exist_ok=True)
@@ -111,7 +226,8 @@ def write(target, seeds):
             f.write(data)
 
 
-TARGETS = {"session_keys_fuzzer": SESSION, "paste_fuzzer": PASTE, "cli_fuzzer": CLI}
+TARGETS = {"session_keys_fuzzer": SESSION, "paste_fuzzer": PASTE, "cli_fuzzer": CLI,
+           "load_state_fuzzer": LOAD_STATE, "legacy_import_fuzzer": LEGACY}
 
 if __name__ == "__main__":
     for target, seeds in TARGETS.items():
