@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Line coverage of the calculator reached by the fuzzers' corpora: the seeds in fuzz/corpus/ and
-# whatever `make fuzz` kept in fuzz/out/corpus/. Builds build-fuzz-cov/ with clang's source-based
+# whatever runs kept in fuzz/out/corpus/ and fuzz/out/*/corpus/. Builds build-fuzz-cov/ with clang's source-based
 # coverage, replays every corpus once, and writes the per-file report to fuzz/out/coverage.txt.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -17,7 +17,9 @@ objects=()
 for source in fuzz/*_fuzzer.cpp; do
   t=$(basename "$source" .cpp)
   corpora=("fuzz/corpus/$t")
-  [ -d "fuzz/out/corpus/$t" ] && corpora+=("fuzz/out/corpus/$t")
+  for d in fuzz/out/corpus/"$t" fuzz/out/*/corpus/"$t"; do
+    [ -d "$d" ] && corpora+=("$d")
+  done
   echo "coverage: replaying ${corpora[*]}"
   LLVM_PROFILE_FILE="$build/profiles/$t.profraw" "$build/fuzz/$t" -runs=0 "${corpora[@]}" >/dev/null 2>&1 || true
   objects+=(-object "$build/fuzz/$t")

@@ -1,5 +1,6 @@
 #include "store/state_io.h"
 
+#include <cstring>
 #include <optional>
 
 namespace brinto {
@@ -52,9 +53,41 @@ void LoadUserKeys(Engine& e, UserKeyMap& userKeys, RecordStore& store) {
     }
 }
 
+// The counts and texts the engine indexes with. A record of the right size and version can still
+// hold anything (a damaged or foreign file); one whose counts run past their arrays, or whose
+// number being typed is no number, is damaged and replaced whole, like a record of the wrong size.
+bool UsableMacro(const MacroRecord& macro) { return macro.macroLength <= kMacroSlots; }
+
+bool UsableEntryText(const CalcState& s) {
+    const void* end = std::memchr(s.entryText, '\0', sizeof s.entryText);
+    if (!end) return false;
+    const std::size_t length = static_cast<const char*>(end) - s.entryText;
+    int points = 0, exponents = 0, exponentDigits = 0;
+    for (std::size_t i = 0; i < length; ++i) {
+        const char c = s.entryText[i];
+        const bool digit = (c >= '0' && c <= '9') || (c >= 'A' && c <= 'F' && exponents == 0);
+        if (c == '.' && exponents == 0) {
+            ++points;
+        } else if (c == 'e') {
+            ++exponents;
+        } else if (c == '-') {
+            if (i != 0 && s.entryText[i - 1] != 'e') return false;
+        } else if (!digit) {
+            return false;
+        } else if (exponents) {
+            ++exponentDigits;
+        }
+    }
+    return points <= 1 && exponents <= 1 && exponentDigits <= 3;
+}
+
+bool UsableCalcState(const CalcState& s) {
+    return s.pendingCount <= kMaxPending && UsableEntryText(s) && s.entryDigits <= 32 && s.exponentDigits <= 3;
+}
+
 void LoadMacro(Engine& e, RecordStore& store) {
     MacroRecord macro;
-    if (ReadImage(store, kind::Macro, macro) == sizeof macro) {
+    if (ReadImage(store, kind::Macro, macro) == sizeof macro && UsableMacro(macro)) {
         e.macro = macro;
     } else {
         e.ResetMacro();
@@ -63,7 +96,8 @@ void LoadMacro(Engine& e, RecordStore& store) {
 
 void LoadCalcState(Engine& e, RecordStore& store) {
     CalcState state;
-    if (ReadImage(store, kind::CalcState, state) == sizeof state && state.version == kCalcStateVersion) {
+    if (ReadImage(store, kind::CalcState, state) == sizeof state && state.version == kCalcStateVersion &&
+        UsableCalcState(state)) {
         e.state = state;
     } else {
         e.ResetState();  // needs the preferences loaded first: it takes the input method from them
