@@ -2,11 +2,15 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstring>
 #include <limits>
 #include <memory>
 #include <string_view>
+#include <tuple>
 
+#include "display/labels.h"
+#include "display/number_format.h"
 #include "engine/engine.h"
 #include "ops/date_fields.h"
 
@@ -14,7 +18,9 @@ namespace brinto {
 namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr ValueTag kU8 = 1924, kDate = 1801, kCashFlow = 1419, kGroupCount = 1420;
+constexpr ValueTag kU8 = 1924, kS8 = 1925, kS16 = 1927, kU32 = 1928, kS32 = 1929, kMeters = 1903;
+constexpr ValueTag kDate = 1801, kTime = 1802, kDateTime = 1803, kCashFlow = 1419, kGroupCount = 1420;
+const double kMarch15 = ComposeDate(DateFields{2005, 3, 15, 14, 5, 30, 0});
 
 class DisplayTextTest : public testing::Test {
 protected:
@@ -23,7 +29,6 @@ protected:
         e.state.status = 0;
         e.registers.cashFlowCount = -1;
     }
-
     void Put(int level, double value, ValueTag tag = 0, u16 aux = kNoAux) {
         e.state.stack[level] = value;
         e.state.tags[level] = tag;
@@ -32,6 +37,11 @@ protected:
     std::string Shown(double value, ValueTag tag = 0) {
         Put(0, value, tag);
         return DisplayLevel(e, 0).text;
+    }
+    // What FormatValue makes of a value, before the display's own rules.
+    std::string Formatted(double value, ValueTag tag = 0, bool noPoint = false) {
+        FormattedText out;
+        return FormatValue(e, value, tag, noPoint, out) != 0 ? "refused" : std::string(out.View());
     }
     void Typing(const char* text) {
         e.state.status |= status::Entry;
@@ -44,17 +54,12 @@ protected:
 };
 
 TEST_F(DisplayTextTest, GroupsDigitsBeforeTheRadix) {
-    struct Case { std::string_view name; double value; std::string_view point; std::string_view comma; };
+    struct Case { double value; std::string_view point, comma; };
     const Case cases[] = {
-        {"threeDigits",   123,         "123.",         "123,"},
-        {"fourDigits",    1234,        "1,234.",       "1.234,"},
-        {"sixDigits",     123456,      "123,456.",     "123.456,"},
-        {"withDecimals",  1234567.5,   "1,234,567.5",  "1.234.567,5"},
-        {"negative",      -1234567,    "-1,234,567.",  "-1.234.567,"},
-        {"scientific",    1.23456e15,  "1.23456e15",   "1,23456e15"},
+        {123, "123.", "123,"},       {1234, "1,234.", "1.234,"},   {123456, "123,456.", "123.456,"},
+        {-1234567, "-1,234,567.", "-1.234.567,"},                  {1.23456e15, "1.23456e15", "1,23456e15"},
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
         e.prefs.SetCommaRadix(false);
         EXPECT_EQ(Shown(c.value), c.point);
         e.prefs.SetCommaRadix(true);
@@ -68,49 +73,68 @@ TEST_F(DisplayTextTest, GroupsDigitsBeforeTheRadix) {
 TEST_F(DisplayTextTest, TrailingZerosGoUnlessADigitCountAsksForThem) {
     e.prefs.SetFormat(NumberFormat::Fixed);
     e.prefs.SetDigitField(3);
-    EXPECT_EQ(Shown(0.5), "0.50");
     EXPECT_EQ(Shown(1234.5), "1,234.50");
-    EXPECT_EQ(Shown(44, kU8), "44.");        // integer values show no decimals
-    EXPECT_EQ(Shown(100, kU8), "100.");      // zeros before the point stay
+    EXPECT_EQ(Formatted(0.5, kU8), "0.50");  // the display, not the formatter, drops integer zeros
+    EXPECT_EQ(Shown(44, kU8), "44.");
+    EXPECT_EQ(Shown(100, kU8), "100.");  // zeros before the point stay
+    e.state.status = status::FullDisplay;
+    EXPECT_EQ(Formatted(1.0 / 3.0), "0.333333333333");
+    e.state.status = 0;
     e.prefs.SetFormat(NumberFormat::Scientific);
     EXPECT_EQ(Shown(1), "1.00e0");
-    EXPECT_EQ(Shown(1, kU8), "1.e0");        // zeros go from the mantissa, not the exponent
-    EXPECT_EQ(Shown(1e10, kU8), "1.e10");
+    EXPECT_EQ(Shown(1e10, kU8), "1.e10");  // zeros go from the mantissa, not the exponent
     e.prefs.SetCommaRadix(true);
     EXPECT_EQ(Shown(2.5, kU8), "2,5e0");
 }
 
-TEST_F(DisplayTextTest, IntegerBasesAreNeverGroupedOrStripped) {
-    e.state.status = status::BaseHex;
-    EXPECT_EQ(Shown(0x12345678, 1928), "12345678.");
-    e.state.status = status::BaseBinary;
-    EXPECT_EQ(Shown(16, kU8), "10000.");
+TEST_F(DisplayTextTest, IntegerBasesShowTheBitsOfTheValuesFormatUngrouped) {
+    struct Case { u16 base; int preference; double value; ValueTag tag; std::string_view text; };
+    const u16 hex = status::BaseHex, binary = status::BaseBinary, octal = status::BaseOctal;
+    const Case cases[] = {
+        {hex, 5, 300, kU8, "2C."},           {hex, 5, -1, kS8, "FF."},            {hex, 5, -2, kS16, "FFFE."},
+        {hex, 5, 3735928559, kU32, "DEADBEEF."}, {hex, 0, 256, 0, "0."},           {hex, 2, -1, kMeters, "FFFF."},
+        {hex, 6, -1, 0, "FFFFFFFF."},        {hex, 5, 255.9, 0, "FF."},           {hex, 5, 0x12345678, kU32, "12345678."},
+        {binary, 5, -128, kS8, "10000000."}, {binary, 5, 16, kU8, "10000."},      {octal, 5, -1, kS32, "37777777777."},
+        {octal, 5, 8, 0, "10."},             {octal, 5, 0, 0, "0."},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.value << " tag " << c.tag << " preference " << c.preference);
+        e.state.status = c.base;
+        e.prefs.SetIntegerFormat(c.preference);
+        EXPECT_EQ(Shown(c.value, c.tag), c.text);
+    }
+    EXPECT_EQ(Formatted(255, kU8, true), "377");  // in octal, without the point
+    EXPECT_EQ(Formatted(kInfinity, kU8), "refused");  // the error value stays visible
     e.prefs.SetCommaRadix(true);
-    e.state.status = status::BaseOctal;
-    EXPECT_EQ(Shown(-1, 1929), "37777777777,");  // the point still follows the radix preference
+    EXPECT_EQ(Shown(-1, kS32), "37777777777,");  // the point still follows the radix preference
 }
 
-TEST_F(DisplayTextTest, DatesKeepThePlatformsText) {
-    const double date = ComposeDate(DateFields{2005, 3, 15, 0, 0, 0, 0});
+TEST_F(DisplayTextTest, DatesKeepThePlatformsTextInAnyBase) {
+    EXPECT_EQ(Shown(kMarch15, kTime), "14:05");
+    EXPECT_EQ(Shown(0, kDate), "1904-01-01");
+    EXPECT_EQ(Shown(kMaxDateValue, kDateTime), "2031-12-31 23:59");
+    e.state.status = status::BaseHex;
     e.prefs.SetCommaRadix(true);
-    EXPECT_EQ(Shown(date, kDate), "2005-03-15");
-    e.state.status = status::FullDisplay;  // the number, radix applied but not grouped
-    EXPECT_EQ(Shown(date, kDate), "3193689600,");
+    EXPECT_EQ(Shown(kMarch15, kDate), "2005-03-15");
+    e.prefs.SetLongDate(true);
+    EXPECT_EQ(Shown(kMarch15, kDateTime), "Tuesday, 15 March 2005 14:05");
+    for (const double outside : {-1.0, kMaxDateValue + 1.0, std::nan(""), kInfinity}) {
+        EXPECT_EQ(Formatted(outside, kDate), "refused") << outside;
+    }
+    e.state.status = status::FullDisplay | status::BaseHex;  // the number, radix applied but not grouped
+    e.prefs.SetDigitField(3);
+    EXPECT_EQ(Shown(3.5e9, kDate), "3500000000,");
+    EXPECT_EQ(Shown(-1, kDate), "-1,");
 }
 
 TEST_F(DisplayTextTest, TheNumberBeingTypedShowsAsTyped) {
-    struct Case { std::string_view name; const char* typed; bool comma; std::string_view shown; };
+    struct Case { const char* typed; bool comma; std::string_view shown; };
     const Case cases[] = {
-        {"barePoint",       ".5",          false, "0.5"},
-        {"negativePoint",   "-.5e-3",      false, "-0.5e-3"},
-        {"grouped",         "1234567",     false, "1,234,567"},
-        {"zerosKept",       "1.500",       false, "1.500"},
-        {"groupedExponent", "123456e-12",  false, "123,456e-12"},
-        {"commaRadix",      "1234.5",      true,  "1.234,5"},
-        {"commaBarePoint",  ".",           true,  "0,"},
+        {".5", false, "0.5"},         {"-.5e-3", false, "-0.5e-3"},         {"1.500", false, "1.500"},
+        {"123456e-12", false, "123,456e-12"}, {"1234.5", true, "1.234,5"}, {".", true, "0,"},
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
+        SCOPED_TRACE(c.typed);
         e.prefs.SetCommaRadix(c.comma);
         Typing(c.typed);
         EXPECT_EQ(DisplayLevel(e, 0).text, c.shown);
@@ -123,62 +147,64 @@ TEST_F(DisplayTextTest, TheNumberBeingTypedShowsAsTyped) {
     EXPECT_EQ(DisplayLevel(e, 1).text, "4D2.");  // other levels show their values
 }
 
+TEST(EmptyEntry, AnEntryEditedToNothingShowsZero) {
+    // Typing a digit, changing the sign, then erasing both leaves the entry open with X zero: the
+    // display shows the zero a cleared X shows, not a blank line.
+    const FunctionId cases[][6] = {
+        {1, fid::ChangeSign, 4, fid::Backspace, fid::Backspace, fid::ChangeSign},
+        {2, fid::Add, 5, fid::ChangeSign, fid::Backspace, fid::ChangeSign},
+    };
+    const std::string zero = DisplayLevel(*std::make_unique<Engine>(), 0).text;
+    for (const auto& keys : cases) {
+        auto e = std::make_unique<Engine>();
+        for (const FunctionId id : keys) e->Dispatch(id);
+        EXPECT_EQ(e->X(), 0.0);
+        EXPECT_EQ(DisplayLevel(*e, 0).text, zero);
+    }
+    EXPECT_FALSE(zero.empty());
+}
+
 TEST_F(DisplayTextTest, ValuesTheFormatterRefusesShowError) {
     Put(0, kInfinity);
     Put(1, -1, kDate);
     Put(2, 3);
-    const DisplayLine x = DisplayLevel(e, 0);
-    EXPECT_EQ(x.text, "error");
-    EXPECT_TRUE(x.error);
-    const DisplayLine y = DisplayLevel(e, 1);
-    EXPECT_EQ(y.text, "error");
-    EXPECT_EQ(y.label, "date");
+    const DisplayLine x = DisplayLevel(e, 0), y = DisplayLevel(e, 1);
+    EXPECT_EQ(std::tuple(x.text, x.error, y.text, y.label), std::tuple("error", true, "error", "date"));
     EXPECT_FALSE(DisplayLevel(e, 2).error);
 }
 
 TEST_F(DisplayTextTest, LabelsComeFromTheTagWithCashFlowDecorations) {
-    struct Case {
-        std::string_view name; ValueTag tag; u16 aux; i16 flowCount; u32 groupCount; std::string_view label;
-    };
+    struct Case { ValueTag tag; u16 aux; i16 flowCount; u32 groupCount; std::string_view label; };
     const Case cases[] = {
-        {"unit",             1903,         kNoAux, -1, 0, "meters"},
-        {"unknownTag",       1234,         kNoAux, -1, 0, ""},
-        {"constant",         3607,         kNoAux, -1, 0, "Speed of light in vacuum, c"},
-        {"cashFlowGroup",    kCashFlow,    3,      5,  4, "CFj 3 x4"},
-        {"cashFlowSingle",   kCashFlow,    3,      5,  1, "CFj 3"},
-        {"groupCount",       kGroupCount,  3,      5,  4, "Nj 3"},
-        {"emptyList",        kCashFlow,    3,      -1, 4, "CFj"},
-        {"firstEntry",       kCashFlow,    0,      0,  2, "CFj 0 x2"},
+        {1234, kNoAux, -1, 0, ""},        {3607, kNoAux, -1, 0, "Speed of light in vacuum, c"},
+        {kCashFlow, 3, 5, 4, "CFj 3 x4"}, {kCashFlow, 3, 5, 1, "CFj 3"},   {kGroupCount, 3, 5, 4, "Nj 3"},
+        {kCashFlow, 3, -1, 4, "CFj"},     {kCashFlow, 0, 0, 2, "CFj 0 x2"},
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
+        SCOPED_TRACE(testing::Message() << "tag " << c.tag << " entry " << c.aux);
         e.registers.cashFlowCount = c.flowCount;
         if (c.aux < kUserRegisters) e.registers.aux[c.aux] = c.groupCount;
         Put(0, 100, c.tag, c.aux);
         EXPECT_EQ(DisplayLevel(e, 0).label, c.label);
     }
-}
-
-TEST_F(DisplayTextTest, AnAmortizationRunShowsItsPeriods) {
     e.state.amortStart = 1;
     e.state.amortEnd = 12;
     Put(0, 250.5, 1412);
     EXPECT_EQ(DisplayLevel(e, 0, Amortizing::Yes).label, "Calculating...  1-12");
     EXPECT_EQ(DisplayLevel(e, 0).label, "Int");
+    // The label table, across its rows; codes are 16 bits wide.
+    const std::pair<u32, std::string_view> rows[] = {
+        {1200, "error"}, {1811, "frames"}, {1929, "s32"}, {2504, "fps"}, {1954, "fl. oz UK"},
+        {3632, "Reference intensity, I0"}, {1421, ""}, {1955, ""}, {0x10000 + 1200, ""},
+    };
+    for (const auto& [code, text] : rows) EXPECT_EQ(LabelText(code), text) << code;
 }
 
 TEST_F(DisplayTextTest, ClipboardGetsThePlainNumber) {
-    struct Case { std::string_view name; double value; ValueTag tag; std::string_view text; };
-    const Case cases[] = {
-        {"whole",       12,          0, "12"},
-        {"ungrouped",   1234567.5,   0, "1234567.5"},
-        {"exponent",    1e12,        0, "1e12"},
-        {"negative",    -0.25,       0, "-0.25"},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        Put(0, c.value, c.tag);
-        EXPECT_EQ(ClipboardText(e), c.text);
+    const std::pair<double, std::string_view> cases[] = {{12, "12"}, {1e12, "1e12"}, {-0.25, "-0.25"}};
+    for (const auto& [value, text] : cases) {
+        Put(0, value);
+        EXPECT_EQ(ClipboardText(e), text);
     }
     e.prefs.SetCommaRadix(true);
     Put(0, 1234567.5);

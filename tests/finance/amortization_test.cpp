@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <random>
 #include <string>
+#include <tuple>
 
 #include "finance/amortization.h"
 #include "finance/result_labels.h"
@@ -12,19 +14,12 @@
 namespace brinto {
 namespace {
 
-using test::MakeEngine;
-using test::Press;
-using test::Store;
-using test::Type;
+using namespace test;
 
 TEST(RoundToPlaces, RoundsTheShortestDigitsHalfUp) {
-    const struct {
-        double value;
-        int places;
-        double rounded;
-    } cases[] = {{0.125, 2, 0.13},  {1.005, 2, 1.01},  // the double lies below 1.005; its digits do not
-                 {-1.005, 2, -1.01}, {0.0049, 2, 0.0},    {0.005, 2, 0.01},       {0.0009, 2, 0.0},
-                 {999.995, 2, 1000}, {0.5, 0, 1.0},      {1e20, 2, 1e20},         {45.5, -1, 45.5}};
+    const struct { double value; int places; double rounded; } cases[] = {
+        {0.125, 2, 0.13}, {1.005, 2, 1.01}, {-1.005, 2, -1.01},  // the double lies below 1.005; its digits do not
+        {0.0049, 2, 0.0}, {0.005, 2, 0.01}, {999.995, 2, 1000},  {0.5, 0, 1.0}, {1e20, 2, 1e20}, {45.5, -1, 45.5}};
     for (const auto& c : cases) {
         EXPECT_EQ(RoundToPlaces(c.value, c.places), c.rounded) << c.value;
         EXPECT_EQ(RoundToPlacesByDigits(c.value, c.places), c.rounded) << c.value;
@@ -45,9 +40,7 @@ TEST(RoundToPlaces, RoundsTheShortestDigitsHalfUp) {
 class Amortization : public ::testing::Test {
 protected:
     Engine e = MakeEngine(InputMethod::Rpn);
-    struct Results {
-        double interest, principal, balance;
-    };
+    struct Results { double interest, principal, balance; };
     void SetUp() override {
         Press(e, {fid::FormatFixed, 2});
         for (const auto& [number, key] : {std::pair{"360", fid::N}, {"6", fid::IYr}, {"100000", fid::PV}, {"-599.55", fid::PMT}}) {
@@ -57,25 +50,20 @@ protected:
     Results Range(const char* start, const char* end) {
         Store(e, start, fid::Enter);
         Store(e, end, fid::Amortize);
-        return Shown();
+        return {e.state.stack[0], e.state.stack[1], e.state.stack[2]};
     }
-    Results Shown() const { return {e.state.stack[0], e.state.stack[1], e.state.stack[2]}; }
 };
 
 TEST_F(Amortization, FirstPaymentInBothTimings) {
-    Range("1", "1");
-    EXPECT_EQ(e.X(), -500.0);
-    EXPECT_EQ(e.Y(), -99.55);
-    EXPECT_EQ(e.state.stack[2], 99900.45);
+    const Results end = Range("1", "1");
+    EXPECT_EQ(std::tuple(end.interest, end.principal, end.balance), std::tuple(-500.0, -99.55, 99900.45));
     const ValueTag labels[] = {label::Interest, label::Principal, label::Balance, label::Start};
-    for (int k = 0; k < 4; ++k) EXPECT_EQ(e.state.tags[k], labels[k]);  // the typed End gave way to Bal
+    EXPECT_TRUE(std::equal(labels, labels + 4, e.state.tags));  // the typed End gave way to Bal
     e.Dispatch(fid::BeginEnd);
-    Range("1", "1");
-    EXPECT_EQ(e.X(), 0.0);  // the first payment falls before any interest
-    EXPECT_EQ(e.state.stack[2], 99400.45);
+    const Results begin = Range("1", "1");
+    EXPECT_EQ(std::tuple(begin.interest, begin.balance), std::tuple(0.0, 99400.45));  // paid before any interest
     e.Dispatch(fid::AmortizeNext);  // a continued block is never the loan's first payment
-    EXPECT_EQ(e.X(), -497.0);       // 99400.45 x 0.5% = 497.00225
-    EXPECT_EQ(e.state.stack[2], 99297.9);
+    EXPECT_EQ(std::tuple(e.X(), e.state.stack[2]), std::tuple(-497.0, 99297.9));  // 99400.45 x 0.5% = 497.00225
 }
 
 TEST_F(Amortization, BlocksAddUpAndContinue) {
@@ -85,17 +73,10 @@ TEST_F(Amortization, BlocksAddUpAndContinue) {
     EXPECT_EQ(cents(first.principal + second.principal), both.principal);
     EXPECT_EQ(cents(first.balance + second.principal), second.balance);
     EXPECT_EQ(cents(second.interest + second.principal), -7194.6);  // twelve payments
-    // "=" shows Prin, then Bal (replacing X), then amortizes the next block of the same length.
+    // "=" shows Prin, then Bal, then amortizes the next block of the same length.
     Range("1", "12");
-    Press(e, {fid::Equals});
-    EXPECT_EQ(e.X(), first.principal);
-    EXPECT_EQ(e.Y(), first.principal);
-    Press(e, {fid::Equals});
-    EXPECT_EQ(e.X(), first.balance);
-    EXPECT_EQ(e.XTag(), label::Balance);
-    Press(e, {fid::Equals});
-    EXPECT_EQ(e.X(), second.interest);
-    EXPECT_EQ(e.state.stack[2], second.balance);
+    Press(e, {fid::Equals, fid::Equals, fid::Equals});
+    EXPECT_EQ(std::tuple(e.X(), e.state.stack[2]), std::tuple(second.interest, second.balance));
     Press(e, {fid::ClearX, fid::Amortize2});  // nothing typed: the stored range, from payment 1
     EXPECT_EQ(e.X(), first.interest);
 }

@@ -14,8 +14,7 @@
 namespace brinto {
 namespace {
 
-using test::MakeEngine;
-using test::Type;
+using namespace test;
 
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 
@@ -33,18 +32,18 @@ std::set<FunctionId> Keys() {
     return keys;
 }
 
-bool IsScientific(FunctionId key) {  // keys of the scientific family on the Statistical keyboard
+// Keys of the scientific family on the Statistical keyboard, and the cash-flow keys, which are
+// refused on a full, empty or damaged list.
+bool MayRefuse(FunctionId key) {
     return key == fid::Random || key == fid::Factorial || key == fid::LogGamma || key == fid::Combinations ||
-           key == fid::Permutations;
+           key == fid::Permutations || key == fid::CashFlow || key == fid::GroupCount;
 }
 
 void FillAll(Engine& e, double value) { std::fill_n(e.registers.values, kRegisterCount, value); }
 
 const std::pair<const char*, std::function<void(Engine&)>> kContents[] = {
-    {"reset", [](Engine&) {}},
-    {"zeroPerYear", [](Engine& e) { e.registers.values[reg::PYr] = 0; }},
-    {"nan", [](Engine& e) { FillAll(e, kNan); }},
-    {"infinite", [](Engine& e) { FillAll(e, kErrorValue); }},
+    {"reset", [](Engine&) {}},                  {"zeroPerYear", [](Engine& e) { e.registers.values[reg::PYr] = 0; }},
+    {"nan", [](Engine& e) { FillAll(e, kNan); }}, {"infinite", [](Engine& e) { FillAll(e, kErrorValue); }},
     {"negativeHuge", [](Engine& e) { FillAll(e, -1e308); }},
     {"negativeN", [](Engine& e) { e.registers.values[reg::N] = -5.5, e.state.amortStart = 3; }},
     {"farNegativeN", [](Engine& e) { e.registers.values[reg::N] = -1e300, e.state.amortStart = 3; }},
@@ -63,13 +62,10 @@ TEST(FinanceRobustness, EveryKeyOnEveryRegisterContents) {
                 Engine e = MakeEngine(InputMethod::Rpn);
                 e.prefs.SetDigitField(3);
                 set(e);
-                e.SetLevel(0, {x, 0, kNoAux});
-                e.SetLevel(1, {x, 0, kNoAux});
+                for (const int level : {0, 1}) e.SetLevel(level, {x, 0, kNoAux});
                 for (const FunctionId key : Keys()) {
                     if (typed) Type(e, "12");
-                    // The cash-flow keys are refused on a full, empty or damaged list.
-                    const bool mayRefuse = IsScientific(key) || key == fid::CashFlow || key == fid::GroupCount;
-                    EXPECT_TRUE(e.Dispatch(key) != 0 || mayRefuse) << key;
+                    EXPECT_TRUE(e.Dispatch(key) != 0 || MayRefuse(key)) << key;
                     for (int level = 0; level < 4; ++level) DisplayLevel(e, level);
                 }
             }

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <string_view>
 
+#include "ops/integer_format.h"
 #include "ops_test_support.h"
 
 namespace brinto {
@@ -11,190 +11,154 @@ namespace {
 using namespace test;
 using namespace test::unit;
 
-// Default integer formats by their preference value.
+// Default integer formats by their preference value; 6 selects none.
 constexpr int kDefaultU8 = 0, kDefaultS8 = 1, kDefaultU16 = 2, kDefaultS16 = 3, kDefaultU32 = 4, kDefaultS32 = 5;
 constexpr int kDefaultNone = 6;
+constexpr FunctionId kU8Key = 167, kS8Key = 168, kU16Key = 169, kS16Key = 170, kU32Key = 171, kS32Key = 172;
 
-TEST(IntegerFormatKeys, NarrowFromSignedAndUnsignedSources) {
-    struct Case { std::string_view name; double x; ValueTag source; FunctionId key; double result; };
+TEST(IntegerConversion, TruncatesTowardZeroThenWrapsModulo2To32) {
+    struct Case { double x; u32 asUnsigned; i32 asSigned; };
     const Case cases[] = {
-        {"300 to u8",            300,          0,   167, 44},
-        {"-1 to u8",             -1,           0,   167, 255},
-        {"-1 to s8",             -1,           0,   168, -1},
-        {"u8 255 to s8",         255,          U8,  168, -1},
-        {"s8 -1 to u16",         -1,           S8,  169, 65535},
-        {"u16 40000 to s16",     40000,        U16, 170, -25536},
-        {"s32 -1 to u32",        -1,           S32, 171, 4294967295.0},
-        {"u32 max to s16",       4294967295.0, U32, 170, -1},
-        {"3e9 to s32",           3e9,          0,   172, -1294967296.0},
-        {"-2.9 truncates",       -2.9,         0,   172, -2},
-        {"meters 70000 to u16",  70000,        Meters, 169, 4464},
-        {"nan to u8",            NAN,          0,   167, 0},
-        {"huge to s32",          1e300,        0,   172, 0},
+        {2.9, 2, 2},                  {-2.9, 4294967294, -2},    {4294967295.0, 4294967295, -1},
+        {2147483648.0, 2147483648, -2147483647 - 1},            {4294967296.0, 0, 0},
+        {4294967297.9, 1, 1},         {-4294967297.0, 4294967295, -1},
+        {1e300, 0, 0},  // 2^300 times an odd number: the low bits are 0
+        {NAN, 0, 0},                  {INFINITY, 0, 0},
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        Engine e = Holding({{c.x, c.source}});
-        e.Dispatch(c.key);
-        EXPECT_EQ(e.X(), c.result);
-        EXPECT_EQ(e.XTag(), 1924 + (c.key - 167));
+        SCOPED_TRACE(c.x);
+        EXPECT_EQ(ToUnsigned32(c.x), c.asUnsigned);
+        EXPECT_EQ(ToSigned32(c.x), c.asSigned);
+    }
+    EXPECT_EQ(ValueOfBits(0x17F, FormatOfTag(S8)), 127);  // bits above the width are ignored
+    EXPECT_EQ(ValueOfBits(0x80000000u, FormatOfTag(S32)), -2147483648.0);
+    EXPECT_EQ(ValueOfBits(0x80000000u, FormatOfTag(U32)), 2147483648.0);
+    EXPECT_EQ(Narrow(-1, 0, Meters), -1);  // a target that is no format reads as s32
+}
+
+TEST(IntegerFormatOf, UsesTheValuesOwnFormatElseThePreference) {
+    Preferences prefs = DefaultPreferences();
+    struct Case { int preference; ValueTag tag; int defaultTag; ValueTag result; };
+    const Case cases[] = {
+        {0, 0, U8, U8},         {5, 0, S32, S32},   {2, Meters, U16, U16}, {2, S8, U16, S8},
+        {6, 0, 0, 0},           {7, Meters, 0, 0},  {7, U32, 0, U32},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::Message() << "preference " << c.preference << " tag " << c.tag);
+        prefs.SetIntegerFormat(c.preference);
+        EXPECT_EQ(DefaultIntegerFormatTag(prefs), c.defaultTag);
+        EXPECT_EQ(IntegerFormatOf(prefs, c.tag), c.result);
+    }
+}
+
+TEST(IntegerFormatKeys, NarrowFromSignedAndUnsignedSources) {
+    struct Case { TaggedValue x; FunctionId key; double result; };
+    const Case cases[] = {
+        {{-1, 0}, kU8Key, 255},          {{-1, 0}, kS8Key, -1},            {{255, U8}, kS8Key, -1},
+        {{128, 0}, kS8Key, -128},        {{-128, S8}, kU8Key, 128},        {{-1, S8}, kU16Key, 65535},
+        {{40000, U16}, kS16Key, -25536}, {{4294967295.0, U32}, kS16Key, -1},
+        {{-1, S32}, kU32Key, 4294967295.0},                                {{3e9, 0}, kS32Key, -1294967296.0},
+        {{-2.9, 0}, kS32Key, -2},        {{70000, Meters}, kU16Key, 4464}, {{NAN, 0}, kU8Key, 0},
+        {{1e300, 0}, kS32Key, 0},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.x.value << " tag " << c.x.tag << " key " << c.key);
+        EXPECT_EQ(XOf(After({c.x}, c.key)), Tagged(c.result, U8 + (c.key - kU8Key)));
     }
 }
 
 TEST(IntegerFormatKeys, LastXIsSavedUnlessANumberIsBeingTyped) {
-    Engine e = Holding({{5, 0}});
-    e.Dispatch(167);
+    Engine e = After({{5, 0}}, kU8Key);
+    Press(e, {9, kS8Key});
     EXPECT_EQ(e.state.lastX, 5.0);
-    Press(e, {9, 168});
-    EXPECT_EQ(e.state.lastX, 5.0);
-    EXPECT_EQ(e.X(), 9.0);
-    EXPECT_EQ(e.XTag(), S8);
+    EXPECT_EQ(XOf(e), Tagged(9, S8));
 }
 
 TEST(IntegerFormatKeys, ToDefaultFormat) {
     Engine e = Holding({{-1, 0}});
     e.prefs.SetIntegerFormat(kDefaultU16);
     e.Dispatch(fid::ToDefaultFormat);
-    EXPECT_EQ(e.X(), 65535.0);
-    EXPECT_EQ(e.XTag(), U16);
+    EXPECT_EQ(XOf(e), Tagged(65535, U16));
     EXPECT_EQ(e.state.lastX, -1.0);
-
     e = Holding({{4294967295.0, U32}});
     e.prefs.SetIntegerFormat(kDefaultNone);  // no default: a whole number of 32 bits, untagged
     e.Dispatch(fid::ToDefaultFormat);
-    EXPECT_EQ(e.X(), -1.0);
-    EXPECT_EQ(e.XTag(), 0);
+    EXPECT_EQ(XOf(e), Tagged(-1, 0));
 }
 
 TEST(BitwiseNot, ComplementsWithinTheFormat) {
-    struct Case { std::string_view name; double x; ValueTag tag; int defaultFormat; double result; ValueTag resultTag; };
+    struct Case { TaggedValue x; int defaultFormat; TaggedValue result; };
     const Case cases[] = {
-        {"0 u16",            0,   U16, kDefaultS32, 65535, U16},
-        {"5 s8",             5,   S8,  kDefaultS32, -6, S8},
-        {"0 u32",            0,   U32, kDefaultS32, 4294967295.0, U32},
-        {"-1 s32",           -1,  S32, kDefaultU8,  0, S32},
-        {"untagged default", 1,   0,   kDefaultU8,  254, U8},
-        {"300 u8 wraps",     300, U8,  kDefaultS32, 211, U8},
+        {{0, U16}, kDefaultS32, {65535, U16}}, {{5, S8}, kDefaultS32, {-6, S8}},
+        {{0, U32}, kDefaultS32, {4294967295.0, U32}}, {{-1, S32}, kDefaultU8, {0, S32}},
+        {{1, 0}, kDefaultU8, {254, U8}},       {{300, U8}, kDefaultS32, {211, U8}},
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        Engine e = Holding({{c.x, c.tag}});
+        SCOPED_TRACE(testing::Message() << c.x.value << " tag " << c.x.tag);
+        Engine e = Holding({c.x});
         e.prefs.SetIntegerFormat(c.defaultFormat);
         e.Dispatch(fid::Not);
-        EXPECT_EQ(e.X(), c.result);
-        EXPECT_EQ(e.XTag(), c.resultTag);
+        EXPECT_EQ(XOf(e), Of(c.result));
     }
 }
 
 TEST(IntegerArithmetic, WrapsToTheDefaultFormat) {
-    struct Case { std::string_view name; FunctionId op; double y; ValueTag yTag; double x; ValueTag xTag; int format; double result; };
+    struct Case { FunctionId op; TaggedValue y, x; int format; double result; };
+    const double err = kErrorValue;
     const Case cases[] = {
-        {"200+100 u8",           fid::IntegerAdd,      200, 0,   100, 0,   kDefaultU8,  44},
-        {"0-1 u16",              fid::IntegerSubtract, 0,   0,   1,   0,   kDefaultU16, 65535},
-        {"127+1 s8",             fid::IntegerAdd,      127, 0,   1,   0,   kDefaultS8,  -128},
-        {"300x300 s16",          fid::IntegerMultiply, 300, 0,   300, 0,   kDefaultS16, 24464},
-        {"operands narrow first", fid::IntegerAdd,     255, U8,  -1,  S8,  kDefaultS16, 254},
-        {"u32 max / 2",          fid::IntegerDivide,   4294967295.0, 0, 2, 0, kDefaultU32, 2147483647},
-        {"-7 / 2 truncates",     fid::IntegerDivide,   -7,  0,   2,   0,   kDefaultS8,  -3},
-        {"s8 -128 / -1",         fid::IntegerDivide,   -128, 0,  -1,  0,   kDefaultS8,  -128},
-        {"s16 -32768 / -1",      fid::IntegerDivide,   -32768, 0, -1, 0,   kDefaultS16, -32768},
-        {"s32 -2^31 / -1",       fid::IntegerDivide,   -2147483648.0, 0, -1, 0, kDefaultS32, -2147483648.0},
-        {"divide by 0",          fid::IntegerDivide,   5,   0,   0,   0,   kDefaultS32, kErrorValue},
-        {"divisor narrows to 0", fid::IntegerDivide,   5,   0,   256, 0,   kDefaultU8,  kErrorValue},
-        {"and",                  fid::And,             12,  0,   10,  0,   kDefaultU8,  8},
-        {"or",                   fid::Or,              12,  0,   10,  0,   kDefaultU8,  14},
-        {"xor",                  fid::Xor,             12,  0,   10,  0,   kDefaultU8,  6},
-        {"and of negatives s16", fid::And,             -1,  0,   -256, 0,  kDefaultS16, -256},
+        {fid::IntegerSubtract, {0, 0}, {1, 0}, kDefaultU16, 65535},
+        {fid::IntegerAdd, {127, 0}, {1, 0}, kDefaultS8, -128},
+        {fid::IntegerMultiply, {300, 0}, {300, 0}, kDefaultS16, 24464},
+        {fid::IntegerAdd, {255, U8}, {-1, S8}, kDefaultS16, 254},  // operands narrow first
+        {fid::IntegerAdd, {2147483647.0, 0}, {1, 0}, kDefaultNone, -2147483648.0},
+        {fid::IntegerDivide, {4294967295.0, 0}, {2, 0}, kDefaultU32, 2147483647},
+        {fid::IntegerDivide, {-7, 0}, {2, 0}, kDefaultS8, -3},
+        {fid::IntegerDivide, {-128, 0}, {-1, 0}, kDefaultS8, -128},
+        {fid::IntegerDivide, {-32768, 0}, {-1, 0}, kDefaultS16, -32768},
+        {fid::IntegerDivide, {-2147483648.0, 0}, {-1, 0}, kDefaultS32, -2147483648.0},
+        {fid::IntegerDivide, {5, 0}, {256, 0}, kDefaultU8, err},  // the divisor narrows to 0
+        {fid::And, {12, 0}, {10, 0}, kDefaultU8, 8},  {fid::Or, {12, 0}, {10, 0}, kDefaultU8, 14},
+        {fid::Xor, {12, 0}, {10, 0}, kDefaultU8, 6},  {fid::And, {-1, 0}, {-256, 0}, kDefaultS16, -256},
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        Engine e = Holding({{c.y, c.yTag}, {c.x, c.xTag}});
+        SCOPED_TRACE(testing::Message() << "op " << c.op << " " << c.y.value << " " << c.x.value);
+        Engine e = Holding({c.y, c.x});
         e.prefs.SetIntegerFormat(c.format);
         e.Dispatch(c.op);
-        EXPECT_EQ(e.X(), c.result);
-        if (!IsErrorValue(c.result)) {
-            EXPECT_EQ(e.XTag(), 1924 + c.format);
-        }
-        EXPECT_EQ(e.state.lastX, c.x);
+        EXPECT_EQ(XOf(e), Tagged(c.result, c.result == err || c.format == kDefaultNone ? 0 : U8 + c.format));
+        EXPECT_EQ(e.state.lastX, c.x.value);
     }
-}
-
-TEST(IntegerArithmetic, NoDefaultFormatComputesIn32BitsUntagged) {
-    Engine e = Holding({{2147483647.0, 0}, {1, 0}});
-    e.prefs.SetIntegerFormat(kDefaultNone);
-    e.Dispatch(fid::IntegerAdd);
-    EXPECT_EQ(e.X(), -2147483648.0);
-    EXPECT_EQ(e.XTag(), 0);
 }
 
 TEST(ShiftsAndRotate, CountsNegativeAndBeyondTheWidth) {
-    struct Case { std::string_view name; FunctionId op; double y; ValueTag yTag; double count; double result; };
+    struct Case { FunctionId op; TaggedValue y; double count, result; };
+    const FunctionId Sl = fid::ShiftLeft, Sr = fid::ShiftRight, Rr = fid::RotateRight;
+    const FunctionId Asr = fid::ArithmeticShiftRight;
     const Case cases[] = {
-        {"1 u8 << 8",              fid::ShiftLeft,            1,    U8,  8,    0},
-        {"1 u8 << 7",              fid::ShiftLeft,            1,    U8,  7,    128},
-        {"1 u8 << 100",            fid::ShiftLeft,            1,    U8,  100,  0},
-        {"1 u8 << -1 is >> 1",     fid::ShiftLeft,            1,    U8,  -1,   0},
-        {"4 u8 << -1",             fid::ShiftLeft,            4,    U8,  -1,   2},
-        {"<< -2^31 is >> capped",  fid::ShiftLeft,            255,  U8,  -2147483648.0, 0},
-        {"1 s32 << 31",            fid::ShiftLeft,            1,    S32, 31,   -2147483648.0},
-        {"1 u32 << 31",            fid::ShiftLeft,            1,    U32, 31,   2147483648.0},
-        {"128 u8 >> 3",            fid::ShiftRight,           128,  U8,  3,    16},
-        {"128 u8 >> 200",          fid::ShiftRight,           128,  U8,  200,  0},
-        {"3 u8 >> -2 is << 2",     fid::ShiftRight,           3,    U8,  -2,   12},
-        {"-128 s8 >> 1",           fid::ShiftRight,           -128, S8,  1,    64},
-        {"-128 s8 asr 3",          fid::ArithmeticShiftRight, -128, S8,  3,    -16},
-        {"-128 s8 asr 100",        fid::ArithmeticShiftRight, -128, S8,  100,  -1},
-        {"64 s8 asr 1",            fid::ArithmeticShiftRight, 64,   S8,  1,    32},
-        {"u16 0x8000 asr 15",      fid::ArithmeticShiftRight, 32768, U16, 15,  65535},
-        {"1 u8 rr 1",              fid::RotateRight,          1,    U8,  1,    128},
-        {"3 u8 rr -1 is rl 1",     fid::RotateRight,          3,    U8,  -1,   6},
-        {"3 u8 rr 9 is rr 1",      fid::RotateRight,          3,    U8,  9,    129},
-        {"1 u16 rr 1",             fid::RotateRight,          1,    U16, 1,    32768},
-        {"1 s32 rr 1",             fid::RotateRight,          1,    S32, 1,    -2147483648.0},
-        {"count of 2^32 is 0",     fid::ShiftLeft,            5,    U8,  4294967296.0, 5},
+        {Sl, {1, U8}, 7, 128},         {Sl, {1, U8}, 100, 0},         {Sl, {4, U8}, -1, 2},
+        {Sl, {255, U8}, -2147483648.0, 0},                            {Sl, {5, U8}, 4294967296.0, 5},
+        {Sl, {1, S32}, 31, -2147483648.0},                            {Sl, {1, U32}, 31, 2147483648.0},
+        {Sr, {128, U8}, 3, 16},        {Sr, {128, U8}, 200, 0},       {Sr, {3, U8}, -2, 12},
+        {Sr, {-128, S8}, 1, 64},       {Asr, {-128, S8}, 3, -16},     {Asr, {-128, S8}, 100, -1},
+        {Asr, {64, S8}, 1, 32},        {Asr, {32768, U16}, 15, 65535}, {Rr, {3, U8}, 9, 129},
+        {Rr, {1, U16}, 1, 32768},      {Rr, {1, S32}, 1, -2147483648.0},
     };
     for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        Engine e = Holding({{c.y, c.yTag}, {c.count, 0}});
-        e.Dispatch(c.op);
-        EXPECT_EQ(e.X(), c.result);
-        EXPECT_EQ(e.XTag(), c.yTag);
+        SCOPED_TRACE(testing::Message() << "op " << c.op << " " << c.y.value << " by " << c.count);
+        EXPECT_EQ(XOf(After({c.y, {c.count, 0}}, c.op)), Tagged(c.result, c.y.tag));
     }
-}
-
-TEST(ShiftsAndRotate, UntaggedYUsesTheDefaultFormat) {
-    Engine e = Holding({{300, 0}, {1, 0}});
+    Engine e = Holding({{300, 0}, {1, 0}});  // untagged: the default format, where 300 is 44
     e.prefs.SetIntegerFormat(kDefaultU8);
-    e.Dispatch(fid::ShiftLeft);  // 300 is 44 in u8
-    EXPECT_EQ(e.X(), 88.0);
-    EXPECT_EQ(e.XTag(), U8);
+    e.Dispatch(fid::ShiftLeft);
+    EXPECT_EQ(XOf(e), Tagged(88, U8));
 }
 
-TEST(IntegerTags, FloatArithmeticRemovesThem) {
-    struct Case { std::string_view name; FunctionId op; ValueTag yTag; ValueTag xTag; double result; };
-    const Case cases[] = {
-        {"u8 + plain",  fid::Add,      U8,  0,   8},
-        {"u8 - u8",     fid::Subtract, U8,  U8,  2},
-        {"s16 x u8",    fid::Multiply, S16, U8,  15},
-        {"plain / s32", fid::Divide,   0,   S32, 5.0 / 3.0},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        Engine e = Holding({{5, c.yTag}, {3, c.xTag}});
-        e.Dispatch(c.op);
-        EXPECT_EQ(e.X(), c.result);
-        EXPECT_EQ(e.XTag(), 0);
-    }
-}
-
-TEST(IntegerTags, IntegerNegationKeepsTheFormat) {
-    Engine e = Holding({{5, U8}});
-    e.Dispatch(fid::IntegerNegate);
-    EXPECT_EQ(e.X(), 251.0);
-    EXPECT_EQ(e.XTag(), U8);
-    e = Holding({{-128, S8}});
-    e.Dispatch(fid::IntegerNegate);
-    EXPECT_EQ(e.X(), -128.0);
+TEST(IntegerTags, FloatArithmeticRemovesThemIntegerNegationKeepsThem) {
+    EXPECT_EQ(XOf(After({{5, U8}, {3, U8}}, fid::Subtract)), Tagged(2, 0));
+    EXPECT_EQ(XOf(After({{5, S16}, {3, U8}}, fid::Multiply)), Tagged(15, 0));
+    EXPECT_EQ(XOf(After({{5, 0}, {3, S32}}, fid::Divide)), Tagged(5.0 / 3.0, 0));
+    EXPECT_EQ(XOf(After({{5, U8}}, fid::IntegerNegate)), Tagged(251, U8));
+    EXPECT_EQ(XOf(After({{-128, S8}}, fid::IntegerNegate)), Tagged(-128, S8));
 }
 
 TEST(IntegerTags, BaseKeysMakeAPlainNumberTheWholeNumberShown) {
@@ -202,24 +166,18 @@ TEST(IntegerTags, BaseKeysMakeAPlainNumberTheWholeNumberShown) {
     e.state.status |= 4;  // the programmer keyboard
     e.prefs.SetIntegerFormat(kDefaultU8);
     e.Dispatch(fid::BaseHex);
-    EXPECT_EQ(e.X(), 44.0);
-    EXPECT_EQ(e.XTag(), U8);
+    EXPECT_EQ(XOf(e), Tagged(44, U8));
     EXPECT_EQ(XText(e), "2C.");
-
-    e = Holding({{12.5, Meters}});  // a unit is not a plain number
-    e.state.status |= 4;
-    e.Dispatch(fid::BaseBinary);
-    EXPECT_EQ(e.X(), 12.5);
-    EXPECT_EQ(e.XTag(), Meters);
-
-    e = Holding({{12.5, 0}});  // decimal changes nothing
-    e.state.status |= 4;
-    e.Dispatch(fid::BaseDecimal);
-    EXPECT_EQ(e.X(), 12.5);
-
-    e = Holding({{12.5, 0}});  // nor does a base on a keyboard without integer entry
-    e.Dispatch(fid::BaseHex);
-    EXPECT_EQ(e.X(), 12.5);
+    // A unit is not a plain number, decimal changes nothing, and no base applies on a keyboard
+    // without integer entry.
+    struct Case { TaggedValue x; FunctionId base; u16 keyboard; };
+    for (const Case& c : {Case{{12.5, Meters}, fid::BaseBinary, 4}, Case{{12.5, 0}, fid::BaseDecimal, 4},
+                          Case{{12.5, 0}, fid::BaseHex, 0}}) {
+        e = Holding({c.x});
+        e.state.status |= c.keyboard;
+        e.Dispatch(c.base);
+        EXPECT_EQ(XOf(e), Of(c.x)) << c.base;
+    }
 }
 
 TEST(IntegerTags, HexadecimalEntryAndDisplay) {

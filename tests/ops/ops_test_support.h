@@ -2,6 +2,7 @@
 // Helpers for the calculator families: an engine holding tagged operands, and named tags.
 #include <initializer_list>
 #include <string>
+#include <utility>
 
 #include "display/display_text.h"
 #include "engine/engine_test_support.h"
@@ -33,7 +34,17 @@ inline Engine Holding(std::initializer_list<TaggedValue> levels, InputMethod met
     return e;
 }
 
-inline TaggedValue XOf(const Engine& e) { return {e.X(), e.XTag()}; }
+// The engine after `key` on the given levels.
+inline Engine After(std::initializer_list<TaggedValue> levels, FunctionId key) {
+    Engine e = Holding(levels);
+    e.Dispatch(key);
+    return e;
+}
+
+// X with its tag, compared as one.
+using Tagged = std::pair<double, ValueTag>;
+inline Tagged XOf(const Engine& e) { return {e.X(), e.XTag()}; }
+inline Tagged Of(TaggedValue v) { return {v.value, v.tag}; }
 
 // What the display shows for X, and its label.
 inline std::string XText(const Engine& e) { return DisplayLevel(e, 0).text; }
