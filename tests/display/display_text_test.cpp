@@ -22,18 +22,13 @@ constexpr ValueTag kU8 = 1924, kS8 = 1925, kS16 = 1927, kU32 = 1928, kS32 = 1929
 constexpr ValueTag kDate = 1801, kTime = 1802, kDateTime = 1803, kCashFlow = 1419, kGroupCount = 1420;
 const double kMarch15 = ComposeDate(DateFields{2005, 3, 15, 14, 5, 30, 0});
 
-class DisplayTextTest : public testing::Test {
-protected:
-    DisplayTextTest() : engine(std::make_unique<Engine>(&platform)), e(*engine) {
+struct DisplayTextTest : testing::Test {
+    DisplayTextTest() {
         e.prefs = DefaultPreferences();
         e.state.status = 0;
         e.registers.cashFlowCount = -1;
     }
-    void Put(int level, double value, ValueTag tag = 0, u16 aux = kNoAux) {
-        e.state.stack[level] = value;
-        e.state.tags[level] = tag;
-        e.state.aux[level] = aux;
-    }
+    void Put(int level, double value, ValueTag tag = 0, u16 aux = kNoAux) { e.SetLevel(level, {value, tag, aux}); }
     std::string Shown(double value, ValueTag tag = 0) {
         Put(0, value, tag);
         return DisplayLevel(e, 0).text;
@@ -49,8 +44,8 @@ protected:
     }
 
     FixedPlatform platform;
-    std::unique_ptr<Engine> engine;
-    Engine& e;
+    std::unique_ptr<Engine> engine = std::make_unique<Engine>(&platform);
+    Engine& e = *engine;
 };
 
 TEST_F(DisplayTextTest, GroupsDigitsBeforeTheRadix) {
@@ -91,11 +86,11 @@ TEST_F(DisplayTextTest, IntegerBasesShowTheBitsOfTheValuesFormatUngrouped) {
     struct Case { u16 base; int preference; double value; ValueTag tag; std::string_view text; };
     const u16 hex = status::BaseHex, binary = status::BaseBinary, octal = status::BaseOctal;
     const Case cases[] = {
-        {hex, 5, 300, kU8, "2C."},           {hex, 5, -1, kS8, "FF."},            {hex, 5, -2, kS16, "FFFE."},
-        {hex, 5, 3735928559, kU32, "DEADBEEF."}, {hex, 0, 256, 0, "0."},           {hex, 2, -1, kMeters, "FFFF."},
-        {hex, 6, -1, 0, "FFFFFFFF."},        {hex, 5, 255.9, 0, "FF."},           {hex, 5, 0x12345678, kU32, "12345678."},
-        {binary, 5, -128, kS8, "10000000."}, {binary, 5, 16, kU8, "10000."},      {octal, 5, -1, kS32, "37777777777."},
-        {octal, 5, 8, 0, "10."},             {octal, 5, 0, 0, "0."},
+        {hex, 5, 300, kU8, "2C."},        {hex, 5, -1, kS8, "FF."},     {hex, 5, -2, kS16, "FFFE."},
+        {hex, 0, 256, 0, "0."},           {hex, 2, -1, kMeters, "FFFF."}, {hex, 6, -1, 0, "FFFFFFFF."},
+        {hex, 5, 255.9, 0, "FF."},        {hex, 5, 3735928559, kU32, "DEADBEEF."}, {hex, 5, 0x12345678, kU32, "12345678."},
+        {binary, 5, -128, kS8, "10000000."}, {binary, 5, 16, kU8, "10000."}, {octal, 5, -1, kS32, "37777777777."},
+        {octal, 5, 8, 0, "10."},          {octal, 5, 0, 0, "0."},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(testing::Message() << c.value << " tag " << c.tag << " preference " << c.preference);

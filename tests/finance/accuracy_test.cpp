@@ -25,12 +25,9 @@ struct Tally {
         FormattedText a, b;
         FormatDecimal(engine, NumberFormat::Standard, 0, a);
         FormatDecimal(static_cast<double>(reference), NumberFormat::Standard, 0, b);
-        ++total;
-        if (a.View() == b.View()) {
-            ++agree;
-        } else {
-            std::printf("  differs: %s engine %.17g reference %.17Lg\n", what, engine, reference);
-        }
+        const bool same = a.View() == b.View();
+        agree += same, ++total;
+        if (!same) std::printf("  differs: %s engine %.17g reference %.17Lg\n", what, engine, reference);
     }
     bool Report(const char* what) const {
         std::printf("%s: %d of %d show the reference's 12 digits (%.1f%%)\n", what, agree, total, 100.0 * agree / total);

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cmath>
+#include <limits>
+#include <tuple>
 
 #include "ops/date_fields.h"
 #include "ops_test_support.h"
@@ -20,26 +23,19 @@ double DateOf(int year, int month, int day, int hour = 0, int minute = 0, int se
 constexpr FunctionId kDpy = 198, kHpd = 201;
 constexpr double kDay = 86400, kErr = kErrorValue;
 
-TEST(DateEntry, ReadsYearMonthDayWithItsYearRules) {
-    const std::pair<double, double> cases[] = {
-        {5.0315, DateOf(2005, 3, 15)},    {99.1231, DateOf(1999, 12, 31)},  {31.0101, DateOf(2031, 1, 1)},
-        {32.0101, DateOf(1932, 1, 1)},    {0.0101, DateOf(2000, 1, 1)},     {1800.0101, DateOf(1904, 1, 1)},
-        {1904.0101, 0},                   {2000.0229, DateOf(2000, 2, 29)}, {2001.0229, DateOf(2001, 3, 1)},
-        {2005.0000, DateOf(2005, 1, 1)},  {2004.1301, DateOf(2005, 1, 1)},  {2031.1231, DateOf(2031, 12, 31)},
-        {2031.1232, kErr},                {2032.0101, kErr},                {kErr, kErr},
-    };
-    for (const auto& [typed, date] : cases) {
-        SCOPED_TRACE(typed);
-        EXPECT_EQ(XOf(After({{typed, 0}}, fid::Date)), Tagged(date, date == kErr ? 0 : Date));
-    }
-}
-
-TEST(TimeEntry, ReadsHoursMinutesSeconds) {
-    const std::pair<double, double> cases[] = {{13.3015, 48615}, {0.0001, 1}, {25, 90000}, {23.5959, 86399}};
-    for (const auto& [typed, seconds] : cases) {
-        SCOPED_TRACE(typed);
-        EXPECT_EQ(XOf(After({{typed, 0}}, fid::Time)), Tagged(seconds, Time));
-    }
+TEST(DateEntry, ReadsYearMonthDayWithItsYearRulesAndTimesAsHoursMinutesSeconds) {
+    const FunctionId D = fid::Date, T = fid::Time;
+    CheckKeys({
+        {D, {5.0315, 0}, {DateOf(2005, 3, 15), Date}},    {D, {99.1231, 0}, {DateOf(1999, 12, 31), Date}},
+        {D, {31.0101, 0}, {DateOf(2031, 1, 1), Date}},    {D, {32.0101, 0}, {DateOf(1932, 1, 1), Date}},
+        {D, {0.0101, 0}, {DateOf(2000, 1, 1), Date}},     {D, {1800.0101, 0}, {DateOf(1904, 1, 1), Date}},
+        {D, {1904.0101, 0}, {0, Date}},                   {D, {2000.0229, 0}, {DateOf(2000, 2, 29), Date}},
+        {D, {2001.0229, 0}, {DateOf(2001, 3, 1), Date}},  {D, {2005.0000, 0}, {DateOf(2005, 1, 1), Date}},
+        {D, {2004.1301, 0}, {DateOf(2005, 1, 1), Date}},  {D, {2031.1231, 0}, {DateOf(2031, 12, 31), Date}},
+        {D, {2031.1232, 0}, {kErr, 0}},  {D, {2032.0101, 0}, {kErr, 0}},  {D, {kErr, 0}, {kErr, 0}},
+        {T, {13.3015, 0}, {48615, Time}}, {T, {0.0001, 0}, {1, Time}}, {T, {25, 0}, {90000, Time}},
+        {T, {23.5959, 0}, {86399, Time}},
+    });
     EXPECT_EQ(XText(After({{13.3015, 0}}, fid::Time)), "13:30");
 }
 
@@ -74,12 +70,11 @@ TEST(Now, ReadsTheInjectedClockAndLiftsOnlyWhenLiftIsEnabled) {
     EXPECT_EQ(e.Y(), 7.0);
     e.Dispatch(fid::Now);
     EXPECT_EQ(e.Y(), e.X());
-    platform.now = {2032, 1, 1, 0, 0, 0, 4};  // a clock beyond the date range
-    e.Dispatch(fid::Now);
-    EXPECT_EQ(e.X(), kErr);
-    platform.now = {2024, 99, -5, 77, 0, 0, 4};  // a broken clock
-    e.Dispatch(fid::Now);
-    EXPECT_EQ(e.X(), kErr);
+    // A clock beyond the date range, and a broken one.
+    for (const DateFields now : {DateFields{2032, 1, 1, 0, 0, 0, 4}, DateFields{2024, 99, -5, 77, 0, 0, 4}}) {
+        platform.now = now;
+        EXPECT_EQ((e.Dispatch(fid::Now), e.X()), kErr);
+    }
 }
 
 struct ArithmeticCase { TaggedValue y, x, result; };
@@ -132,36 +127,24 @@ TEST(DateArithmetic, SubtractForEveryPairOfKinds) {
 }
 
 TEST(Hms, ConversionsBothWays) {
-    struct Case { FunctionId key; TaggedValue x; const char* text; ValueTag tag; };
-    const Case cases[] = {
-        {fid::ToHms, {90, Minutes}, "1.3", Hms},        {fid::ToHms, {1, Days}, "24.", Hms},
-        {fid::ToHms, {2.75, 0}, "2.45", Hms},           {fid::ToHours, {1.3, Hms}, "1.5", Hours},
-        {fid::ToHours, {-1.3, 0}, "-1.5", Hours},       {fid::HmsToFrames, {0.0001, 0}, "30.", Frames},
-        {fid::HmsToFrames, {1.3, Hms}, "162,000.", Frames},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(testing::Message() << "key " << c.key << " " << c.x.value << " tag " << c.x.tag);
-        const Engine e = After({c.x}, c.key);
-        EXPECT_EQ(XText(e), c.text);
-        EXPECT_EQ(e.XTag(), c.tag);
-        EXPECT_EQ(e.state.lastX, c.x.value);
-    }
+    const FunctionId ToHms = fid::ToHms, ToHours = fid::ToHours, ToFrames = fid::HmsToFrames;
+    CheckKeys({
+        {ToHms, {90, Minutes}, {1.3, Hms}},   {ToHms, {1, Days}, {24, Hms}},        {ToHms, {2.75, 0}, {2.45, Hms}},
+        {ToHours, {1.3, Hms}, {1.5, Hours}},  {ToHours, {-1.3, 0}, {-1.5, Hours}},  {ToFrames, {0.0001, 0}, {30, Frames}},
+        {ToFrames, {1.3, Hms}, {162000, Frames}},
+    });
+    EXPECT_EQ(After({{1.3, Hms}}, ToHours).state.lastX, 1.3);
 }
 
 TEST(FractionToNextUnit, StepsDownOneUnit) {
-    const std::pair<TaggedValue, TaggedValue> cases[] = {
-        {{1.5, Months}, {15.21875, Days}}, {{1.5, Weeks}, {3.5, Days}},      {{1.25, Days}, {6, Hours}},
-        {{2.5, Hours}, {30, Minutes}},     {{3.25, Minutes}, {15, Seconds}}, {{0.5, Seconds}, {15, Frames}},
-        {{2.5, Frames}, {0.5, Frames}},    {{1.3, Hms}, {0.3, Hms}},         {{-2.5, Hours}, {-30, Minutes}},
-        {{2.5, 0}, {kErr, 0}},             {{2.5, Date}, {kErr, 0}},
-    };
-    for (const auto& [x, result] : cases) {
-        SCOPED_TRACE(testing::Message() << x.value << " tag " << x.tag);
-        const Engine e = After({x}, fid::FractionToNextUnit);
-        EXPECT_DOUBLE_EQ(e.X(), result.value);
-        EXPECT_EQ(e.XTag(), result.tag);
-        EXPECT_EQ(e.state.lastX, x.value);
-    }
+    const FunctionId F = fid::FractionToNextUnit;
+    CheckKeys({
+        {F, {1.5, Months}, {15.21875, Days}}, {F, {1.5, Weeks}, {3.5, Days}},     {F, {1.25, Days}, {6, Hours}},
+        {F, {2.5, Hours}, {30, Minutes}},     {F, {3.25, Minutes}, {15, Seconds}}, {F, {0.5, Seconds}, {15, Frames}},
+        {F, {2.5, Frames}, {0.5, Frames}},    {F, {1.3, Hms}, {0.3, Hms}},         {F, {-2.5, Hours}, {-30, Minutes}},
+        {F, {2.5, 0}, {kErr, 0}},             {F, {2.5, Date}, {kErr, 0}},
+    });
+    EXPECT_EQ(After({{2.5, Hours}}, F).state.lastX, 2.5);
 }
 
 TEST(DurationSettings, StoreWhileTypingRecallOtherwise) {
@@ -188,6 +171,51 @@ TEST(DateFunctions, PureFunctionsHoldForEveryDouble) {
         EXPECT_TRUE(inRange(DateSum({v, Date}, {v, 0}).value));
         EXPECT_TRUE(inRange(DateDifference({v, DateTime}, {v, Years}).value));
     }
+}
+
+namespace chr = std::chrono;
+
+TEST(SplitDate, AgreesWithTheCivilCalendarOnEveryDayOfTheRange) {
+    // Within 1904..2031 the four-year rule and the civil calendar agree (2000 is a leap year in
+    // both), so any slip in the table shows up as a disagreement here.
+    const chr::sys_days epoch = chr::year{1904} / chr::January / 1;
+    const auto number = [](auto field) { return static_cast<int>(static_cast<unsigned>(field)); };
+    for (u32 day = 0; day <= kMaxDateValue / kSecondsPerDay; ++day) {
+        const chr::sys_days date = epoch + chr::days{day};
+        const chr::year_month_day civil{date};
+        const double value = static_cast<double>(day) * kSecondsPerDay + 3725;
+        const DateFields f = SplitDate(value);
+        ASSERT_EQ(std::tuple(f.year, f.month, f.day, f.dayOfWeek, f.hour * 3600 + f.minute * 60 + f.second),
+                  std::tuple(static_cast<int>(civil.year()), number(civil.month()), number(civil.day()),
+                             number(chr::weekday{date}.c_encoding()), 3725))
+            << "day " << day;
+        ASSERT_EQ(ComposeDate(f), value) << "day " << day;
+    }
+    const DateFields last = SplitDate(kMaxDateValue);
+    EXPECT_EQ(std::tuple(last.hour, last.minute, last.second), std::tuple(23, 59, 59));
+}
+
+TEST(DateSeconds, HoldsAnyDoubleWithinTheRange) {
+    const double inf = std::numeric_limits<double>::infinity();
+    const std::pair<double, u32> cases[] = {
+        {12.7, 12}, {-5, 0}, {NAN, 0}, {1e10, kMaxDateValue}, {4294967296.0 + 7, kMaxDateValue},
+        {inf, kMaxDateValue}, {kMaxDateValue + 0.5, kMaxDateValue},
+    };
+    for (const auto& [value, seconds] : cases) EXPECT_EQ(DateSeconds(value), seconds) << value;
+}
+
+TEST(ComposeDate, RollsOverflowingFieldsForwardAndLeavesTheRangeHonestly) {
+    auto date = [](int y, int m, int d) { return ComposeDate(DateFields{y, m, d, 0, 0, 0, 0}); };
+    const std::pair<double, double> cases[] = {
+        {date(2005, 13, 1), date(2006, 1, 1)}, {date(2007, 13, 1), date(2008, 1, 1)},
+        {date(2005, 25, 1), date(2007, 1, 1)}, {date(2005, 1, 32), date(2005, 2, 1)},
+        {date(2004, 2, 30), date(2004, 3, 1)}, {date(2005, 0, 1), date(2004, 12, 1)},
+    };
+    for (const auto& [composed, expected] : cases) EXPECT_EQ(composed, expected);
+    EXPECT_EQ(date(1904, 1, 1), 0);
+    EXPECT_LT(date(1903, 12, 31), 0);
+    EXPECT_GT(date(2032, 1, 1), kMaxDateValue);
+    EXPECT_EQ(ComposeDate(DateFields{2031, 12, 31, 23, 59, 59, 0}), kMaxDateValue);
 }
 
 }  // namespace

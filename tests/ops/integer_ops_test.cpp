@@ -51,114 +51,80 @@ TEST(IntegerFormatOf, UsesTheValuesOwnFormatElseThePreference) {
     }
 }
 
-TEST(IntegerFormatKeys, NarrowFromSignedAndUnsignedSources) {
-    struct Case { TaggedValue x; FunctionId key; double result; };
-    const Case cases[] = {
-        {{-1, 0}, kU8Key, 255},          {{-1, 0}, kS8Key, -1},            {{255, U8}, kS8Key, -1},
-        {{128, 0}, kS8Key, -128},        {{-128, S8}, kU8Key, 128},        {{-1, S8}, kU16Key, 65535},
-        {{40000, U16}, kS16Key, -25536}, {{4294967295.0, U32}, kS16Key, -1},
-        {{-1, S32}, kU32Key, 4294967295.0},                                {{3e9, 0}, kS32Key, -1294967296.0},
-        {{-2.9, 0}, kS32Key, -2},        {{70000, Meters}, kU16Key, 4464}, {{NAN, 0}, kU8Key, 0},
-        {{1e300, 0}, kS32Key, 0},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(testing::Message() << c.x.value << " tag " << c.x.tag << " key " << c.key);
-        EXPECT_EQ(XOf(After({c.x}, c.key)), Tagged(c.result, U8 + (c.key - kU8Key)));
-    }
+// The engine after `key` on `levels`, with `format` the default integer format.
+Engine InFormat(int format, std::initializer_list<TaggedValue> levels, FunctionId key) {
+    Engine e = Holding(levels);
+    e.prefs.SetIntegerFormat(format);
+    e.Dispatch(key);
+    return e;
 }
 
-TEST(IntegerFormatKeys, LastXIsSavedUnlessANumberIsBeingTyped) {
-    Engine e = After({{5, 0}}, kU8Key);
+TEST(IntegerKeys, NarrowFromSignedAndUnsignedSourcesAndComplementWithinTheFormat) {
+    const FunctionId Not = fid::Not, Neg = fid::IntegerNegate;
+    CheckKeys({
+        {kU8Key, {-1, 0}, {255, U8}},          {kS8Key, {-1, 0}, {-1, S8}},          {kS8Key, {255, U8}, {-1, S8}},
+        {kS8Key, {128, 0}, {-128, S8}},        {kU8Key, {-128, S8}, {128, U8}},      {kU16Key, {-1, S8}, {65535, U16}},
+        {kS16Key, {40000, U16}, {-25536, S16}}, {kS16Key, {4294967295.0, U32}, {-1, S16}},
+        {kU32Key, {-1, S32}, {4294967295.0, U32}}, {kS32Key, {3e9, 0}, {-1294967296.0, S32}},
+        {kS32Key, {-2.9, 0}, {-2, S32}},       {kU16Key, {70000, Meters}, {4464, U16}}, {kU8Key, {NAN, 0}, {0, U8}},
+        {kS32Key, {1e300, 0}, {0, S32}},       {Not, {0, U16}, {65535, U16}},         {Not, {5, S8}, {-6, S8}},
+        {Not, {0, U32}, {4294967295.0, U32}},  {Not, {-1, S32}, {0, S32}},            {Not, {300, U8}, {211, U8}},
+        {Neg, {5, U8}, {251, U8}},             {Neg, {-128, S8}, {-128, S8}},
+    });
+    // Untagged values take the default format; with none, a whole number of 32 bits, untagged.
+    EXPECT_EQ(XOf(InFormat(kDefaultU8, {{1, 0}}, Not)), Tagged(254, U8));
+    EXPECT_EQ(XOf(InFormat(kDefaultU8, {{300, 0}, {1, 0}}, fid::ShiftLeft)), Tagged(88, U8));  // 300 is 44
+    Engine e = InFormat(kDefaultU16, {{-1, 0}}, fid::ToDefaultFormat);
+    EXPECT_EQ(XOf(e), Tagged(65535, U16));
+    EXPECT_EQ(e.state.lastX, -1.0);
+    EXPECT_EQ(XOf(InFormat(kDefaultNone, {{4294967295.0, U32}}, fid::ToDefaultFormat)), Tagged(-1, 0));
+    e = After({{5, 0}}, kU8Key);  // Last X is saved unless a number is being typed
     Press(e, {9, kS8Key});
     EXPECT_EQ(e.state.lastX, 5.0);
     EXPECT_EQ(XOf(e), Tagged(9, S8));
 }
 
-TEST(IntegerFormatKeys, ToDefaultFormat) {
-    Engine e = Holding({{-1, 0}});
-    e.prefs.SetIntegerFormat(kDefaultU16);
-    e.Dispatch(fid::ToDefaultFormat);
-    EXPECT_EQ(XOf(e), Tagged(65535, U16));
-    EXPECT_EQ(e.state.lastX, -1.0);
-    e = Holding({{4294967295.0, U32}});
-    e.prefs.SetIntegerFormat(kDefaultNone);  // no default: a whole number of 32 bits, untagged
-    e.Dispatch(fid::ToDefaultFormat);
-    EXPECT_EQ(XOf(e), Tagged(-1, 0));
-}
-
-TEST(BitwiseNot, ComplementsWithinTheFormat) {
-    struct Case { TaggedValue x; int defaultFormat; TaggedValue result; };
-    const Case cases[] = {
-        {{0, U16}, kDefaultS32, {65535, U16}}, {{5, S8}, kDefaultS32, {-6, S8}},
-        {{0, U32}, kDefaultS32, {4294967295.0, U32}}, {{-1, S32}, kDefaultU8, {0, S32}},
-        {{1, 0}, kDefaultU8, {254, U8}},       {{300, U8}, kDefaultS32, {211, U8}},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(testing::Message() << c.x.value << " tag " << c.x.tag);
-        Engine e = Holding({c.x});
-        e.prefs.SetIntegerFormat(c.defaultFormat);
-        e.Dispatch(fid::Not);
-        EXPECT_EQ(XOf(e), Of(c.result));
-    }
-}
-
 TEST(IntegerArithmetic, WrapsToTheDefaultFormat) {
     struct Case { FunctionId op; TaggedValue y, x; int format; double result; };
     const double err = kErrorValue;
+    const FunctionId Add = fid::IntegerAdd, Div = fid::IntegerDivide;
     const Case cases[] = {
-        {fid::IntegerSubtract, {0, 0}, {1, 0}, kDefaultU16, 65535},
-        {fid::IntegerAdd, {127, 0}, {1, 0}, kDefaultS8, -128},
+        {fid::IntegerSubtract, {0, 0}, {1, 0}, kDefaultU16, 65535},      {Add, {127, 0}, {1, 0}, kDefaultS8, -128},
         {fid::IntegerMultiply, {300, 0}, {300, 0}, kDefaultS16, 24464},
-        {fid::IntegerAdd, {255, U8}, {-1, S8}, kDefaultS16, 254},  // operands narrow first
-        {fid::IntegerAdd, {2147483647.0, 0}, {1, 0}, kDefaultNone, -2147483648.0},
-        {fid::IntegerDivide, {4294967295.0, 0}, {2, 0}, kDefaultU32, 2147483647},
-        {fid::IntegerDivide, {-7, 0}, {2, 0}, kDefaultS8, -3},
-        {fid::IntegerDivide, {-128, 0}, {-1, 0}, kDefaultS8, -128},
-        {fid::IntegerDivide, {-32768, 0}, {-1, 0}, kDefaultS16, -32768},
-        {fid::IntegerDivide, {-2147483648.0, 0}, {-1, 0}, kDefaultS32, -2147483648.0},
-        {fid::IntegerDivide, {5, 0}, {256, 0}, kDefaultU8, err},  // the divisor narrows to 0
+        {Add, {255, U8}, {-1, S8}, kDefaultS16, 254},  // operands narrow first
+        {Add, {2147483647.0, 0}, {1, 0}, kDefaultNone, -2147483648.0},
+        {Div, {4294967295.0, 0}, {2, 0}, kDefaultU32, 2147483647},       {Div, {-7, 0}, {2, 0}, kDefaultS8, -3},
+        {Div, {-128, 0}, {-1, 0}, kDefaultS8, -128},                     {Div, {-32768, 0}, {-1, 0}, kDefaultS16, -32768},
+        {Div, {-2147483648.0, 0}, {-1, 0}, kDefaultS32, -2147483648.0},
+        {Div, {5, 0}, {256, 0}, kDefaultU8, err},  // the divisor narrows to 0
         {fid::And, {12, 0}, {10, 0}, kDefaultU8, 8},  {fid::Or, {12, 0}, {10, 0}, kDefaultU8, 14},
         {fid::Xor, {12, 0}, {10, 0}, kDefaultU8, 6},  {fid::And, {-1, 0}, {-256, 0}, kDefaultS16, -256},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(testing::Message() << "op " << c.op << " " << c.y.value << " " << c.x.value);
-        Engine e = Holding({c.y, c.x});
-        e.prefs.SetIntegerFormat(c.format);
-        e.Dispatch(c.op);
+        const Engine e = InFormat(c.format, {c.y, c.x}, c.op);
         EXPECT_EQ(XOf(e), Tagged(c.result, c.result == err || c.format == kDefaultNone ? 0 : U8 + c.format));
         EXPECT_EQ(e.state.lastX, c.x.value);
     }
 }
 
 TEST(ShiftsAndRotate, CountsNegativeAndBeyondTheWidth) {
-    struct Case { FunctionId op; TaggedValue y; double count, result; };
     const FunctionId Sl = fid::ShiftLeft, Sr = fid::ShiftRight, Rr = fid::RotateRight;
     const FunctionId Asr = fid::ArithmeticShiftRight;
-    const Case cases[] = {
-        {Sl, {1, U8}, 7, 128},         {Sl, {1, U8}, 100, 0},         {Sl, {4, U8}, -1, 2},
-        {Sl, {255, U8}, -2147483648.0, 0},                            {Sl, {5, U8}, 4294967296.0, 5},
-        {Sl, {1, S32}, 31, -2147483648.0},                            {Sl, {1, U32}, 31, 2147483648.0},
-        {Sr, {128, U8}, 3, 16},        {Sr, {128, U8}, 200, 0},       {Sr, {3, U8}, -2, 12},
-        {Sr, {-128, S8}, 1, 64},       {Asr, {-128, S8}, 3, -16},     {Asr, {-128, S8}, 100, -1},
-        {Asr, {64, S8}, 1, 32},        {Asr, {32768, U16}, 15, 65535}, {Rr, {3, U8}, 9, 129},
-        {Rr, {1, U16}, 1, 32768},      {Rr, {1, S32}, 1, -2147483648.0},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(testing::Message() << "op " << c.op << " " << c.y.value << " by " << c.count);
-        EXPECT_EQ(XOf(After({c.y, {c.count, 0}}, c.op)), Tagged(c.result, c.y.tag));
-    }
-    Engine e = Holding({{300, 0}, {1, 0}});  // untagged: the default format, where 300 is 44
-    e.prefs.SetIntegerFormat(kDefaultU8);
-    e.Dispatch(fid::ShiftLeft);
-    EXPECT_EQ(XOf(e), Tagged(88, U8));
-}
-
-TEST(IntegerTags, FloatArithmeticRemovesThemIntegerNegationKeepsThem) {
-    EXPECT_EQ(XOf(After({{5, U8}, {3, U8}}, fid::Subtract)), Tagged(2, 0));
-    EXPECT_EQ(XOf(After({{5, S16}, {3, U8}}, fid::Multiply)), Tagged(15, 0));
-    EXPECT_EQ(XOf(After({{5, 0}, {3, S32}}, fid::Divide)), Tagged(5.0 / 3.0, 0));
-    EXPECT_EQ(XOf(After({{5, U8}}, fid::IntegerNegate)), Tagged(251, U8));
-    EXPECT_EQ(XOf(After({{-128, S8}}, fid::IntegerNegate)), Tagged(-128, S8));
+    CheckOperators({
+        {Sl, {1, U8}, {7, 0}, {128, U8}},             {Sl, {1, U8}, {100, 0}, {0, U8}},
+        {Sl, {4, U8}, {-1, 0}, {2, U8}},              {Sl, {255, U8}, {-2147483648.0, 0}, {0, U8}},
+        {Sl, {5, U8}, {4294967296.0, 0}, {5, U8}},    {Sl, {1, S32}, {31, 0}, {-2147483648.0, S32}},
+        {Sl, {1, U32}, {31, 0}, {2147483648.0, U32}}, {Sr, {128, U8}, {3, 0}, {16, U8}},
+        {Sr, {128, U8}, {200, 0}, {0, U8}},           {Sr, {3, U8}, {-2, 0}, {12, U8}},
+        {Sr, {-128, S8}, {1, 0}, {64, S8}},           {Asr, {-128, S8}, {3, 0}, {-16, S8}},
+        {Asr, {-128, S8}, {100, 0}, {-1, S8}},        {Asr, {64, S8}, {1, 0}, {32, S8}},
+        {Asr, {32768, U16}, {15, 0}, {65535, U16}},   {Rr, {3, U8}, {9, 0}, {129, U8}},
+        {Rr, {1, U16}, {1, 0}, {32768, U16}},         {Rr, {1, S32}, {1, 0}, {-2147483648.0, S32}},
+        // Float arithmetic removes the integer tags.
+        {fid::Subtract, {5, U8}, {3, U8}, {2, 0}}, {fid::Multiply, {5, S16}, {3, U8}, {15, 0}},
+        {fid::Divide, {5, 0}, {3, S32}, {5.0 / 3.0, 0}},
+    });
 }
 
 TEST(IntegerTags, BaseKeysMakeAPlainNumberTheWholeNumberShown) {

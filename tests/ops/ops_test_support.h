@@ -1,5 +1,7 @@
 #pragma once
 // Helpers for the calculator families: an engine holding tagged operands, and named tags.
+#include <gtest/gtest.h>
+
 #include <initializer_list>
 #include <string>
 #include <utility>
@@ -45,6 +47,30 @@ inline Engine After(std::initializer_list<TaggedValue> levels, FunctionId key) {
 using Tagged = std::pair<double, ValueTag>;
 inline Tagged XOf(const Engine& e) { return {e.X(), e.XTag()}; }
 inline Tagged Of(TaggedValue v) { return {v.value, v.tag}; }
+
+// A key pressed on `x` (and `y` below it for an operator), and the X it must leave.
+struct KeyCase { FunctionId key; TaggedValue x, result; };
+struct OperatorCase { FunctionId key; TaggedValue y, x, result; };
+
+inline void ExpectX(const Engine& e, TaggedValue result) {
+    EXPECT_DOUBLE_EQ(e.X(), result.value);
+    EXPECT_EQ(e.XTag(), result.tag);
+}
+
+inline void CheckKeys(std::initializer_list<KeyCase> cases) {
+    for (const KeyCase& c : cases) {
+        SCOPED_TRACE(testing::Message() << "key " << c.key << " on " << c.x.value << " tag " << c.x.tag);
+        ExpectX(After({c.x}, c.key), c.result);
+    }
+}
+
+inline void CheckOperators(std::initializer_list<OperatorCase> cases) {
+    for (const OperatorCase& c : cases) {
+        SCOPED_TRACE(testing::Message() << "key " << c.key << " on " << c.y.value << " tag " << c.y.tag << ", "
+                                        << c.x.value << " tag " << c.x.tag);
+        ExpectX(After({c.y, c.x}, c.key), c.result);
+    }
+}
 
 // What the display shows for X, and its label.
 inline std::string XText(const Engine& e) { return DisplayLevel(e, 0).text; }

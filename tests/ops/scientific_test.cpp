@@ -2,57 +2,43 @@
 
 #include <cmath>
 #include <span>
+#include <tuple>
 
+#include "cli/tokens.h"
+#include "ops/constants.h"
 #include "ops_test_support.h"
 
 namespace brinto {
 namespace {
 
 using namespace test;
-
-struct AngleCase { FunctionId angle, key; double x, result; };
-
-Engine InAngle(const AngleCase& c) {
-    Engine e = Holding({{c.x, 0}});
-    e.Dispatch(c.angle);
-    e.Dispatch(c.key);
-    return e;
-}
+using namespace test::unit;
 
 // In degrees and grads, sin of a half turn and cos of an odd quarter turn are exactly 0 (the
-// library leaves 1e-16, which would show) and tan there is the error value; radians make no such test.
+// library leaves 1e-16, which would show) and tan there is the error value; radians make no such
+// test. The inverse functions answer in the angle unit, acos 0 exactly a right angle.
 TEST(Trigonometry, ExactZerosAtMultiplesOfRightAnglesInDegreesAndGrads) {
     constexpr FunctionId D = fid::Degrees, G = fid::Grads, R = fid::Radians, Sin = fid::Sin, Cos = fid::Cos,
-                         Tan = fid::Tan;
+                         Tan = fid::Tan, Acos = fid::Acos;
     const double err = kErrorValue;
-    const AngleCase cases[] = {
+    struct Case { FunctionId angle, key; double x, result; };
+    const Case cases[] = {
         {D, Sin, 180, 0},  {D, Sin, -180, 0}, {D, Sin, -720, 0},  {D, Cos, 90, 0},    {D, Cos, -90, 0},
         {D, Cos, 270, 0},  {D, Cos, -270, 0}, {D, Cos, 450, 0},   {D, Cos, 180, -1},  {D, Tan, 90, err},
         {D, Tan, -90, err}, {D, Tan, 270, err}, {D, Tan, 180, 0}, {D, Tan, -180, 0},  {G, Sin, 200, 0},
-        {G, Cos, -100, 0}, {G, Cos, 300, 0},  {G, Tan, -300, err}, {G, Tan, 200, 0},
-        {G, Sin, 90, std::sin(90 * M_PI * 0.005)}, {R, Sin, M_PI, std::sin(M_PI)},
-        {R, Tan, M_PI / 2, std::tan(M_PI / 2)},
+        {G, Cos, -100, 0}, {G, Cos, 300, 0},  {G, Tan, -300, err}, {G, Tan, 200, 0},  {D, Acos, 0, 90},
+        {G, Acos, 0, 100}, {R, Acos, 0, M_PI * 0.5},              {G, Sin, 90, std::sin(90 * M_PI * 0.005)},
+        {R, Sin, M_PI, std::sin(M_PI)},       {R, Tan, M_PI / 2, std::tan(M_PI / 2)},
+        {D, fid::Asin, 1, 90},                {G, fid::Atan, 1, 50},                   {D, Acos, -1, 180},
+        {D, fid::Asin, 2, NAN},  // outside -1..1: the library's NaN, shown as an error
     };
-    for (const AngleCase& c : cases) {
+    for (const Case& c : cases) {
         SCOPED_TRACE(testing::Message() << "key " << c.key << " angle " << c.angle << " x " << c.x);
-        Engine e = InAngle(c);
-        EXPECT_EQ(e.X(), c.result);
+        Engine e = Holding({{c.x, 0}});
+        Press(e, {c.angle, c.key});
+        EXPECT_TRUE(e.X() == c.result || (std::isnan(c.result) && std::isnan(e.X()))) << e.X();
         EXPECT_EQ(e.state.lastX, c.x);
     }
-}
-
-TEST(Trigonometry, InverseFunctionsAnswerInTheAngleUnit) {
-    const AngleCase cases[] = {
-        {fid::Degrees, fid::Acos, 0, 90},         {fid::Grads, fid::Acos, 0, 100},
-        {fid::Radians, fid::Acos, 0, M_PI * 0.5}, {fid::Degrees, fid::Asin, 1, 90},
-        {fid::Grads, fid::Atan, 1, 50},           {fid::Degrees, fid::Acos, -1, 180},
-    };
-    for (const AngleCase& c : cases) {
-        SCOPED_TRACE(testing::Message() << "key " << c.key << " angle " << c.angle << " x " << c.x);
-        EXPECT_DOUBLE_EQ(InAngle(c).X(), c.result);
-    }
-    // Outside -1..1: the library's NaN, shown as an error.
-    EXPECT_TRUE(std::isnan(InAngle({fid::Degrees, fid::Asin, 2, 0}).X()));
 }
 
 TEST(Trigonometry, HyperbolicPrefixActsOnTheNextKeyOnlyWithoutAngleConversion) {
@@ -68,32 +54,52 @@ TEST(Trigonometry, HyperbolicPrefixActsOnTheNextKeyOnlyWithoutAngleConversion) {
     EXPECT_NEAR(e.X(), std::tan(0.5 * M_PI / 180), 1e-15);
 }
 
-TEST(Factorial, WholeNumbersUpTo170CombinationsAndLogGamma) {
-    struct Case { FunctionId key; double y, x, result; };
-    const FunctionId F = fid::Factorial, C = fid::Combinations, P = fid::Permutations, L = fid::LogGamma;
+TEST(Functions, ResultsAndTheUnitsTheyKeep) {
+    const FunctionId F = fid::Factorial, L = fid::LogGamma, Sqrt = fid::SquareRoot, Sq = fid::Square;
     const double err = kErrorValue;
-    const Case cases[] = {
-        {F, 0, 0, 1},       {F, 0, 170, 7.257415615307994e306}, {F, 0, 171, err}, {F, 0, 3.5, err},
-        {F, 0, -1, err},    {F, 0, NAN, err},   {C, 5, 2, 10},  {P, 5, 2, 20},  {C, 5, 5, 1},
-        {C, 2, 5, err},     {P, 2, 5, err},     {C, 5, 0.5, err}, {P, 171, 1, err},
-        {L, 0, -0.5, -1.265512123484645},  // gamma(-0.5) is negative: log |gamma|
-        {L, 0, 0.5, 0.5723649429247004},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(testing::Message() << "key " << c.key << " " << c.y << " " << c.x);
-        EXPECT_DOUBLE_EQ(After({{c.y, 0}, {c.x, 0}}, c.key).X(), c.result);
+    CheckKeys({
+        {F, {0, 0}, {1, 0}},           {F, {170, 0}, {7.257415615307994e306, 0}},   {F, {171, 0}, {err, 0}},
+        {F, {3.5, 0}, {err, 0}},       {F, {-1, 0}, {err, 0}},  {F, {NAN, 0}, {err, 0}},
+        {L, {-0.5, 0}, {-1.265512123484645, 0}},  // gamma(-0.5) is negative: the log of its size
+        {L, {0.5, 0}, {0.5723649429247004, 0}},   {Sqrt, {4, SqCm}, {2, Cm}},        {Sqrt, {4, Acres}, {2, 0}},
+        {Sqrt, {4, Meters}, {2, 0}},   {Sq, {3, Feet}, {9, SqFeet}}, {Sq, {3, Mm}, {9, 1935}}, {Sq, {3, Nmi}, {9, 0}},
+        {Sq, {3, SqFeet}, {9, 0}},     {fid::Cube, {2, Meters}, {8, 0}},        {fid::CubeRoot, {8, CubicM}, {2, 0}},
+        {fid::Abs, {-2, Kg}, {2, Kg}}, {fid::IntegerPart, {2.5, U8}, {2, U8}},      {fid::Floor, {2.5, 1404}, {2, 0}},
+        {fid::FractionalPart, {2.3, Feet}, {0.3, Feet}}, {fid::FractionalPart, {-2.3, 0}, {-0.3, 0}},
+        {fid::Ceiling, {2.5, Date}, {3, Date}},          {fid::Reciprocal, {4, Feet}, {0.25, 0}},
+    });
+    const FunctionId C = fid::Combinations, P = fid::Permutations;
+    CheckOperators({
+        {C, {5, 0}, {2, 0}, {10, 0}},  {P, {5, 0}, {2, 0}, {20, 0}},   {C, {5, 0}, {5, 0}, {1, 0}},
+        {C, {2, 0}, {5, 0}, {err, 0}}, {P, {2, 0}, {5, 0}, {err, 0}},  {C, {5, 0}, {0.5, 0}, {err, 0}},
+        {P, {171, 0}, {1, 0}, {err, 0}},
+    });
+}
+
+TEST(LastX, SavedByEveryFunctionButAbsoluteValueFloorCeilingPiAndRandom) {
+    const FunctionId keeping[] = {fid::Abs, fid::Floor, fid::Ceiling, fid::Pi, fid::Random};
+    const FunctionId saving[] = {fid::Percent, fid::RoundToDisplay, fid::IntegerPart, fid::SquareRoot, fid::Square,
+                                 fid::CubeRoot, fid::Cube, fid::Reciprocal, fid::FractionalPart, fid::Sin, fid::Cos,
+                                 fid::Tan, fid::Asin, fid::Acos, fid::Atan, fid::Ln, fid::Log10, fid::Exp,
+                                 fid::PowerOf10, fid::RadToDeg, fid::DegToRad, fid::PolarToRect, fid::RectToPolar,
+                                 fid::Factorial, fid::LogGamma};
+    for (const bool saves : {false, true}) {
+        for (const FunctionId key : saves ? std::span<const FunctionId>(saving) : keeping) {
+            SCOPED_TRACE(key);
+            Engine e = Holding({{3, 0}, {0.5, Feet}});
+            e.state.lastX = 7;
+            e.Dispatch(key);
+            EXPECT_EQ(Tagged(e.state.lastX, e.state.lastXTag), saves ? Tagged(0.5, Feet) : Tagged(7, 0));
+        }
     }
 }
 
-TEST(Coordinates, PolarToRectangularTakesTheAngleFromYAndDropsUnits) {
-    Engine e = After({{30, 0}, {2, unit::Meters}}, fid::PolarToRect);
+TEST(Coordinates, TakeTheAngleFromYDropUnitsAndUseUpTheEnterMarker) {
+    Engine e = After({{30, 0}, {2, Meters}}, fid::PolarToRect);
     EXPECT_DOUBLE_EQ(e.X(), 2 * std::cos(M_PI / 6));
     EXPECT_DOUBLE_EQ(e.Y(), 1.0);
     EXPECT_EQ(e.XTag() + e.YTag(), 0);
-}
-
-TEST(Coordinates, UseUpTheEnterMarkerOfTheAlgebraicMethods) {
-    Engine e = MakeEngine(InputMethod::Simple);
+    e = MakeEngine(InputMethod::Simple);  // the algebraic methods leave an Enter marker for them
     Press(e, {3, fid::Enter, 4, fid::RectToPolar});
     EXPECT_EQ(e.state.pendingCount, 0);
     Press(e, {fid::Add, 1, fid::Equals});
@@ -106,19 +112,17 @@ TEST(Percent, OfTheRunningTotalOnlyAfterAddOrSubtract) {
     EXPECT_DOUBLE_EQ(e.X(), 0.1);
     e = MakeEngine(InputMethod::Rpn);
     Press(e, {2, 0, 0, fid::Enter, 1, 0, fid::Percent});
-    EXPECT_EQ(e.X(), 20.0);
-    EXPECT_EQ(e.Y(), 200.0);  // no drop
+    EXPECT_EQ(std::pair(e.X(), e.Y()), std::pair(20.0, 200.0));  // no drop
 }
 
 TEST(RoundToDisplay, KeepsWhatTheDisplayShowsAndEndsTheFullDisplay) {
-    Engine e = Holding({{2.0 / 3.0, unit::Meters}});
+    Engine e = Holding({{2.0 / 3.0, Meters}});
     Press(e, {fid::FormatFixed, 2});
     e.state.status |= status::FullDisplay;
     e.Dispatch(fid::RoundToDisplay);
-    EXPECT_EQ(XOf(e), Tagged(0.67, unit::Meters));
+    EXPECT_EQ(XOf(e), Tagged(0.67, Meters));
     EXPECT_FALSE(e.state.status & status::FullDisplay);
     EXPECT_EQ(e.state.lastX, 2.0 / 3.0);
-
     e = Holding({{123456.789, 0}});
     e.prefs.SetFormat(NumberFormat::Engineering);
     e.prefs.SetDigitField(4);  // four significant digits: 123.5e3
@@ -127,49 +131,10 @@ TEST(RoundToDisplay, KeepsWhatTheDisplayShowsAndEndsTheFullDisplay) {
     EXPECT_EQ(After({{kErrorValue, 0}}, fid::RoundToDisplay).X(), kErrorValue);  // the formatter refuses it
 }
 
-TEST(UnitsThroughFunctions, RootsAndPowersCarryLengthAndArea) {
-    using namespace unit;
-    struct Case { FunctionId key; TaggedValue x, result; };
-    const Case cases[] = {
-        {fid::SquareRoot, {4, SqCm}, {2, Cm}},       {fid::SquareRoot, {4, Acres}, {2, 0}},
-        {fid::SquareRoot, {4, Meters}, {2, 0}},      {fid::Square, {3, Feet}, {9, SqFeet}},
-        {fid::Square, {3, Mm}, {9, 1935}},           {fid::Square, {3, Nmi}, {9, 0}},
-        {fid::Square, {3, SqFeet}, {9, 0}},          {fid::Cube, {2, Meters}, {8, 0}},
-        {fid::CubeRoot, {8, CubicM}, {2, 0}},        {fid::Abs, {-2, Kg}, {2, Kg}},
-        {fid::IntegerPart, {2.5, U8}, {2, U8}},      {fid::FractionalPart, {2.3, Feet}, {0.3, Feet}},
-        {fid::FractionalPart, {-2.3, 0}, {-0.3, 0}}, {fid::Floor, {2.5, 1404}, {2, 0}},
-        {fid::Ceiling, {2.5, Date}, {3, Date}},      {fid::Reciprocal, {4, Feet}, {0.25, 0}},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(testing::Message() << "key " << c.key << " tag " << c.x.tag);
-        EXPECT_EQ(XOf(After({c.x}, c.key)), Of(c.result));
-    }
-}
-
-TEST(LastX, SavedByEveryFunctionButAbsoluteValueFloorCeilingPiAndRandom) {
-    const FunctionId keeping[] = {fid::Abs, fid::Floor, fid::Ceiling, fid::Pi, fid::Random};
-    const FunctionId saving[] = {fid::Percent, fid::RoundToDisplay, fid::IntegerPart, fid::SquareRoot,
-                                 fid::Square, fid::CubeRoot, fid::Cube, fid::Reciprocal, fid::FractionalPart,
-                                 fid::Sin, fid::Cos, fid::Tan, fid::Asin, fid::Acos, fid::Atan, fid::Ln,
-                                 fid::Log10, fid::Exp, fid::PowerOf10, fid::RadToDeg, fid::DegToRad,
-                                 fid::PolarToRect, fid::RectToPolar, fid::Factorial, fid::LogGamma};
-    for (const bool saves : {false, true}) {
-        for (const FunctionId key : saves ? std::span<const FunctionId>(saving) : keeping) {
-            SCOPED_TRACE(key);
-            Engine e = Holding({{3, 0}, {0.5, unit::Feet}});
-            e.state.lastX = 7;
-            e.Dispatch(key);
-            EXPECT_EQ(Tagged(e.state.lastX, e.state.lastXTag), saves ? Tagged(0.5, unit::Feet) : Tagged(7, 0));
-        }
-    }
-}
-
 TEST(RecallLift, PiKeepsANumberBeingTypedInRpnAndReplacesItAfterAnOperator) {
     Engine e = MakeEngine(InputMethod::Rpn);
     Press(e, {2, fid::Enter, 3, fid::Pi});
-    EXPECT_EQ(e.X(), M_PI);
-    EXPECT_EQ(e.Y(), 3.0);
-    EXPECT_EQ(e.Level(2).value, 2.0);
+    EXPECT_EQ(std::tuple(e.X(), e.Y(), e.Level(2).value), std::tuple(M_PI, 3.0, 2.0));
     e = MakeEngine(InputMethod::Simple);
     Press(e, {2, fid::Multiply, fid::Pi, fid::Equals});
     EXPECT_DOUBLE_EQ(e.X(), 2 * M_PI);
@@ -182,8 +147,55 @@ TEST(Random, StoresTheFifteenBitGeneratorsStateWhichWrapsModulo2To32) {
     EXPECT_EQ(e.state.randomSeed, 172u);
     e.state.randomSeed = 0xFFFFFFFF;
     e.Dispatch(fid::Random);
-    EXPECT_EQ(e.state.randomSeed, 35u);
-    EXPECT_EQ(e.X(), 35 * (1.0 / 32767));
+    EXPECT_EQ(std::pair(e.state.randomSeed, e.X()), std::pair(35u, 35 * (1.0 / 32767)));
+}
+
+constexpr int kSpeedOfLight = 7, kPlanck = 12, kElectronMass = 15;
+
+TEST(Constants, EveryRowHasANameAndOnlyThoseRowsRecall) {
+    for (int i = 0; i < kConstantCount; ++i) EXPECT_FALSE(ConstantName(i).empty()) << i;
+    EXPECT_FALSE(ConstantName(32).empty());
+    Engine e = Holding({{5, 0}});
+    for (const int outside : {33, -1}) {
+        EXPECT_TRUE(ConstantName(outside).empty());
+        EXPECT_FALSE(RecallConstant(e, outside, 3));
+    }
+    EXPECT_EQ(std::tuple(e.X(), e.state.constantsTopRow), std::tuple(5.0, 0));
+    EXPECT_FALSE(ParseToken("const:-1").has_value());
+    EXPECT_FALSE(ParseToken("const:").has_value());
+    EXPECT_EQ(ParseToken("const:32").value().number, 32);
+}
+
+TEST(Constants, RecallLiftsLeavesLastXAloneAndKeepsTheListsScroll) {
+    Engine e = Holding({{5, 0}});
+    e.state.lastX = 9;
+    ASSERT_TRUE(RecallConstant(e, kSpeedOfLight, 4));
+    EXPECT_EQ(std::tuple(e.Y(), e.state.lastX, e.state.constantsTopRow), std::tuple(5.0, 9.0, 4));
+    e.Dispatch(158);  // km/h: the tagged constants convert
+    EXPECT_NEAR(e.X(), 1079252848.8, 1e-3);
+    ASSERT_TRUE(RecallConstant(e, kPlanck, 10));
+    EXPECT_EQ(XOf(e), Tagged(6.6260755e-34, 0));
+    EXPECT_EQ(e.state.aux[0], kNoAux);
+    ASSERT_TRUE(RecallConstant(e, kElectronMass, 10));
+    EXPECT_EQ(XLabel(e), "kg");
+}
+
+TEST(Constants, RecallFollowsTheLiftAndClosesANumberBeingTyped) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {2, fid::Enter});  // lift disabled: the recall replaces the copy of 2
+    RecallConstant(e, kPlanck, 0);
+    EXPECT_EQ(e.Y(), 2.0);
+    Press(e, {3});  // a number typed after a recall lifts it
+    EXPECT_EQ(e.Y(), 6.6260755e-34);
+    Press(e, {1});
+    RecallConstant(e, kSpeedOfLight, 0);
+    EXPECT_FALSE(e.EntryOpen());
+    EXPECT_EQ(e.Y(), 31.0);
+    e = MakeEngine(InputMethod::Simple);
+    Press(e, {2, fid::Multiply});
+    RecallConstant(e, kSpeedOfLight, 0);
+    Press(e, {fid::Add, 1, fid::Equals});  // + does not replace x: the recall came between
+    EXPECT_EQ(e.X(), 599584917.0);
 }
 
 }  // namespace

@@ -12,18 +12,21 @@ namespace {
 using namespace test;
 using namespace test::unit;
 
-constexpr FunctionId kInchesKey = 142, kFeetKey = 143, kMetersPerSKey = 156, kKmHKey = 158;
+constexpr FunctionId kInchesKey = 142, kFeetKey = 143, kMetersPerSKey = 156;
 constexpr FunctionId kHoursKey = 193, kMinutesKey = 194, kDaysKey = 192;
 
-TEST(UnitKeys, AttachToAPlainValueAndConvertWithinTheirTable) {
+TEST(UnitKeys, ConvertWithinTheirTableAndOnlyLabelOtherValues) {
     Engine e = Holding({{12, 0}});
     e.state.lastX = 99;
     e.Dispatch(kInchesKey);
     EXPECT_EQ(e.state.lastX, 99.0);  // attaching a unit is not an operation on X
     e.Dispatch(kFeetKey);
     EXPECT_EQ(Tagged(e.state.lastX, e.state.lastXTag), Tagged(12, Inches));
-    e = After({{100, KmPerH}}, kMetersPerSKey);
-    EXPECT_NEAR(e.X(), 27.7777777778, 1e-9);
+    CheckKeys({
+        {kMetersPerSKey, {100, KmPerH}, {27.7777777778, MPerS}}, {fid::DegC, {212, DegF}, {100, DegC}},
+        {fid::DegC, {-40, DegF}, {-40, DegC}},   {fid::DegF, {5, Meters}, {5, DegF}},
+        {kMinutesKey, {1.3, Hms}, {90, Minutes}}, {kHoursKey, {90, 0}, {90, Hours}}, {kHoursKey, {90, Meters}, {90, Hours}},
+    });
 }
 
 TEST(UnitKeys, EveryKeyOfTheConversionKeyboardsConvertsBackToItsStart) {
@@ -43,64 +46,31 @@ TEST(UnitKeys, EveryKeyOfTheConversionKeyboardsConvertsBackToItsStart) {
     }
 }
 
-TEST(Temperature, ConvertsOnlyBetweenTheTwoScales) {
-    Engine e = After({{212, DegF}}, fid::DegC);
-    EXPECT_EQ(XText(e), "100.");
-    EXPECT_EQ(XLabel(e), "deg C");
-    EXPECT_DOUBLE_EQ(After({{-40, DegF}}, fid::DegC).X(), -40.0);
-    EXPECT_EQ(XOf(After({{5, Meters}}, fid::DegF)), Tagged(5, DegF));  // not a temperature: only labelled
-}
-
-struct ArithmeticCase { FunctionId op; TaggedValue y, x; double result; ValueTag tag; };
-
-void CheckArithmetic(std::initializer_list<ArithmeticCase> cases) {
-    for (const ArithmeticCase& c : cases) {
-        SCOPED_TRACE(testing::Message() << "op " << c.op << ": " << c.y.value << " tag " << c.y.tag << ", "
-                                        << c.x.value << " tag " << c.x.tag);
-        const Engine e = After({c.y, c.x}, c.op);
-        EXPECT_NEAR(e.X(), c.result, std::fabs(c.result) * 1e-12);
-        EXPECT_EQ(e.XTag(), c.tag);
-    }
-}
-
-TEST(UnitRules, AddAndSubtract) {
-    const FunctionId Add = fid::Add, Sub = fid::Subtract;
-    CheckArithmetic({
-        {Add, {5, 0}, {3, Feet}, 8, Feet},            {Sub, {5, Kg}, {3, 0}, 2, Kg},
-        {Add, {5, 1410}, {3, Feet}, 8, Feet},         {Add, {5, Kg}, {3, Feet}, 8, 0},
-        {Add, {5, DegC}, {3, DegC}, 8, 0},            {Add, {5, DegC}, {3, 0}, 8, DegC},
-        {Add, {5, Feet}, {3, Feet}, 8, Feet},         {Add, {1, Feet}, {12, Inches}, 2, Feet},
-        {Sub, {1, Gallons}, {1, Liters}, 1 - 0.001 / 0.003785411784, Gallons},
-        {Add, {1, Hours}, {30, Minutes}, 1.5, Hours}, {Sub, {1, Days}, {12, Hours}, 0.5, Days},
-        {Add, {1.3, Hms}, {30, Minutes}, 2, Hours},   {Add, {30, Minutes}, {1.3, Hms}, 120, Minutes},
-    });
-}
-
-TEST(UnitRules, Multiply) {
-    const FunctionId Mul = fid::Multiply;
-    CheckArithmetic({
-        {Mul, {1, Meters}, {50, Cm}, 0.5, SqMeters},   {Mul, {5, Feet}, {3, 0}, 15, Feet},
-        {Mul, {2, Nmi}, {3, Nmi}, 6, 0},               {Mul, {2, SqFeet}, {6, Inches}, 1, CubicFt},
-        {Mul, {2, SqFeet}, {1, Feet}, 2, CubicFt},     {Mul, {2, SqMiles}, {3, Feet}, 6, 0},
+TEST(UnitRules, AddSubtractMultiplyAndDivide) {
+    const FunctionId Add = fid::Add, Sub = fid::Subtract, Mul = fid::Multiply, Div = fid::Divide;
+    CheckOperators({
+        {Add, {5, 0}, {3, Feet}, {8, Feet}},            {Sub, {5, Kg}, {3, 0}, {2, Kg}},
+        {Add, {5, 1410}, {3, Feet}, {8, Feet}},         {Add, {5, Kg}, {3, Feet}, {8, 0}},
+        {Add, {5, DegC}, {3, DegC}, {8, 0}},            {Add, {5, DegC}, {3, 0}, {8, DegC}},
+        {Add, {5, Feet}, {3, Feet}, {8, Feet}},         {Add, {1, Feet}, {12, Inches}, {2, Feet}},
+        {Sub, {1, Gallons}, {1, Liters}, {0.73582794764185, Gallons}},  // 1 - 1 / 3.785411784, in 14 digits
+        {Add, {1, Hours}, {30, Minutes}, {1.5, Hours}}, {Sub, {1, Days}, {12, Hours}, {0.5, Days}},
+        {Add, {1.3, Hms}, {30, Minutes}, {2, Hours}},   {Add, {30, Minutes}, {1.3, Hms}, {120, Minutes}},
+        {Mul, {1, Meters}, {50, Cm}, {0.5, SqMeters}},  {Mul, {5, Feet}, {3, 0}, {15, Feet}},
+        {Mul, {2, Nmi}, {3, Nmi}, {6, 0}},              {Mul, {2, SqFeet}, {6, Inches}, {1, CubicFt}},
+        {Mul, {2, SqFeet}, {1, Feet}, {2, CubicFt}},    {Mul, {2, SqMiles}, {3, Feet}, {6, 0}},
         // The length's factor alone divides the area: 1 sq meter counts as 1 / 0.3048 feet.
-        {Mul, {2, Feet}, {1, SqMeters}, 2 / 0.3048, CubicFt},  {Mul, {2, Feet}, {3, SqFeet}, 6, CubicFt},
-        {Mul, {60, MiPerH}, {30, Minutes}, 30, Miles}, {Mul, {60, MiPerH}, {2, Hours}, 120, Miles},
-        {Mul, {2, Hours}, {3, MPerS}, 21600, Meters},  {Mul, {1.3, Hms}, {10, MiPerH}, 15, Miles},
-        {Mul, {2, Kg}, {3, Kg}, 6, 0},
-    });
-}
-
-TEST(UnitRules, Divide) {
-    const FunctionId Div = fid::Divide;
-    CheckArithmetic({
-        {Div, {100, Miles}, {50, MiPerH}, 2, Hours},    {Div, {1, Meters}, {1, InPerS}, 1 / 0.0254, Seconds},
-        {Div, {10, SqFeet}, {2, Feet}, 5, Feet},        {Div, {10, SqFeet}, {24, Inches}, 5, Feet},
-        {Div, {10, Acres}, {2, Feet}, 5, 0},            {Div, {1, CubicFt}, {12, Inches}, 1, SqFeet},
-        {Div, {1, Liters}, {2, Meters}, 0.5, 0},        {Div, {1, CubicM}, {2, SqMeters}, 0.5, Meters},
-        {Div, {144, CubicIn}, {1, SqFeet}, 1, Inches},  {Div, {100, Meters}, {10, Seconds}, 10, MPerS},
-        {Div, {100, Meters}, {1, Minutes}, 100.0 / 60, MPerS}, {Div, {10, Km}, {30, Minutes}, 20, KmPerH},
-        {Div, {10, Yards}, {2, Hours}, 5, 0},           {Div, {6, 0}, {2, Feet}, 3, Feet},
-        {Div, {6, Feet}, {2, Feet}, 3, 0},
+        {Mul, {2, Feet}, {1, SqMeters}, {2 / 0.3048, CubicFt}},  {Mul, {2, Feet}, {3, SqFeet}, {6, CubicFt}},
+        {Mul, {60, MiPerH}, {30, Minutes}, {30, Miles}}, {Mul, {60, MiPerH}, {2, Hours}, {120, Miles}},
+        {Mul, {2, Hours}, {3, MPerS}, {21600, Meters}},  {Mul, {1.3, Hms}, {10, MiPerH}, {15, Miles}},
+        {Mul, {2, Kg}, {3, Kg}, {6, 0}},                 {Div, {100, Miles}, {50, MiPerH}, {2, Hours}},
+        {Div, {1, Meters}, {1, InPerS}, {1 / 0.0254, Seconds}}, {Div, {10, SqFeet}, {2, Feet}, {5, Feet}},
+        {Div, {10, SqFeet}, {24, Inches}, {5, Feet}},    {Div, {10, Acres}, {2, Feet}, {5, 0}},
+        {Div, {1, CubicFt}, {12, Inches}, {1, SqFeet}},  {Div, {1, Liters}, {2, Meters}, {0.5, 0}},
+        {Div, {1, CubicM}, {2, SqMeters}, {0.5, Meters}}, {Div, {144, CubicIn}, {1, SqFeet}, {1, Inches}},
+        {Div, {100, Meters}, {10, Seconds}, {10, MPerS}}, {Div, {100, Meters}, {1, Minutes}, {100.0 / 60, MPerS}},
+        {Div, {10, Km}, {30, Minutes}, {20, KmPerH}},    {Div, {10, Yards}, {2, Hours}, {5, 0}},
+        {Div, {6, 0}, {2, Feet}, {3, Feet}},             {Div, {6, Feet}, {2, Feet}, {3, 0}},
     });
 }
 
@@ -144,12 +114,6 @@ TEST(DurationChain, FollowsTheSettingsAndTheirDefaults) {
     e.registers.values[reg::FramesPerSecond] = NAN;
     e.Dispatch(fid::Frames);
     EXPECT_EQ(e.X(), 30.0);
-}
-
-TEST(TimeKeys, ConvertDurationsAndOnlyLabelOtherValues) {
-    EXPECT_EQ(XOf(After({{1.3, Hms}}, kMinutesKey)), Tagged(90, Minutes));
-    EXPECT_EQ(XOf(After({{90, 0}}, kHoursKey)), Tagged(90, Hours));
-    EXPECT_EQ(XOf(After({{90, Meters}}, kHoursKey)), Tagged(90, Hours));
 }
 
 TEST(TimeKeys, ExtractTheFieldsOfDates) {
