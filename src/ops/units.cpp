@@ -143,6 +143,9 @@ struct KeyRow {
 };
 
 KeyRow FindUnitKey(FunctionId id) {
+    // Every other family's keys pass through here; only the two blocks of unit keys are looked up.
+    const bool unitKey = (id >= fid::Inches && id <= 163) || (id >= 216 && id <= 240);
+    if (!unitKey) return {};
     const std::span<const UnitRow> tables[] = {kLength, kArea, kVolume, kSpeed, kMass};
     for (const auto& table : tables) {
         for (const UnitRow& row : table) {
