@@ -6,7 +6,8 @@
 # Each target starts from its seeds in fuzz/corpus/<target>/ plus what earlier runs kept in
 # WORKDIR/corpus/<target>/, where new inputs go (the seeds in the repository are never written).
 # Logs go to WORKDIR/<target>.log, crashing inputs to WORKDIR/artifacts/. FUZZ_JOBS targets run at
-# once (default 2). The exit status is nonzero when any target found a fault.
+# once (default 2). fuzz/<target>.dict, where there is one, gives libFuzzer the surface's words.
+# The exit status is nonzero when any target found a fault.
 set -uo pipefail
 cd "$(dirname "$0")/.."
 seconds=${1:?seconds per target}
@@ -24,10 +25,12 @@ mkdir -p "$work/artifacts"
 
 run_one() {
   local t=$1
+  local dict=()
+  [ -f "fuzz/$t.dict" ] && dict=(-dict="fuzz/$t.dict")
   mkdir -p "$work/corpus/$t"
   UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1 ASAN_OPTIONS=detect_leaks=1 \
     "$bin/$t" -max_total_time="$seconds" -timeout=20 -rss_limit_mb=2048 -max_len=4096 \
-    -print_final_stats=1 -artifact_prefix="$work/artifacts/$t-" \
+    -print_final_stats=1 -artifact_prefix="$work/artifacts/$t-" "${dict[@]}" \
     "$work/corpus/$t" "fuzz/corpus/$t" >"$work/$t.log" 2>&1
 }
 
