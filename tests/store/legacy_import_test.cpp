@@ -2,13 +2,10 @@
 // converting each saved value as the older layouts require.
 #include "store/legacy_import.h"
 
-#include <gtest/gtest.h>
-
 #include <cstdio>
 #include <cstring>
 
 #include "session/persistence.h"
-#include "store/state_io.h"
 #include "store_test_support.h"
 
 namespace brinto {
@@ -16,6 +13,7 @@ namespace {
 
 using test::TempFolder;
 using Bytes = std::vector<u8>;
+using Words = std::array<u16, 7>;
 
 // A value line as the registry editors write it: 25 bytes a line, continued with a backslash.
 std::string HexValue(const std::string& name, const Bytes& bytes) {
@@ -31,10 +29,7 @@ std::string HexValue(const std::string& name, const Bytes& bytes) {
 
 std::string Utf16(const std::string& text) {
     std::string out = "\xFF\xFE";
-    for (const char c : text) {
-        out += c;
-        out += '\0';
-    }
+    for (const char c : text) out += std::string{c, '\0'};
     return out;
 }
 
@@ -45,34 +40,30 @@ void Put(Bytes& bytes, std::size_t offset, T value) {
 }
 
 const std::string kKeyLine = "[HKEY_CURRENT_USER\\Software\\ZEB\\Brinto]\r\n";
+const std::string kHeadAndKey = "REGEDIT4\r\n" + kKeyLine;
 
 TEST(RegistryExport, ReadsTheCalculatorsValuesInEveryEncoding) {
-    const Bytes prefs(40, 0x5A);
+    const Bytes prefs(40, 0x5A);  // two lines, joined
     const std::string body = "\r\n[HKEY_CURRENT_USER\\Software\\Other]\r\n" + HexValue("saved_0", {1, 2}) +
                              "\r\n" + kKeyLine + HexValue("saved_0", prefs) + "\"Name\"=\"text\"\r\n" +
                              HexValue("saved_3", {9}) + "; a comment\r\n" + "@=\"default\"\r\n";
-    struct Case {
-        const char* name;
-        std::string file;
-    };
-    const Case cases[] = {
-        {"REGEDIT4", "REGEDIT4\r\n" + body},
+    const std::pair<const char*, std::string> cases[] = {
+        {"REGEDIT4 in 8-bit text", "REGEDIT4\r\n" + body},
         {"version 5 in UTF-16", Utf16("Windows Registry Editor Version 5.00\r\n" + body)},
         {"version 5 in UTF-8 with BOM", "\xEF\xBB\xBFWindows Registry Editor Version 5.00\r\n" + body},
         {"version 5 in UTF-8, Unix lines", "Windows Registry Editor Version 5.00\n" + body},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        const RegistryExport parsed = ParseRegistryExport(c.file);
+    for (const auto& [name, file] : cases) {
+        SCOPED_TRACE(name);
+        const RegistryExport parsed = ParseRegistryExport(file);
         ASSERT_TRUE(parsed.values) << parsed.error;
         EXPECT_TRUE(parsed.values->keyFound);
-        ASSERT_EQ(parsed.values->slots.size(), 2u);
-        EXPECT_EQ(parsed.values->slots.at(0), prefs);  // the other key's saved_0 is not ours
-        EXPECT_EQ(parsed.values->slots.at(3), Bytes{9});
+        const std::map<int, Bytes> expected = {{0, prefs}, {3, {9}}};  // the other key's saved_0 is not ours
+        EXPECT_EQ(parsed.values->slots, expected);
     }
 }
 
-TEST(RegistryExport, NamesFollowTheRegistrysRules) {
+TEST(RegistryExport, NamesAndLinesFollowTheRegistrysRules) {
     const std::string file = "REGEDIT4\r\n"
                              "[hkey_current_user\\software\\zeb\\brinto]\r\n"
                              "\"SAVED_1\"=hex:01\r\n"           // names compare without case
@@ -83,130 +74,84 @@ TEST(RegistryExport, NamesFollowTheRegistrysRules) {
                              "\"saved_3\"=hex:07\r\n"
                              "\"saved_3\"=-\r\n"                // removed again
                              "\"saved_0\"=hex(3):08\r\n"        // binary, spelled with its type
+                             "\"saved_6\"=hex:01,02,\\\n   03,\\  \n\t04\n"  // continued lines
                              "[HKEY_CURRENT_USER\\Software\\ZEB\\Brinto\\Sub]\r\n"
                              "\"saved_2\"=hex:09\r\n"
                              "[-HKEY_CURRENT_USER\\Software\\ZEB\\Brinto]\r\n"
                              "\"saved_5\"=hex:0a\r\n";
     const RegistryExport parsed = ParseRegistryExport(file);
     ASSERT_TRUE(parsed.values) << parsed.error;
-    const std::map<int, Bytes> expected = {{0, {8}}, {1, {1}}, {4, {5, 6}}};
+    const std::map<int, Bytes> expected = {{0, {8}}, {1, {1}}, {4, {5, 6}}, {6, {1, 2, 3, 4}}};
     EXPECT_EQ(parsed.values->slots, expected);
-}
-
-TEST(RegistryExport, ContinuedLinesJoinIntoOneValue) {
-    const std::string file = "REGEDIT4\n" + kKeyLine + "\"saved_4\"=hex:01,02,\\\n   03,04,\\  \n\t05\n";
-    const RegistryExport parsed = ParseRegistryExport(file);
-    ASSERT_TRUE(parsed.values) << parsed.error;
-    EXPECT_EQ(parsed.values->slots.at(4), (Bytes{1, 2, 3, 4, 5}));
-}
-
-TEST(RegistryExport, AFileWithoutTheKeyIsReadButHasNothing) {
-    const RegistryExport parsed = ParseRegistryExport("REGEDIT4\r\n[HKEY_CURRENT_USER\\Software\\ZEB]\r\n");
-    ASSERT_TRUE(parsed.values);
-    EXPECT_FALSE(parsed.values->keyFound);
-    EXPECT_TRUE(parsed.values->slots.empty());
-}
-
-TEST(RegistryExport, MalformedFilesSayWhy) {
-    struct Case {
-        const char* name;
-        std::string file;
-        std::string reason;  // a part of the one-line reason
-    };
-    const Case cases[] = {
-        {"empty", "", "not a registry export"},
-        {"another header", "REGEDIT5\r\n" + kKeyLine, "not a registry export"},
-        {"text file", "hello\n", "not a registry export"},
-        {"odd UTF-16", Utf16("REGEDIT4\r\n") + "x", "UTF-16"},
-        {"bad hex", "REGEDIT4\r\n" + kKeyLine + "\"saved_0\"=hex:01,zz\r\n", "line 3"},
-        {"three digits", "REGEDIT4\r\n" + kKeyLine + "\"saved_0\"=hex:100\r\n", "saved_0"},
-        {"cut short", "REGEDIT4\r\n" + kKeyLine + "\"saved_1\"=hex:01,02,\\\r\n", "saved_1"},
-        {"a string value", "REGEDIT4\r\n" + kKeyLine + "\"saved_0\"=\"06\"\r\n", "not binary data"},
-        {"a number value", "REGEDIT4\r\n" + kKeyLine + "\"saved_0\"=dword:00000006\r\n", "not binary data"},
-        {"garbage in the key", "REGEDIT4\r\n" + kKeyLine + "saved_0=hex:06\r\n", "line 3"},
-        {"unclosed name", "REGEDIT4\r\n" + kKeyLine + "\"saved_0=hex:06\r\n", "line 3"},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        const RegistryExport parsed = ParseRegistryExport(c.file);
-        EXPECT_FALSE(parsed.values);
-        EXPECT_NE(parsed.error.find(c.reason), std::string::npos) << parsed.error;
-        EXPECT_EQ(parsed.error.find('\n'), std::string::npos);
-    }
     // Garbage under other keys is not our business.
     EXPECT_TRUE(ParseRegistryExport("REGEDIT4\r\n[HKEY_LOCAL_MACHINE\\X]\r\nwhatever\r\n" + kKeyLine).values);
 }
 
-TEST(LegacyPreferences, EachUpgradeStep) {
-    struct Case {
-        const char* name;
-        LegacyPreferences in;
-        LegacyPreferences out;
+TEST(RegistryExport, MalformedFilesSayWhy) {
+    const std::pair<std::string, std::string> cases[] = {  // the file, a part of the one-line reason
+        {"", "not a registry export"},
+        {"REGEDIT5\r\n" + kKeyLine, "not a registry export"},
+        {"hello\n", "not a registry export"},
+        {Utf16("REGEDIT4\r\n") + "x", "UTF-16"},
+        {kHeadAndKey + "\"saved_0\"=hex:01,zz\r\n", "line 3"},
+        {kHeadAndKey + "\"saved_0\"=hex:100\r\n", "saved_0"},
+        {kHeadAndKey + "\"saved_1\"=hex:01,02,\\\r\n", "saved_1"},
+        {kHeadAndKey + "\"saved_0\"=\"06\"\r\n", "not binary data"},
+        {kHeadAndKey + "\"saved_0\"=dword:00000006\r\n", "not binary data"},
+        {kHeadAndKey + "saved_0=hex:06\r\n", "line 3"},
+        {kHeadAndKey + "\"saved_0=hex:06\r\n", "line 3"},
     };
-    const Case cases[] = {
-        {"1 to 2, Precedence bit set", {1, 0x2001, 9, 0x0020, 0x00F0}, {2, 0x0001, 9, 0x0050, 0x00C4}},
-        {"1 to 2, bit clear", {1, 0x0001, 9, 0x0001, 0x00F0}, {2, 0x0001, 9, 0x0051, 0x00F0}},
-        {"2 to 3", {2, 0x0000, 9, 0xFFFF, 0x0024}, {3, 0x4000, 4, 0xFFDF, 0x2664}},
-        {"3 to 4", {3, 0x1001, 9, 0x1234, 0xCC3F}, {4, 0x0001, 9, 0x1234, 0xD407}},
-        {"4 to 5", {4, 0x1234, 9, 0x5678, 0x9ABC}, {5, 0x1234, 9, 0x5678, 0x9ABC}},
-        {"5 to 6", {5, 0x0000, 9, 0x1CDF, 0xC0FF}, {6, 0x0000, 9, 0x0051, 0xDC5F}},
-        {"6 stays", {6, 0x1234, 9, 0x5678, 0x9ABC}, {6, 0x1234, 9, 0x5678, 0x9ABC}},
-        {"0 stays", {0, 0x1234, 9, 0x5678, 0x9ABC}, {0, 0x1234, 9, 0x5678, 0x9ABC}},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        const LegacyPreferences p = UpgradeLegacyPreferencesStep(c.in);
-        EXPECT_EQ(p.version, c.out.version);
-        EXPECT_EQ(p.a, c.out.a);
-        EXPECT_EQ(p.depth, c.out.depth);
-        EXPECT_EQ(p.b, c.out.b);
-        EXPECT_EQ(p.c, c.out.c);
+    for (const auto& [file, reason] : cases) {
+        SCOPED_TRACE(file);
+        const RegistryExport parsed = ParseRegistryExport(file);
+        EXPECT_FALSE(parsed.values);
+        EXPECT_NE(parsed.error.find(reason), std::string::npos) << parsed.error;
+        EXPECT_EQ(parsed.error.find('\n'), std::string::npos);
     }
 }
 
-TEST(LegacyPreferences, VersionOneWithPrecedenceGetsTapFieldsOfThreeThenRebuiltFromB) {
-    LegacyPreferences p{1, 0x2000, 7, 0x1C8E, 0x0000};
-    for (int step = 1; step <= 3; ++step) p = UpgradeLegacyPreferencesStep(p);
-    // 1 from the first step, copied to all three fields, then each raised by 2.
-    EXPECT_EQ((p.c >> 2) & 0xF, 3);
-    EXPECT_EQ((p.c >> 6) & 0xF, 3);
-    EXPECT_EQ((p.c >> 10) & 0xF, 3);
-    p = UpgradeLegacyPreferencesStep(UpgradeLegacyPreferencesStep(p));
-    EXPECT_EQ(p.version, 6);
-    EXPECT_EQ(p.c, 0x1C5C);  // bits 2..12 now come from B = 0x1CDF
-    EXPECT_EQ(p.b, 0x0051);
+TEST(LegacyPreferences, EachUpgradeStep) {
+    using Fields = std::array<unsigned, 5>;  // version, A, depth, B, C
+    const std::pair<Fields, Fields> cases[] = {
+        {{1, 0x2001, 9, 0x0020, 0x00F0}, {2, 0x0001, 9, 0x0050, 0x00C4}},  // Precedence bit set
+        {{1, 0x0001, 9, 0x0001, 0x00F0}, {2, 0x0001, 9, 0x0051, 0x00F0}},
+        {{2, 0x0000, 9, 0xFFFF, 0x0024}, {3, 0x4000, 4, 0xFFDF, 0x2664}},
+        {{3, 0x1001, 9, 0x1234, 0xCC3F}, {4, 0x0001, 9, 0x1234, 0xD407}},
+        {{4, 0x1234, 9, 0x5678, 0x9ABC}, {5, 0x1234, 9, 0x5678, 0x9ABC}},
+        {{5, 0x0000, 9, 0x1CDF, 0xC0FF}, {6, 0x0000, 9, 0x0051, 0xDC5F}},
+        {{6, 0x1234, 9, 0x5678, 0x9ABC}, {6, 0x1234, 9, 0x5678, 0x9ABC}},
+        {{0, 0x1234, 9, 0x5678, 0x9ABC}, {0, 0x1234, 9, 0x5678, 0x9ABC}},
+    };
+    for (const auto& [in, out] : cases) {
+        SCOPED_TRACE(testing::Message() << "version " << in[0] << ", A " << in[1]);
+        const LegacyPreferences p = UpgradeLegacyPreferencesStep(
+            {static_cast<u16>(in[0]), static_cast<u16>(in[1]), static_cast<u8>(in[2]), static_cast<u16>(in[3]),
+             static_cast<u16>(in[4])});
+        EXPECT_EQ((Fields{p.version, p.a, p.depth, p.b, p.c}), out);
+    }
 }
 
-TEST(LegacyPreferences, VersionSixIsPackedWithoutAnyUpgrade) {
-    Bytes saved(20, 0);
-    Put<u16>(saved, 0, 6);
-    Put<u16>(saved, 2, 0x403F);  // RPN, comma radix, sticky shift, format and digits 7, quick switch
-    saved[4] = 12;
-    Put<u16>(saved, 12, 0x8031);  // long date, 100 registers, integer format 3
-    Put<u16>(saved, 14, 0x2548);  // tap fields 2, 5, 9
-    const Preferences p = ConvertLegacyPreferences(saved);
-    const std::array<u16, 7> expected = {7, 0, 0x1DB1, 0x000B, 0x4945, 0, 0x0001};
-    EXPECT_EQ(p.words, expected);
-    EXPECT_EQ(p.Method(), InputMethod::Rpn);
-    EXPECT_EQ(p.StackDepth(), 12);
-    EXPECT_EQ(p.IntegerFormat(), 3);
-    EXPECT_TRUE(p.LongDate() && p.HundredRegisters() && p.CommaRadix() && p.QuickSwitch());
-    EXPECT_EQ(p.Shift(), ShiftMode::Sticky);
-}
-
-TEST(LegacyPreferences, VersionOneRunsEveryStep) {
-    Bytes saved(160, 0);
-    Put<u16>(saved, 0, 1);
-    Put<u16>(saved, 2, 0x2000);
-    const std::array<u16, 7> expected = {7, 0, 0x0290, 0x0002, 0x0001, 0, 0};
-    EXPECT_EQ(ConvertLegacyPreferences(saved).words, expected);
-}
-
-TEST(LegacyPreferences, WithoutAVersionWordNothingIsUpgraded) {
-    // One byte of value 1 would read as version 1; with less than two bytes no step runs.
-    const std::array<u16, 7> expected = {7, 0, 0, 0, 0, 0, 0};
-    EXPECT_EQ(ConvertLegacyPreferences(Bytes{1}).words, expected);
-    EXPECT_EQ(ConvertLegacyPreferences(Bytes{}).words, expected);
+TEST(LegacyPreferences, ConvertedRecords) {
+    Bytes six(20, 0);
+    Put<u16>(six, 0, 6);
+    Put<u16>(six, 2, 0x403F);  // RPN, comma radix, sticky shift, format and digits 7, quick switch
+    six[4] = 12;
+    Put<u16>(six, 12, 0x8031);  // long date, 100 registers, integer format 3
+    Put<u16>(six, 14, 0x2548);  // tap fields 2, 5, 9
+    Bytes one(160, 0);          // every upgrade step runs
+    Put<u16>(one, 0, 1);
+    Put<u16>(one, 2, 0x2000);
+    const std::tuple<const char*, Bytes, Words> cases[] = {
+        {"version 6, packed as it is", six, {7, 0, 0x1DB1, 0x000B, 0x4945, 0, 0x0001}},
+        {"version 1", one, {7, 0, 0x0290, 0x0002, 0x0001, 0, 0}},
+        // One byte of value 1 would read as version 1; with less than two bytes no step runs.
+        {"one byte", {1}, {7, 0, 0, 0, 0, 0, 0}},
+        {"no bytes", {}, {7, 0, 0, 0, 0, 0, 0}},
+    };
+    for (const auto& [name, saved, words] : cases) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(ConvertLegacyPreferences(saved).words, words);
+    }
 }
 
 Bytes OldRegisters(u16 version, std::size_t size) {
@@ -239,9 +184,14 @@ TEST(LegacyRegisters, OldLayoutsAreRearranged) {
         // The statistics start afresh; the date group was never saved in these layouts.
         for (int r = reg::SumX; r < kRegisterCount; ++r) EXPECT_EQ(bank.values[r], 0.0) << r;
     }
-}
+    // A short old record is zero-filled first.
+    const RegisterBank shortBank = ConvertLegacyRegisters(OldRegisters(3, 960));
+    EXPECT_EQ(shortBank.values[100], 100.25);
+    EXPECT_EQ(shortBank.values[115], 0.0);
+    EXPECT_EQ(shortBank.tags[0], 1000);  // old offset 952..959 still inside
+    EXPECT_EQ(shortBank.tags[4], 0);
 
-TEST(LegacyRegisters, OtherVersionsAreTakenAsTheyAre) {
+    // Other versions are taken as they are.
     Bytes image(1616, 0);
     Put<u16>(image, 0, 5);
     Put<double>(image, 624 + 8 * 123, 29.97);
@@ -252,14 +202,6 @@ TEST(LegacyRegisters, OtherVersionsAreTakenAsTheyAre) {
     EXPECT_EQ(bank.tags[0], 1419);
 }
 
-TEST(LegacyRegisters, AShortOldRecordIsZeroFilledFirst) {
-    const RegisterBank bank = ConvertLegacyRegisters(OldRegisters(3, 960));
-    EXPECT_EQ(bank.values[115], 0.0);
-    EXPECT_EQ(bank.values[100], 100.25);
-    EXPECT_EQ(bank.tags[0], 1000);  // old offset 952..959 still inside
-    EXPECT_EQ(bank.tags[4], 0);
-}
-
 TEST(LegacyUserKeysAndMacro, Conversions) {
     Bytes keys(96, 0);
     for (int i = 0; i < 24; ++i) Put<u32>(keys, 4 * i, static_cast<u32>(60 + i));
@@ -267,29 +209,24 @@ TEST(LegacyUserKeysAndMacro, Conversions) {
     keys.pop_back();
     for (const u32 k : ConvertLegacyUserKeys(keys).keys) EXPECT_EQ(k, kNoKey);
 
-    struct Case {
-        const char* name;
-        Bytes saved;
-        u16 length;
-    };
     Bytes three(16, 0);
     Put<u16>(three, 0, 3);
     for (int i = 0; i < 3; ++i) Put<u32>(three, 4 + 4 * i, static_cast<u32>(21 + i));
+    EXPECT_EQ(ConvertLegacyMacro(three).macroKeys[2], 23u);
     Bytes tooMany(256, 0);
     Put<u16>(tooMany, 0, 100);
-    const Case cases[] = {
+    const std::tuple<const char*, Bytes, u16> cases[] = {
         {"three keys", three, 3},
         {"count only", {3, 0}, 0},
         {"empty count", {0, 0, 5, 0}, 0},
         {"more than fit", tooMany, 63},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        const MacroRecord macro = ConvertLegacyMacro(c.saved);
+    for (const auto& [name, saved, length] : cases) {
+        SCOPED_TRACE(name);
+        const MacroRecord macro = ConvertLegacyMacro(saved);
         EXPECT_EQ(macro.macroVersion, kMacroVersion);
-        EXPECT_EQ(macro.macroLength, c.length);
+        EXPECT_EQ(macro.macroLength, length);
     }
-    EXPECT_EQ(ConvertLegacyMacro(three).macroKeys[2], 23u);
 }
 
 std::string LegacyFile() {
@@ -302,7 +239,7 @@ std::string LegacyFile() {
     Put<double>(registers, 624 + 8 * 12, 3.5);
     Bytes keys(96, 0xFF);
     Put<u32>(keys, 0, 61);
-    Bytes macro = {2, 0, 0, 0, 7, 0, 0, 0, 21, 0, 0, 0};
+    const Bytes macro = {2, 0, 0, 0, 7, 0, 0, 0, 21, 0, 0, 0};
     return Utf16("Windows Registry Editor Version 5.00\r\n\r\n" + kKeyLine + HexValue("saved_0", prefs) +
                  HexValue("saved_1", registers) + HexValue("saved_3", keys) + HexValue("saved_4", macro));
 }
@@ -317,50 +254,42 @@ void ExpectImported(const Engine& e, const UserKeyMap& keys) {
     EXPECT_EQ(e.macro.macroKeys[1], 21u);
 }
 
-TEST(LegacyImport, AnExportFileBecomesTheRecords) {
-    TempFolder folder;
-    test::WriteFile(folder / "Brinto.reg", LegacyFile());
-    RecordStore store;
-    ASSERT_EQ(store.Open(folder / "b.db"), OpenResult::Opened);
-    const LegacyImport outcome = ImportLegacyFile(store, folder / "Brinto.reg");
-    ASSERT_TRUE(outcome.imported) << outcome.reason;
-    EXPECT_EQ(store.CountRecords(), 4);  // CalcState is not part of the old release's export
-    Engine e;
-    UserKeyMap keys{};
-    EXPECT_TRUE(LoadState(e, keys, store));
-    ExpectImported(e, keys);
-    EXPECT_FALSE(e.dirty.preferences || e.dirty.registers || e.dirty.userKeys || e.dirty.macro);
-}
-
-TEST(LegacyImport, NothingIsImportedWithoutThePreferences) {
+TEST(LegacyImport, AnExportFileBecomesTheRecordsOrNothingAtAll) {
     TempFolder folder;
     struct Case {
         const char* name;
-        std::string file;
-        std::string reason;
+        std::string file;  // empty: no file at all
+        std::string reason;  // empty: imported
     };
     const Case cases[] = {
+        {"an export", LegacyFile(), ""},
+        {"no file", "", "cannot read"},
         {"no key", "REGEDIT4\r\n", "has no [HKEY_CURRENT_USER\\Software\\ZEB\\Brinto] key"},
-        {"no saved_0", "REGEDIT4\r\n" + kKeyLine + HexValue("saved_1", {7, 0}), "has no \"saved_0\""},
-        {"saved_0 too long", "REGEDIT4\r\n" + kKeyLine + HexValue("saved_0", Bytes(161, 0)), "longer than 160"},
-        {"malformed", "REGEDIT4\r\n" + kKeyLine + "\"saved_0\"=hex:0g\r\n", "line 3"},
+        {"no saved_0", kHeadAndKey + HexValue("saved_1", {7, 0}), "has no \"saved_0\""},
+        {"saved_0 too long", kHeadAndKey + HexValue("saved_0", Bytes(161, 0)), "longer than 160"},
+        {"malformed", kHeadAndKey + HexValue("saved_1", {7, 0}) + "\"saved_0\"=hex:0g\r\n", "line 4"},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
-        test::WriteFile(folder / "in.reg", c.file);
+        const auto file = folder / c.name;
+        if (!c.file.empty()) test::WriteFile(file, c.file);
         RecordStore store;
         ASSERT_EQ(store.Open(std::string(RecordStore::kInMemory)), OpenResult::Opened);
-        const LegacyImport outcome = ImportLegacyFile(store, folder / "in.reg");
-        EXPECT_FALSE(outcome.imported);
+        const LegacyImport outcome = ImportLegacyFile(store, file);
+        EXPECT_EQ(outcome.imported, c.reason.empty());
         EXPECT_NE(outcome.reason.find(c.reason), std::string::npos) << outcome.reason;
-        EXPECT_EQ(store.CountRecords(), 0);
+        // The export has no CalcState: the old release kept none.
+        EXPECT_EQ(store.CountRecords(), c.reason.empty() ? 4 : 0);
+        Engine e;
+        UserKeyMap keys{};
+        EXPECT_EQ(LoadState(e, keys, store), c.reason.empty());
+        if (!c.reason.empty()) continue;
+        ExpectImported(e, keys);
+        EXPECT_FALSE(e.dirty.preferences || e.dirty.registers || e.dirty.userKeys || e.dirty.macro);
     }
-    RecordStore store;
-    ASSERT_EQ(store.Open(std::string(RecordStore::kInMemory)), OpenResult::Opened);
-    EXPECT_NE(ImportLegacyFile(store, folder / "missing.reg").reason.find("cannot read"), std::string::npos);
 }
 
-class RecordingHost : public Host {
+class NoHost : public Host {
 public:
     void ShowMessage(std::string_view, std::string_view) override {}
     bool Confirm(std::string_view, std::string_view) override { return true; }
@@ -379,7 +308,7 @@ TEST(LegacyImport, AFirstRunLooksForTheExportBesideTheSettings) {
     const Case cases[] = {
         {"an export", LegacyFile(), true, false},
         {"no export", "", false, false},
-        {"a broken export", "REGEDIT4\r\n" + kKeyLine + "\"saved_0\"=hex:0g\r\n", false, true},
+        {"a broken export", kHeadAndKey + "\"saved_0\"=hex:0g\r\n", false, true},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
@@ -387,7 +316,7 @@ TEST(LegacyImport, AFirstRunLooksForTheExportBesideTheSettings) {
         std::filesystem::remove(legacy);
         if (!c.file.empty()) test::WriteFile(legacy, c.file);
         Engine e;
-        RecordingHost host;
+        NoHost host;
         Session session(e, host);
         RecordStore store;
         ASSERT_EQ(store.Open(std::string(RecordStore::kInMemory)), OpenResult::Opened);

@@ -10,89 +10,76 @@ namespace {
 
 TEST(Preferences, DefaultsAreTheFreshRecord) {
     const Preferences p = DefaultPreferences();
-    const std::array<u16, 7> expected = {7, 0, 0x0290, 0x0002, 0, 0, 0};
-    EXPECT_EQ(p.words, expected);
+    EXPECT_EQ(p.words, (std::array<u16, 7>{7, 0, 0x0290, 0x0002, 0, 0, 0}));
     EXPECT_EQ(p.Method(), InputMethod::Simple);
     EXPECT_EQ(p.StackDepth(), 4);
     EXPECT_EQ(p.IntegerFormat(), 5);  // "32-bit signed"
     EXPECT_EQ(p.Format(), NumberFormat::Standard);
-    EXPECT_EQ(p.DigitField(), 0);
     EXPECT_TRUE(p.HundredRegisters());
 }
 
 // Each writer changes its own bits and nothing else: set to its largest value on a zeroed record
 // it fills exactly its mask; set to zero on a record of ones it clears exactly its mask.
 TEST(Preferences, EveryFieldOwnsExactlyItsBits) {
-    struct Case {
-        const char* name;
-        int word;
-        u16 mask;
-        std::function<void(Preferences&, bool)> set;  // true: the largest value
+    using Set = std::function<void(Preferences&, bool)>;  // true: the largest value
+    const auto field = [](auto setter, int largest) -> Set {
+        return [=](Preferences& p, bool m) { (p.*setter)(m ? largest : 0); };
     };
-    const Case cases[] = {
-        {"theme", 1, 0xFFFF, [](Preferences& p, bool m) { p.SetTheme(m ? 0xFFFF : 0); }},
-        {"stack depth", 2, 0x007C, [](Preferences& p, bool m) { p.SetStackDepth(m ? 31 : 0); }},
-        {"integer format", 2, 0x0380, [](Preferences& p, bool m) { p.SetIntegerFormat(m ? 7 : 0); }},
+    const auto flag = [](auto setter) -> Set { return [=](Preferences& p, bool m) { (p.*setter)(m); }; };
+    const std::tuple<const char*, int, u16, Set> cases[] = {
+        {"theme", 1, 0xFFFF, field(&Preferences::SetTheme, 0xFFFF)},
+        {"stack depth", 2, 0x007C, field(&Preferences::SetStackDepth, 31)},
+        {"integer format", 2, 0x0380, field(&Preferences::SetIntegerFormat, 7)},
         {"number format", 2, 0x0C00,
          [](Preferences& p, bool m) { p.SetFormat(m ? NumberFormat::Fixed : NumberFormat::Standard); }},
-        {"digits", 2, 0xF000, [](Preferences& p, bool m) { p.SetDigitField(m ? 15 : 0); }},
-        {"long date", 3, 0x0001, [](Preferences& p, bool m) { p.SetLongDate(m); }},
-        {"100 registers", 3, 0x0002, [](Preferences& p, bool m) { p.SetHundredRegisters(m); }},
-        {"backspace drops", 3, 0x0004, [](Preferences& p, bool m) { p.SetBackspaceDrops(m); }},
-        {"display font", 3, 0x00E0, [](Preferences& p, bool m) { p.SetDisplayFont(m ? 7 : 0); }},
-        {"display lines", 3, 0x0700, [](Preferences& p, bool m) { p.SetDisplayLines(m ? 7 : 0); }},
-        {"basic also", 3, 0x0800, [](Preferences& p, bool m) { p.SetBasicAlso(m); }},
-        {"border", 3, 0x3000, [](Preferences& p, bool m) { p.SetBorder(m ? 3 : 0); }},
-        {"keyboard show", 3, 0xC000, [](Preferences& p, bool m) { p.SetKeyboardShow(m ? 3 : 0); }},
-        {"quick switch", 4, 0x0001, [](Preferences& p, bool m) { p.SetQuickSwitch(m); }},
-        {"key colour", 5, 0x0003, [](Preferences& p, bool m) { p.SetKeyColor(m ? 3 : 0); }},
-        {"active key", 5, 0x000C, [](Preferences& p, bool m) { p.SetActiveKey(m ? 3 : 0); }},
-        {"key labels", 5, 0x0030, [](Preferences& p, bool m) { p.SetKeyLabels(m ? 3 : 0); }},
-        {"key size", 5, 0x00C0, [](Preferences& p, bool m) { p.SetKeySize(m ? 3 : 0); }},
-        {"key shadow", 5, 0x0700, [](Preferences& p, bool m) { p.SetKeyShadow(m ? 7 : 0); }},
+        {"digits", 2, 0xF000, field(&Preferences::SetDigitField, 15)},
+        {"long date", 3, 0x0001, flag(&Preferences::SetLongDate)},
+        {"100 registers", 3, 0x0002, flag(&Preferences::SetHundredRegisters)},
+        {"backspace drops", 3, 0x0004, flag(&Preferences::SetBackspaceDrops)},
+        {"display font", 3, 0x00E0, field(&Preferences::SetDisplayFont, 7)},
+        {"display lines", 3, 0x0700, field(&Preferences::SetDisplayLines, 7)},
+        {"basic also", 3, 0x0800, flag(&Preferences::SetBasicAlso)},
+        {"border", 3, 0x3000, field(&Preferences::SetBorder, 3)},
+        {"keyboard show", 3, 0xC000, field(&Preferences::SetKeyboardShow, 3)},
+        {"quick switch", 4, 0x0001, flag(&Preferences::SetQuickSwitch)},
+        {"key colour", 5, 0x0003, field(&Preferences::SetKeyColor, 3)},
+        {"active key", 5, 0x000C, field(&Preferences::SetActiveKey, 3)},
+        {"key labels", 5, 0x0030, field(&Preferences::SetKeyLabels, 3)},
+        {"key size", 5, 0x00C0, field(&Preferences::SetKeySize, 3)},
+        {"key shadow", 5, 0x0700, field(&Preferences::SetKeyShadow, 7)},
         {"action", 5, 0x3800,
          [](Preferences& p, bool m) { p.SetAction(static_cast<ActionChoice>(m ? 7 : 0)); }},
-        {"integer user keys", 5, 0x4000, [](Preferences& p, bool m) { p.SetIntegerUserKeys(m); }},
-        {"comma radix", 6, 0x0001, [](Preferences& p, bool m) { p.SetCommaRadix(m); }},
-        {"ClearType", 6, 0x0002, [](Preferences& p, bool m) { p.SetClearType(m); }},
+        {"integer user keys", 5, 0x4000, flag(&Preferences::SetIntegerUserKeys)},
+        {"comma radix", 6, 0x0001, flag(&Preferences::SetCommaRadix)},
+        {"ClearType", 6, 0x0002, flag(&Preferences::SetClearType)},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
+    for (const auto& [name, word, mask, set] : cases) {
+        SCOPED_TRACE(name);
         Preferences zeros{};
-        c.set(zeros, true);
+        set(zeros, true);
         Preferences ones{};
         ones.words.fill(0xFFFF);
-        c.set(ones, false);
+        set(ones, false);
         for (int w = 0; w < 7; ++w) {
-            EXPECT_EQ(zeros.words[w], w == c.word ? c.mask : 0) << "word " << w;
-            EXPECT_EQ(ones.words[w], w == c.word ? static_cast<u16>(~c.mask) : 0xFFFF) << "word " << w;
+            EXPECT_EQ(zeros.words[w], w == word ? mask : 0) << "word " << w;
+            EXPECT_EQ(ones.words[w], w == word ? static_cast<u16>(~mask) : 0xFFFF) << "word " << w;
         }
     }
 }
 
-TEST(Preferences, NumberFormatIsStoredOutOfListOrder) {
-    struct Case {
-        int listIndex;
-        u16 stored;
-    };
-    // "Standard", "Fixed", "Scientific", "Engineering" are stored as 0, 3, 1, 2.
-    for (const Case c : {Case{0, 0}, Case{1, 3}, Case{2, 1}, Case{3, 2}}) {
-        SCOPED_TRACE(c.listIndex);
-        Preferences p = DefaultPreferences();
-        p.SetFormatListIndex(c.listIndex);
-        EXPECT_EQ((p.words[2] >> 10) & 3, c.stored);
-        EXPECT_EQ(p.FormatListIndex(), c.listIndex);
-    }
-}
-
-TEST(Preferences, StackDepthListChoices) {
+TEST(Preferences, ListOrderCodings) {
     Preferences p = DefaultPreferences();
-    p.SetStackDepthListIndex(4);
-    EXPECT_EQ(p.words[2] & 0x7C, 0x50);  // depth 20
-    EXPECT_EQ(p.StackDepth(), 20);
-    for (int index = 0; index < 5; ++index) {
+    // "Standard", "Fixed", "Scientific", "Engineering" are stored as 0, 3, 1, 2.
+    const std::pair<int, int> formats[] = {{0, 0}, {1, 3}, {2, 1}, {3, 2}};
+    for (const auto& [listIndex, stored] : formats) {
+        SCOPED_TRACE(listIndex);
+        p.SetFormatListIndex(listIndex);
+        EXPECT_EQ((p.words[2] >> 10) & 3, stored);
+        EXPECT_EQ(p.FormatListIndex(), listIndex);
+    }
+    for (int index = 0; index < 5; ++index) {  // depths 4, 8, ..., 20
         p.SetStackDepthListIndex(index);
-        EXPECT_EQ(p.StackDepth(), 4 * (index + 1));
+        EXPECT_EQ(p.words[2] & 0x7C, 16 * (index + 1));
         EXPECT_EQ(p.StackDepthListIndex(), index);
     }
 }

@@ -1,6 +1,6 @@
 #pragma once
 // Helpers for the store tests: a temporary folder that cleans up after itself, whole-file reads
-// and writes, and records stamped with one number so a test can tell a complete save from a mix.
+// and writes, plain SQL on a file, and a save of every record.
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
@@ -9,20 +9,17 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <optional>
 #include <string>
 #include <vector>
 
-#include "engine/engine.h"
-#include "engine/user_key_map.h"
+#include "store/state_io.h"
 
 namespace brinto::test {
 
 class TempFolder {
 public:
     TempFolder() {
-        const char* base = std::getenv("TMPDIR");
-        std::string pattern = std::string(base && *base ? base : "/tmp") + "/brinto-store-XXXXXX";
+        std::string pattern = (std::filesystem::temp_directory_path() / "brinto-store-XXXXXX").string();
         if (mkdtemp(pattern.data()) == nullptr) ADD_FAILURE() << "cannot make a temporary folder";
         m_path = pattern;
     }
@@ -36,10 +33,10 @@ public:
     const std::filesystem::path& path() const { return m_path; }
     std::filesystem::path operator/(const std::string& name) const { return m_path / name; }
     // Names of the entries in the folder, sorted.
-    std::vector<std::string> Entries(const std::filesystem::path& sub = {}) const {
+    std::vector<std::string> Entries() const {
         std::vector<std::string> names;
         std::error_code ec;
-        for (const auto& entry : std::filesystem::directory_iterator(m_path / sub, ec)) {
+        for (const auto& entry : std::filesystem::directory_iterator(m_path, ec)) {
             names.push_back(entry.path().filename().string());
         }
         std::sort(names.begin(), names.end());
@@ -59,15 +56,15 @@ inline std::string ReadFile(const std::filesystem::path& path) {
     return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
-// Runs one SQL statement on a file with plain SQLite; returns the first column of the first row.
+// Runs SQL statements on a file with plain SQLite; returns the first column of the first row.
 inline std::string Sql(const std::filesystem::path& path, const std::string& sql) {
     sqlite3* db = nullptr;
     std::string result;
     if (sqlite3_open_v2(path.c_str(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr) == SQLITE_OK) {
         sqlite3_busy_timeout(db, 2000);
         sqlite3_stmt* statement = nullptr;
-        const char* tail = sql.c_str();
-        while (*tail && sqlite3_prepare_v2(db, tail, -1, &statement, &tail) == SQLITE_OK && statement) {
+        for (const char* tail = sql.c_str();
+             *tail && sqlite3_prepare_v2(db, tail, -1, &statement, &tail) == SQLITE_OK && statement;) {
             if (sqlite3_step(statement) == SQLITE_ROW && result.empty()) {
                 const unsigned char* text = sqlite3_column_text(statement, 0);
                 result = text ? reinterpret_cast<const char*>(text) : "";
@@ -80,29 +77,10 @@ inline std::string Sql(const std::filesystem::path& path, const std::string& sql
     return result;
 }
 
-// Writes `stamp` into every record, so that a load shows whether all five came from one save.
-inline void StampRecords(Engine& e, UserKeyMap& keys, u32 stamp) {
-    e.prefs.words[1] = static_cast<u16>(stamp);
-    e.registers.values[0] = stamp;
-    e.registers.values[kRegisterCount - 1] = stamp;
-    e.macro.macroLength = static_cast<u16>(stamp % kMacroSlots);
-    e.macro.macroKeys[kMacroSlots - 1] = stamp;
-    keys.keys[0] = stamp;
-    keys.keys[23] = stamp;
-    e.state.randomSeed = stamp;
-    e.state.stack[kStackLevels - 1] = stamp;
+// Saves every record, changed or not.
+inline bool SaveAll(Engine& e, const UserKeyMap& keys, RecordStore& store) {
     e.dirty = {true, true, true, true, true};
-}
-
-// The stamp every record carries, or nothing when they disagree.
-inline std::optional<u32> StampOf(const Engine& e, const UserKeyMap& keys) {
-    const u32 stamp = e.state.randomSeed;
-    const bool same = e.prefs.words[1] == static_cast<u16>(stamp) && e.registers.values[0] == stamp &&
-                      e.registers.values[kRegisterCount - 1] == stamp &&
-                      e.macro.macroLength == stamp % kMacroSlots && e.macro.macroKeys[kMacroSlots - 1] == stamp &&
-                      keys.keys[0] == stamp && keys.keys[23] == stamp && e.state.stack[kStackLevels - 1] == stamp;
-    if (!same) return std::nullopt;
-    return stamp;
+    return SaveState(e, keys, store);
 }
 
 }  // namespace brinto::test
