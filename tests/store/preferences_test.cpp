@@ -9,13 +9,8 @@ namespace brinto {
 namespace {
 
 TEST(Preferences, DefaultsAreTheFreshRecord) {
-    const Preferences p = DefaultPreferences();
-    EXPECT_EQ(p.words, (std::array<u16, 7>{7, 0, 0x0290, 0x0002, 0, 0, 0}));
-    EXPECT_EQ(p.Method(), InputMethod::Simple);
-    EXPECT_EQ(p.StackDepth(), 4);
-    EXPECT_EQ(p.IntegerFormat(), 5);  // "32-bit signed"
-    EXPECT_EQ(p.Format(), NumberFormat::Standard);
-    EXPECT_TRUE(p.HundredRegisters());
+    // Simple input, stack depth 4, "32-bit signed", 100 registers.
+    EXPECT_EQ(DefaultPreferences().words, (std::array<u16, 7>{7, 0, 0x0290, 0x0002, 0, 0, 0}));
 }
 
 // Each writer changes its own bits and nothing else: set to its largest value on a zeroed record
@@ -105,10 +100,11 @@ TEST(Preferences, TapTargetsSkipCodeOne) {
 
 TEST(Preferences, TheFirstOfTwoContradictoryBitsWins) {
     Preferences p{};
-    p.words[2] = 3;
+    p.words[2] = 3;     // both input-method bits
+    p.words[3] = 0x18;  // both shift bits
     EXPECT_EQ(p.Method(), InputMethod::Rpn);
-    p.words[3] = 0x18;
     EXPECT_EQ(p.Shift(), ShiftMode::Sticky);
+    // Setting either clears the other bit.
     for (const InputMethod m : {InputMethod::Simple, InputMethod::Precedence, InputMethod::Rpn}) {
         p.SetMethod(m);
         EXPECT_EQ(p.Method(), m);

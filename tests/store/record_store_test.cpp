@@ -9,21 +9,17 @@ namespace {
 
 using test::Sql;
 
-class RecordStoreTest : public ::testing::Test {
+class RecordStoreTest : public test::StoreFileTest {
 protected:
-    void SetUp() override { ASSERT_EQ(store.Open(path), OpenResult::Opened); }
-    // The payload as text, or "<none>".
-    std::string Read(u32 recordKind, std::size_t capacity = 16) {
+    // The payload found by kind and index, or by name when one is given; "<none>" when none is.
+    std::string Read(u32 recordKind, u16 index = 0, std::u16string_view name = {}, std::size_t capacity = 16) {
         std::string buffer(capacity, '\0');
         std::size_t size = capacity;
-        if (!store.ReadRecord(recordKind, buffer.data(), size)) return "<none>";
+        const bool found = name.empty() ? store.ReadRecord(recordKind, buffer.data(), size, index)
+                                        : store.ReadRecord(recordKind, buffer.data(), size, name);
         buffer.resize(size);
-        return buffer;
+        return found ? buffer : "<none>";
     }
-
-    test::TempFolder folder;
-    std::filesystem::path path = folder / "b.db";
-    RecordStore store;
 };
 
 TEST_F(RecordStoreTest, RowsAndHeadersOnDisk) {
@@ -31,7 +27,7 @@ TEST_F(RecordStoreTest, RowsAndHeadersOnDisk) {
     ASSERT_TRUE(store.WriteRecord(9, "x", 1, u"Ab"));
     for (u32 k : {1u, 2u, 0u}) ASSERT_TRUE(store.WriteRecord(k, "p", 1));
     store.Close();
-    EXPECT_EQ(folder.Entries(), std::vector<std::string>{"b.db"});  // nothing temporary left behind
+    EXPECT_EQ(folder.Entries(), std::vector<std::string>{"brinto.db"});  // nothing temporary left behind
     // size 80, format 1, reserved 0, kind, index, then the UTF-16 name and zeros to 80 bytes.
     EXPECT_EQ(Sql(path, "SELECT hex(header) FROM BrintoState WHERE CAST(payload AS TEXT) = 'abc'"),
               "500001000000000007000000" "0C00" + std::string(132, '0'));
@@ -50,44 +46,26 @@ TEST_F(RecordStoreTest, FindingMatchesKindIndexAndNameExactly) {
     ASSERT_TRUE(store.WriteRecord(2, "longest", 7, longest));
     ASSERT_TRUE(store.WriteRecord(3, "kind3", 5));
     EXPECT_FALSE(store.WriteRecord(2, "b", 1, longest + u'n'));  // more than the header holds
-    struct Case {
-        const char* name;
-        u32 kind;
-        u16 index;
-        std::u16string recordName;  // empty: find by index
-        std::string expected;
-    };
-    const Case cases[] = {
-        {"index 0", 2, 0, u"", "index0"},
-        {"index 1", 2, 1, u"", "index1"},
-        {"no index 2", 2, 2, u"", "<none>"},
-        {"other kind", 3, 0, u"", "kind3"},
-        {"missing kind", 4, 0, u"", "<none>"},
-        {"by name", 2, 0, u"Name", "named"},
-        {"name is case-sensitive", 2, 0, u"name", "<none>"},
-        {"a prefix is not the name", 2, 0, u"Nam", "<none>"},
-        {"the longest name", 2, 0, longest, "longest"},
-        {"a name too long", 2, 0, longest + u'n', "<none>"},
-        // A named record has index 65535 but a name: an unnamed search never finds it.
-        {"named record needs its name", 2, kNamedIndex, u"", "<none>"},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        std::string buffer(16, '\0');
-        std::size_t size = buffer.size();
-        const bool found = c.recordName.empty() ? store.ReadRecord(c.kind, buffer.data(), size, c.index)
-                                                : store.ReadRecord(c.kind, buffer.data(), size, c.recordName);
-        buffer.resize(size);
-        EXPECT_EQ(found ? buffer : "<none>", c.expected);
-    }
+    EXPECT_EQ(Read(2), "index0");
+    EXPECT_EQ(Read(2, 1), "index1");
+    EXPECT_EQ(Read(2, 2), "<none>");
+    EXPECT_EQ(Read(3), "kind3");
+    EXPECT_EQ(Read(4), "<none>");
+    EXPECT_EQ(Read(2, 0, u"Name"), "named");
+    EXPECT_EQ(Read(2, 0, u"name"), "<none>");  // names are case-sensitive
+    EXPECT_EQ(Read(2, 0, u"Nam"), "<none>");
+    EXPECT_EQ(Read(2, 0, longest), "longest");
+    EXPECT_EQ(Read(2, 0, longest + u'n'), "<none>");
+    // A named record has index 65535 but a name: an unnamed search never finds it.
+    EXPECT_EQ(Read(2, kNamedIndex), "<none>");
 }
 
 TEST_F(RecordStoreTest, ReadsDeliverAtMostTheBufferAndWritesReplace) {
     for (const std::size_t size : {12u, 11u, 10u}) ASSERT_TRUE(store.WriteRecord(4, "0123456789xy", size));
     ASSERT_TRUE(store.WriteRecord(5, "", 0));
     EXPECT_EQ(store.CountRecords(), 2);
-    EXPECT_EQ(Read(4, 4), "0123");
-    EXPECT_EQ(Read(4, 64), "0123456789");
+    EXPECT_EQ(Read(4, 0, {}, 4), "0123");
+    EXPECT_EQ(Read(4, 0, {}, 64), "0123456789");
     EXPECT_EQ(Read(5), "");  // found, empty
 
     char untouched[4] = {'z', 'z', 'z', 'z'};
@@ -95,13 +73,6 @@ TEST_F(RecordStoreTest, ReadsDeliverAtMostTheBufferAndWritesReplace) {
     EXPECT_FALSE(store.ReadRecord(6, untouched, size));
     EXPECT_EQ(size, 0u);
     EXPECT_EQ(std::string(untouched, 4), "zzzz");
-
-    store.Close();  // a closed store finds nothing and writes nothing
-    size = sizeof untouched;
-    EXPECT_FALSE(store.ReadRecord(4, untouched, size));
-    EXPECT_EQ(size, 0u);
-    EXPECT_FALSE(store.WriteRecord(4, "a", 1));
-    EXPECT_FALSE(StoreTransaction(store, StoreTransaction::Kind::Write).Started());
 }
 
 TEST_F(RecordStoreTest, FirstMatchInInsertionOrderWins) {

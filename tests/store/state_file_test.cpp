@@ -30,30 +30,20 @@ std::string RandomBytes(std::size_t n, unsigned seed) {
     return bytes;
 }
 
-// A database file made by `make` at a scratch path, as bytes.
-template <class Make>
-std::string DatabaseBytes(const TempFolder& folder, Make make) {
-    const auto path = folder / "made.db";
-    make(path);
-    std::string bytes = ReadFile(path);
-    std::filesystem::remove(path);
-    return bytes;
+// Writes `stamp` into every record, so that a load shows whether all five came from one save.
+void StampRecords(Engine& e, UserKeyMap& keys, u32 stamp) {
+    e.prefs.words[1] = static_cast<u16>(stamp);
+    e.registers.values[kRegisterCount - 1] = stamp;
+    e.macro.macroKeys[kMacroSlots - 1] = keys.keys[23] = e.state.randomSeed = stamp;
 }
 
-std::string SavedDatabase(const TempFolder& folder) {
-    return DatabaseBytes(folder, [](const std::filesystem::path& path) {
-        RecordStore store;
-        EXPECT_EQ(store.Open(path), OpenResult::Opened);
-        Engine e;
-        test::SaveAll(e, EmptyUserKeyMap(), store);
-    });
-}
-
-// A database made with plain SQLite; `ours` gives it the application id of our files.
-std::string MadeDatabase(const TempFolder& folder, const std::string& sql, bool ours = true) {
-    return DatabaseBytes(folder, [&](const std::filesystem::path& path) {
-        Sql(path, (ours ? "PRAGMA application_id=1114795636;" : "") + sql);
-    });
+void SaveStamped(const std::filesystem::path& path, u32 stamp) {
+    RecordStore store;
+    ASSERT_EQ(store.Open(path), OpenResult::Opened);
+    Engine e;
+    UserKeyMap keys{};
+    StampRecords(e, keys, stamp);
+    ASSERT_TRUE(test::SaveAll(e, keys, store));
 }
 
 std::vector<std::string> AsideNames(const TempFolder& folder) {
@@ -64,41 +54,40 @@ std::vector<std::string> AsideNames(const TempFolder& folder) {
 
 TEST(DamagedFile, IsKeptAsideAndTheProgramStartsOnDefaults) {
     TempFolder folder;
-    const std::string saved = SavedDatabase(folder);
+    SaveStamped(folder / "saved.db", 1);
+    const std::string saved = ReadFile(folder / "saved.db");
+    const std::string ours = "PRAGMA application_id=1114795636;";
     const std::string tables = "CREATE TABLE BrintoConfig(id INTEGER PRIMARY KEY, header BLOB, payload BLOB);"
                                "CREATE TABLE BrintoState(id INTEGER PRIMARY KEY, header BLOB, payload BLOB);";
     const std::string header2 = "X'500001000000000002000000" + std::string(136, '0') + "'";
-    struct Case {
-        const char* name;
-        std::string bytes;
+    const std::tuple<const char*, std::string, std::string> cases[] = {  // name, bytes, or SQL that makes it
+        {"zero length", "", ""},
+        {"truncated inside the header", saved.substr(0, 60), ""},
+        {"truncated mid-page", saved.substr(0, saved.size() - 3000), ""},
+        {"random bytes", RandomBytes(10000, 1), ""},
+        {"random bytes after the SQLite mark", std::string("SQLite format 3", 16) + RandomBytes(8176, 2), ""},
+        {"a page overwritten", saved.substr(0, 4096) + RandomBytes(saved.size() - 4096, 3), ""},
+        {"foreign database", "", "CREATE TABLE notes(t TEXT); INSERT INTO notes VALUES('x');"},
+        {"foreign database with our table names", "", tables},
+        {"our mark without the tables", "", ours + "CREATE TABLE other(x);"},
+        {"a table without the payload column", "",
+         ours + "CREATE TABLE BrintoConfig(id INTEGER PRIMARY KEY, header BLOB);"
+                "CREATE TABLE BrintoState(id INTEGER PRIMARY KEY, header BLOB, payload BLOB);"},
+        {"a short header", "", ours + tables + "INSERT INTO BrintoState VALUES(1, X'5000', X'00');"},
+        {"a text header", "", ours + tables + "INSERT INTO BrintoState VALUES(1, 'header', X'00');"},
+        {"a null payload", "", ours + tables + "INSERT INTO BrintoState VALUES(1, " + header2 + ", NULL);"},
+        {"a state record in the configuration table", "",
+         ours + tables + "INSERT INTO BrintoConfig VALUES(1, " + header2 + ", X'00');"},
+        {"a header of another format", "",
+         ours + tables + "INSERT INTO BrintoState VALUES(1, X'50000200" + std::string(152, '0') + "', X'00');"},
     };
-    const Case cases[] = {
-        {"zero length", ""},
-        {"truncated inside the header", saved.substr(0, 60)},
-        {"truncated mid-page", saved.substr(0, saved.size() - 3000)},
-        {"random bytes", RandomBytes(10000, 1)},
-        {"random bytes after the SQLite mark", std::string("SQLite format 3", 16) + RandomBytes(8176, 2)},
-        {"a page overwritten", saved.substr(0, 4096) + RandomBytes(saved.size() - 4096, 3)},
-        {"foreign database", MadeDatabase(folder, "CREATE TABLE notes(t TEXT); INSERT INTO notes VALUES('x');", false)},
-        {"foreign database with our table names", MadeDatabase(folder, tables, false)},
-        {"our mark without the tables", MadeDatabase(folder, "CREATE TABLE other(x);")},
-        {"a table without the payload column",
-         MadeDatabase(folder, "CREATE TABLE BrintoConfig(id INTEGER PRIMARY KEY, header BLOB);"
-                              "CREATE TABLE BrintoState(id INTEGER PRIMARY KEY, header BLOB, payload BLOB);")},
-        {"a short header", MadeDatabase(folder, tables + "INSERT INTO BrintoState VALUES(1, X'5000', X'00');")},
-        {"a text header", MadeDatabase(folder, tables + "INSERT INTO BrintoState VALUES(1, 'header', X'00');")},
-        {"a null payload", MadeDatabase(folder, tables + "INSERT INTO BrintoState VALUES(1, " + header2 + ", NULL);")},
-        {"a state record in the configuration table",
-         MadeDatabase(folder, tables + "INSERT INTO BrintoConfig VALUES(1, " + header2 + ", X'00');")},
-        {"a header of another format",
-         MadeDatabase(folder, tables + "INSERT INTO BrintoState VALUES(1, X'50000200" + std::string(152, '0') +
-                                  "', X'00');")},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
+    for (const auto& [name, bytes, sql] : cases) {
+        SCOPED_TRACE(name);
         TempFolder home;
         const auto path = home / "brinto.db";
-        WriteFile(path, c.bytes);
+        WriteFile(path, bytes);
+        if (!sql.empty()) Sql(path, sql);  // SQLite takes an empty file for a new database
+        const std::string original = ReadFile(path);
 
         RecordStore store;
         std::string warning;
@@ -107,7 +96,7 @@ TEST(DamagedFile, IsKeptAsideAndTheProgramStartsOnDefaults) {
         EXPECT_EQ(warning.find('\n'), std::string::npos);
         const std::vector<std::string> aside = AsideNames(home);
         ASSERT_EQ(aside.size(), 1u);
-        EXPECT_TRUE(ReadFile(home / aside[0]) == c.bytes) << "the file kept aside differs";
+        EXPECT_TRUE(ReadFile(home / aside[0]) == original) << "the file kept aside differs";
 
         Engine e;
         UserKeyMap keys{};
@@ -124,70 +113,52 @@ TEST(DamagedFile, IsKeptAsideAndTheProgramStartsOnDefaults) {
 // A later damaged file never replaces one kept earlier.
 TEST(DamagedFile, EachGoesAsideWithItsJournal) {
     TempFolder home;
-    const auto path = home / "brinto.db";
-    for (const unsigned seed : {4u, 6u, 8u}) {
-        WriteFile(path, RandomBytes(5000, seed));
+    for (const unsigned seed : {4u, 6u}) {
+        WriteFile(home / "brinto.db", RandomBytes(5000, seed));
         WriteFile(home / "brinto.db-wal", RandomBytes(5000, seed + 1));
         RecordStore store;
         std::string warning;
-        ASSERT_EQ(OpenStateFile(store, path, warning), OpenResult::Opened);
+        ASSERT_EQ(OpenStateFile(store, home / "brinto.db", warning), OpenResult::Opened);
     }
-    std::set<std::string> databases;
-    std::set<std::string> journals;
+    std::set<std::string> pairs;  // each database kept aside, followed by its journal
     for (const std::string& name : AsideNames(home)) {
-        const bool journal = name.ends_with("-wal");
-        EXPECT_TRUE(journal || std::filesystem::exists(home / (name + "-wal"))) << name;
-        (journal ? journals : databases).insert(ReadFile(home / name));
+        if (!name.ends_with("-wal")) pairs.insert(ReadFile(home / name) + ReadFile(home / (name + "-wal")));
     }
-    const auto bytes = [](unsigned a, unsigned b, unsigned c) {
-        return std::set<std::string>{RandomBytes(5000, a), RandomBytes(5000, b), RandomBytes(5000, c)};
-    };
-    EXPECT_TRUE(databases == bytes(4, 6, 8));
-    EXPECT_TRUE(journals == bytes(5, 7, 9));
+    EXPECT_EQ(AsideNames(home).size(), 4u);
+    EXPECT_TRUE(pairs == (std::set<std::string>{RandomBytes(5000, 4) + RandomBytes(5000, 5),
+                                                RandomBytes(5000, 6) + RandomBytes(5000, 7)}));
 }
 
-TEST(StateFile, MissingFoldersAreCreatedAndAnImpossibleOneMeansNoSaving) {
+TEST(StateFile, AnImpossibleFolderMeansRunningWithoutSaving) {
     TempFolder home;
+    WriteFile(home / "file", "x");
     RecordStore store;
     std::string warning;
-    EXPECT_EQ(OpenStateFile(store, home / "a" / "b" / "brinto.db", warning), OpenResult::Opened);
-    EXPECT_EQ(warning, "");
-    EXPECT_TRUE(std::filesystem::is_regular_file(home / "a" / "b" / "brinto.db"));
-
-    WriteFile(home / "file", "x");
-    RecordStore none;
-    EXPECT_EQ(OpenStateFile(none, home / "file" / "brinto.db", warning), OpenResult::Unavailable);
+    EXPECT_EQ(OpenStateFile(store, home / "file" / "brinto.db", warning), OpenResult::Unavailable);
     EXPECT_NE(warning.find("nothing will be saved"), std::string::npos) << warning;
     Engine e;
     UserKeyMap keys{};
-    EXPECT_FALSE(LoadState(e, keys, none));
-    EXPECT_FALSE(test::SaveAll(e, keys, none));
+    EXPECT_FALSE(LoadState(e, keys, store));
+    EXPECT_FALSE(test::SaveAll(e, keys, store));
     // A failed save is not retried: its flags are cleared all the same.
     EXPECT_FALSE(e.dirty.preferences || e.dirty.registers || e.dirty.userKeys || e.dirty.macro || e.dirty.state);
     EXPECT_EQ(ReadFile(home / "file"), "x");
 }
 
 TEST(StateFile, LocationsFollowTheXdgVariables) {
-    struct Case {
-        const char* name;
-        const char* data;
-        const char* config;
-        std::string database;
-        std::string legacy;
-    };
     const std::string fallbackDb = "/h/.local/share/brinto/brinto.db";
     const std::string fallbackReg = "/h/.config/brinto/Brinto.reg";
-    const Case cases[] = {
-        {"set", "/d", "/c", "/d/brinto/brinto.db", "/c/brinto/Brinto.reg"},
-        {"unset", nullptr, nullptr, fallbackDb, fallbackReg},
-        {"empty", "", "", fallbackDb, fallbackReg},
-        {"relative is ignored", "rel", "rel", fallbackDb, fallbackReg},
+    const std::tuple<const char*, const char*, std::string, std::string> cases[] = {
+        {"/d", "/c", "/d/brinto/brinto.db", "/c/brinto/Brinto.reg"},
+        {nullptr, nullptr, fallbackDb, fallbackReg},
+        {"", "", fallbackDb, fallbackReg},
+        {"rel", "rel", fallbackDb, fallbackReg},  // a relative folder is ignored
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        const StateLocations where = LocationsFrom(c.data, c.config, "/h");
-        EXPECT_EQ(where.database.string(), c.database);
-        EXPECT_EQ(where.legacyFile.string(), c.legacy);
+    for (const auto& [data, config, database, legacy] : cases) {
+        SCOPED_TRACE(data ? data : "unset");
+        const StateLocations where = LocationsFrom(data, config, "/h");
+        EXPECT_EQ(where.database.string(), database);
+        EXPECT_EQ(where.legacyFile.string(), legacy);
     }
 }
 
@@ -198,40 +169,18 @@ constexpr int kKills = 120;
 constexpr int kKills = 300;
 #endif
 
-// Writes `stamp` into every record, so that a load shows whether all five came from one save.
-void StampRecords(Engine& e, UserKeyMap& keys, u32 stamp) {
-    e.prefs.words[1] = static_cast<u16>(stamp);
-    e.registers.values[0] = e.registers.values[kRegisterCount - 1] = stamp;
-    e.macro.macroLength = static_cast<u16>(stamp % kMacroSlots);
-    e.macro.macroKeys[kMacroSlots - 1] = keys.keys[0] = keys.keys[23] = stamp;
-    e.state.randomSeed = stamp;
-    e.state.stack[kStackLevels - 1] = stamp;
-}
-
-// The stamp every record carries, or nothing when they disagree.
-std::optional<u32> StampOf(const Engine& e, const UserKeyMap& keys) {
-    const u32 s = e.state.randomSeed;
-    const bool same = e.prefs.words[1] == static_cast<u16>(s) && e.registers.values[0] == s &&
-                      e.registers.values[kRegisterCount - 1] == s && e.macro.macroLength == s % kMacroSlots &&
-                      e.macro.macroKeys[kMacroSlots - 1] == s && keys.keys[0] == s && keys.keys[23] == s &&
-                      e.state.stack[kStackLevels - 1] == s;
-    return same ? std::optional<u32>(s) : std::nullopt;
-}
-
-// Opens the file and loads it the way the program does at start-up.
-struct Loaded {
-    bool opened;
-    int records;
-    std::optional<u32> stamp;
-};
-
-Loaded LoadFile(const std::filesystem::path& path) {
+// Loads the file the way the program does at start-up: the stamp every record carries, or nothing
+// when they disagree.
+std::optional<u32> LoadedStamp(const std::filesystem::path& path) {
     RecordStore store;
-    const bool opened = store.Open(path) == OpenResult::Opened;
+    EXPECT_EQ(store.Open(path), OpenResult::Opened);
     Engine e;
     UserKeyMap keys{};
     LoadState(e, keys, store);
-    return {opened, store.CountRecords(), StampOf(e, keys)};
+    const u32 s = e.state.randomSeed;
+    const bool same = e.prefs.words[1] == static_cast<u16>(s) && e.registers.values[kRegisterCount - 1] == s &&
+                      e.macro.macroKeys[kMacroSlots - 1] == s && keys.keys[23] == s;
+    return same ? std::optional<u32>(s) : std::nullopt;
 }
 
 // The child's work: load, then save ever newer stamps until killed (or `saves` are done),
@@ -256,15 +205,7 @@ Loaded LoadFile(const std::filesystem::path& path) {
 TEST(CrashSafety, AKilledSaveLeavesTheLastCompleteOne) {
     TempFolder folder;
     const auto path = folder / "brinto.db";
-    {
-        // Start from a complete save with stamp 1, so every later load has something to show.
-        RecordStore store;
-        ASSERT_EQ(store.Open(path), OpenResult::Opened);
-        Engine e;
-        UserKeyMap keys{};
-        StampRecords(e, keys, 1);
-        ASSERT_TRUE(test::SaveAll(e, keys, store));
-    }
+    SaveStamped(path, 1);  // every later load has a complete save to show
     std::mt19937 random(20240611);
     u32 committed = 1;
     u32 next = 2;
@@ -301,15 +242,14 @@ TEST(CrashSafety, AKilledSaveLeavesTheLastCompleteOne) {
         close(fds[0]);
 
         ASSERT_EQ(Sql(path, "PRAGMA integrity_check"), "ok");
-        const Loaded loaded = LoadFile(path);
-        ASSERT_TRUE(loaded.opened);
-        ASSERT_TRUE(loaded.stamp) << "the records come from different saves";
+        const std::optional<u32> loaded = LoadedStamp(path);
+        ASSERT_TRUE(loaded) << "the records come from different saves";
         // Every save the child reported is in the file; at most the one after it may be too.
         const u32 complete = reported ? *reported : committed;
-        EXPECT_TRUE(*loaded.stamp == complete || *loaded.stamp == (reported ? *reported + 1 : next))
-            << "loaded " << *loaded.stamp << ", last reported " << complete;
-        if (*loaded.stamp != committed) ++progressed;
-        committed = *loaded.stamp;
+        EXPECT_TRUE(*loaded == complete || *loaded == (reported ? *reported + 1 : next))
+            << "loaded " << *loaded << ", last reported " << complete;
+        if (*loaded != committed) ++progressed;
+        committed = *loaded;
         next += 100000;  // the next child's stamps are all new
     }
     // Many kills must have hit children that had saved, not only ones still starting (the figure
@@ -320,10 +260,7 @@ TEST(CrashSafety, AKilledSaveLeavesTheLastCompleteOne) {
 TEST(CrashSafety, TwoProcessesSavingIntoOneFileNeverMixTheirRecords) {
     TempFolder folder;
     const auto path = folder / "brinto.db";
-    {
-        RecordStore store;
-        ASSERT_EQ(store.Open(path), OpenResult::Opened);
-    }
+    SaveStamped(path, 1);
     constexpr u32 kSaves = 150;
     std::set<pid_t> saving;
     for (const u32 first : {1000000u, 2000000u}) {
@@ -334,13 +271,8 @@ TEST(CrashSafety, TwoProcessesSavingIntoOneFileNeverMixTheirRecords) {
     }
     // Meanwhile this process loads, as a third program starting up would.
     int loads = 0;
-    while (!saving.empty()) {
-        const Loaded loaded = LoadFile(path);
-        ASSERT_TRUE(loaded.opened);
-        if (loaded.records > 0) {
-            ASSERT_TRUE(loaded.stamp) << "a load saw records of two different saves";
-            ++loads;
-        }
+    for (; !saving.empty(); ++loads) {
+        ASSERT_TRUE(LoadedStamp(path)) << "a load saw records of two different saves";
         for (const pid_t child : std::set<pid_t>(saving)) {
             int status = 0;
             if (waitpid(child, &status, WNOHANG) != child) continue;
@@ -349,10 +281,9 @@ TEST(CrashSafety, TwoProcessesSavingIntoOneFileNeverMixTheirRecords) {
         }
     }
     EXPECT_EQ(Sql(path, "PRAGMA integrity_check"), "ok");
-    const Loaded last = LoadFile(path);
-    ASSERT_TRUE(last.stamp);
     // The last save wins, whole: the final stamp of one of the two.
-    EXPECT_TRUE(*last.stamp == 1000000 + kSaves - 1 || *last.stamp == 2000000 + kSaves - 1) << *last.stamp;
+    const std::optional<u32> last = LoadedStamp(path);
+    EXPECT_TRUE(last == 1000000 + kSaves - 1 || last == 2000000 + kSaves - 1) << last.value_or(0);
     EXPECT_GT(loads, 10);
 }
 

@@ -13,10 +13,7 @@ namespace {
 
 using test::SaveAll;
 
-bool SameBytes(const auto& a, const auto& b) {
-    static_assert(sizeof a == sizeof b);
-    return std::memcmp(&a, &b, sizeof a) == 0;
-}
+constexpr u32 kKinds[] = {kind::Preferences, kind::Registers, kind::UserKeys, kind::Macro, kind::CalcState};
 
 // One record kind's image in the engine, and its changed flag.
 struct RecordRef {
@@ -42,29 +39,21 @@ RecordRef Ref(Engine& e, UserKeyMap& keys, u32 recordKind) {
 void FillRecords(Engine& e, UserKeyMap& keys) {
     e.prefs.SetMethod(InputMethod::Precedence);
     e.prefs.SetStackDepth(16);
-    e.prefs.SetTap(TapArea::Right, TapTarget::Statistical);
     e.prefs.SetCommaRadix(true);
     for (int r = 0; r < kRegisterCount; ++r) e.registers.values[r] = 1.0 / (r + 1);
-    e.registers.cashFlowCount = 4;
-    e.registers.aux[3] = 9;
     e.macro.macroLength = 5;
     for (u32 i = 0; i < 5; ++i) e.macro.macroKeys[i] = 40 + i;
     e.SetX(6.25);
     e.state.lastX = -2.0;
-    std::strcpy(e.state.entryText, "12.5");
     keys = EmptyUserKeyMap();
     keys.keys[3] = fid::Add;
     keys.keys[23] = fid::SquareRoot;
 }
 
-class StateIoTest : public ::testing::Test {
+class StateIoTest : public test::StoreFileTest {
 protected:
-    void SetUp() override { ASSERT_EQ(store.Open(path), OpenResult::Opened); }
     bool Load() { return LoadState(e, keys, store); }
 
-    test::TempFolder folder;
-    std::filesystem::path path = folder / "brinto.db";
-    RecordStore store;
     Engine e;
     UserKeyMap keys{};
 };
@@ -73,22 +62,20 @@ TEST_F(StateIoTest, FirstRunStartsOnDefaultsAndTheSaveLeavesFiveRecords) {
     e.prefs.SetMethod(InputMethod::Rpn);  // whatever the engine held before is replaced
     e.registers.values[3] = 42.0;
     EXPECT_FALSE(Load());
-    const Engine fresh;
-    EXPECT_TRUE(SameBytes(e.prefs, DefaultPreferences()));
-    EXPECT_TRUE(SameBytes(e.registers, fresh.registers));
-    EXPECT_TRUE(SameBytes(e.macro, fresh.macro));
-    EXPECT_TRUE(SameBytes(e.state, fresh.state));
-    EXPECT_TRUE(SameBytes(keys, EmptyUserKeyMap()));
-    EXPECT_TRUE(e.dirty.preferences && e.dirty.registers && e.dirty.userKeys && e.dirty.macro);
-
+    Engine fresh;
+    UserKeyMap freshKeys = EmptyUserKeyMap();
+    for (const u32 k : kKinds) {
+        SCOPED_TRACE(k);
+        const RecordRef got = Ref(e, keys, k);
+        EXPECT_EQ(std::memcmp(got.bytes, Ref(fresh, freshKeys, k).bytes, got.size), 0);
+        EXPECT_TRUE(got.dirty);
+    }
     ASSERT_TRUE(SaveState(e, keys, store));
     EXPECT_EQ(store.CountRecords(), 5);
     // The order of the writes shows in the order of the rows: registers, keys, macro, state.
     EXPECT_EQ(test::Sql(path, "SELECT group_concat(hex(substr(header, 9, 1)), ',') FROM (SELECT header FROM "
                               "BrintoState ORDER BY id)"),
               "03,05,04,02");
-    EXPECT_TRUE(Load());
-    EXPECT_FALSE(e.dirty.preferences || e.dirty.registers || e.dirty.userKeys || e.dirty.macro || e.dirty.state);
 }
 
 // A record is taken as stored (zero-filled when short) or replaced by what a first run gets and
@@ -100,14 +87,7 @@ TEST_F(StateIoTest, EachRecordIsKeptOrRepairedByItsLengthAndVersion) {
     Engine firstRun;
     UserKeyMap firstRunKeys{};
     LoadState(firstRun, firstRunKeys, store);
-    struct Case {
-        const char* name;
-        u32 kind;
-        std::size_t size;
-        u16 version;  // 0: the record's own
-        bool kept;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, u32, std::size_t, u16, bool> cases[] = {  // version 0: the record's own
         {"preferences", kind::Preferences, 14, 0, true},
         {"preferences of 12 bytes", kind::Preferences, 12, 0, true},
         {"preferences of version 6", kind::Preferences, 14, 6, false},
@@ -126,28 +106,28 @@ TEST_F(StateIoTest, EachRecordIsKeptOrRepairedByItsLengthAndVersion) {
         {"state of 575 bytes", kind::CalcState, 575, 0, false},
         {"state of version 6", kind::CalcState, 576, 6, false},
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        const RecordRef from = Ref(source, sourceKeys, c.kind);
-        std::vector<u8> planted(c.size, 0xA5);
-        std::memcpy(planted.data(), from.bytes, std::min(c.size, from.size));
-        if (c.version != 0) std::memcpy(planted.data(), &c.version, sizeof c.version);
+    for (const auto& [name, recordKind, size, version, kept] : cases) {
+        SCOPED_TRACE(name);
+        const RecordRef from = Ref(source, sourceKeys, recordKind);
+        std::vector<u8> planted(size, 0xA5);
+        std::copy_n(from.bytes, std::min(size, from.size), planted.begin());
+        if (version != 0) std::memcpy(planted.data(), &version, sizeof version);
         RecordStore one;
         ASSERT_EQ(one.Open(std::string(RecordStore::kInMemory)), OpenResult::Opened);
-        ASSERT_TRUE(one.WriteRecord(c.kind, planted.data(), planted.size()));
+        ASSERT_TRUE(one.WriteRecord(recordKind, planted.data(), planted.size()));
 
         Engine loaded;
         UserKeyMap loadedKeys{};
-        EXPECT_EQ(LoadState(loaded, loadedKeys, one), c.kind == kind::Preferences);  // else a first run
-        const RecordRef got = Ref(loaded, loadedKeys, c.kind);
-        std::vector<u8> expected(Ref(firstRun, firstRunKeys, c.kind).bytes,
-                                 Ref(firstRun, firstRunKeys, c.kind).bytes + got.size);
-        if (c.kept) {
+        EXPECT_EQ(LoadState(loaded, loadedKeys, one), recordKind == kind::Preferences);  // else a first run
+        const RecordRef got = Ref(loaded, loadedKeys, recordKind);
+        std::vector<u8> expected(Ref(firstRun, firstRunKeys, recordKind).bytes,
+                                 Ref(firstRun, firstRunKeys, recordKind).bytes + got.size);
+        if (kept) {
             std::fill(expected.begin(), expected.end(), 0);
-            std::memcpy(expected.data(), planted.data(), std::min(c.size, got.size));
+            std::copy_n(planted.begin(), std::min(size, got.size), expected.begin());
         }
         EXPECT_TRUE(std::equal(expected.begin(), expected.end(), got.bytes));
-        EXPECT_EQ(got.dirty, !c.kept);
+        EXPECT_EQ(got.dirty, !kept);
     }
 }
 
@@ -185,7 +165,7 @@ TEST_F(StateIoTest, EveryRecordRoundTripsThroughTheFile) {
     RecordStore reopened;
     ASSERT_EQ(reopened.Open(path), OpenResult::Opened);
     EXPECT_TRUE(LoadState(e, keys, reopened));
-    for (const u32 k : {kind::Preferences, kind::Registers, kind::UserKeys, kind::Macro, kind::CalcState}) {
+    for (const u32 k : kKinds) {
         SCOPED_TRACE(k);
         const RecordRef got = Ref(e, keys, k);
         EXPECT_EQ(std::memcmp(got.bytes, Ref(source, sourceKeys, k).bytes, got.size), 0);
@@ -223,25 +203,6 @@ TEST_F(StateIoTest, UndoHistoryStartsAfreshFromTheLoadedRecords) {
     e.Dispatch(fid::ClearX);
     ASSERT_TRUE(e.history.Undo(e.Records(), false));
     EXPECT_EQ(e.X(), 5.0);  // back to the loaded state, not to the engine's old one
-}
-
-TEST_F(StateIoTest, MigrationRunsOnlyWhenThereAreNoPreferences) {
-    int calls = 0;
-    const LegacyMigration migrate = [&](RecordStore& into) {
-        ++calls;
-        Preferences prefs = DefaultPreferences();
-        prefs.SetTheme(8);
-        return into.WriteRecord(kind::Preferences, &prefs, sizeof prefs);
-    };
-    EXPECT_TRUE(LoadState(e, keys, store, migrate));
-    EXPECT_EQ(e.prefs.Theme(), 8);  // read after the migration
-    EXPECT_FALSE(e.dirty.preferences);
-    EXPECT_TRUE(LoadState(e, keys, store, migrate));
-    EXPECT_EQ(calls, 1);
-
-    RecordStore empty;
-    ASSERT_EQ(empty.Open(std::string(RecordStore::kInMemory)), OpenResult::Opened);
-    EXPECT_FALSE(LoadState(e, keys, empty, [](RecordStore&) { return false; }));
 }
 
 }  // namespace

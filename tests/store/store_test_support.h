@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -59,22 +60,17 @@ inline std::string ReadFile(const std::filesystem::path& path) {
 // Runs SQL statements on a file with plain SQLite; returns the first column of the first row.
 inline std::string Sql(const std::filesystem::path& path, const std::string& sql) {
     sqlite3* db = nullptr;
-    std::string result;
-    if (sqlite3_open_v2(path.c_str(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr) == SQLITE_OK) {
-        sqlite3_busy_timeout(db, 2000);
-        sqlite3_stmt* statement = nullptr;
-        for (const char* tail = sql.c_str();
-             *tail && sqlite3_prepare_v2(db, tail, -1, &statement, &tail) == SQLITE_OK && statement;) {
-            if (sqlite3_step(statement) == SQLITE_ROW && result.empty()) {
-                const unsigned char* text = sqlite3_column_text(statement, 0);
-                result = text ? reinterpret_cast<const char*>(text) : "";
-            }
-            sqlite3_finalize(statement);
-            statement = nullptr;
-        }
+    std::optional<std::string> first;
+    if (sqlite3_open(path.c_str(), &db) == SQLITE_OK && sqlite3_busy_timeout(db, 2000) == SQLITE_OK) {
+        const auto keepFirst = [](void* out, int, char** values, char**) {
+            auto& kept = *static_cast<std::optional<std::string>*>(out);
+            if (!kept) kept = values[0] ? values[0] : "";
+            return 0;
+        };
+        sqlite3_exec(db, sql.c_str(), keepFirst, &first, nullptr);
     }
     sqlite3_close(db);
-    return result;
+    return first.value_or("");
 }
 
 // Saves every record, changed or not.
@@ -82,5 +78,15 @@ inline bool SaveAll(Engine& e, const UserKeyMap& keys, RecordStore& store) {
     e.dirty = {true, true, true, true, true};
     return SaveState(e, keys, store);
 }
+
+// A store open on a fresh file in a temporary folder.
+class StoreFileTest : public ::testing::Test {
+protected:
+    void SetUp() override { ASSERT_EQ(store.Open(path), OpenResult::Opened); }
+
+    TempFolder folder;
+    std::filesystem::path path = folder / "brinto.db";
+    RecordStore store;
+};
 
 }  // namespace brinto::test
