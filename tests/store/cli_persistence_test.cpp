@@ -7,10 +7,8 @@
 
 #include "store_test_support.h"
 
-namespace brinto {
+namespace brinto::test {
 namespace {
-
-using test::WriteFile;
 
 struct CliRun {
     int status = -1;
@@ -32,13 +30,13 @@ protected:
         for (const std::string& arg : args) command += " '" + arg + "'";
         command += " </dev/null >'" + (folder / "out").string() + "' 2>'" + (folder / "err").string() + "'";
         const int status = std::system(command.c_str());
-        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, test::ReadFile(folder / "out"),
-                test::ReadFile(folder / "err")};
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, ReadFile(folder / "out"),
+                ReadFile(folder / "err")};
     }
     std::string Db() const { return (folder / "calc.db").string(); }
     std::filesystem::path DefaultDatabase() const { return folder / "data" / "brinto" / "brinto.db"; }
 
-    test::TempFolder folder;
+    TempFolder folder;
 };
 
 TEST_F(CliPersistence, RunsShareTheFileTheyUse) {
@@ -54,9 +52,9 @@ TEST_F(CliPersistence, RunsShareTheFileTheyUse) {
 
     Cli({"40", "+"});
     EXPECT_EQ(Cli({"2", "="}).out, "42.\n");
-    const std::string before = test::ReadFile(DefaultDatabase());
+    const std::string before = ReadFile(DefaultDatabase());
     EXPECT_EQ(Cli({"--memory", "1", "="}).out, "1.\n");  // not 43: nothing was loaded
-    EXPECT_TRUE(test::ReadFile(DefaultDatabase()) == before);
+    EXPECT_TRUE(ReadFile(DefaultDatabase()) == before);
     // The default file, named explicitly, is the same calculator.
     EXPECT_EQ(Cli({"--db", DefaultDatabase().string(), "+", "1", "="}).out, "43.\n");
     EXPECT_FALSE(std::filesystem::exists(folder / "home"));
@@ -84,6 +82,7 @@ TEST_F(CliPersistence, ImportLegacyFillsTheDatabaseOrNothing) {
     EXPECT_EQ(std::count(bad.err.begin(), bad.err.end(), '\n'), 1) << bad.err;
     EXPECT_NE(bad.err.find("line 3"), std::string::npos) << bad.err;
     EXPECT_EQ(Cli({"--db", Db(), "1", "="}).out, "10.\n");  // the calculator is as it was
+    EXPECT_EQ(Cli({"--db", Db(), "--import-legacy", (folder / "none.reg").string()}).status, 1);
 
     WriteFile(file, kRpnExport);
     const CliRun good = Cli({"--db", Db(), "--import-legacy", file, "--json"});
@@ -112,4 +111,4 @@ TEST_F(CliPersistence, ADamagedFileIsKeptAsideWithOneWarning) {
 }
 
 }  // namespace
-}  // namespace brinto
+}  // namespace brinto::test

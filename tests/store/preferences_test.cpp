@@ -5,7 +5,7 @@
 
 #include <functional>
 
-namespace brinto {
+namespace brinto::test {
 namespace {
 
 TEST(Preferences, DefaultsAreTheFreshRecord) {
@@ -116,4 +116,4 @@ TEST(Preferences, TheFirstOfTwoContradictoryBitsWins) {
 }
 
 }  // namespace
-}  // namespace brinto
+}  // namespace brinto::test

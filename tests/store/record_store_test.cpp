@@ -4,12 +4,10 @@
 
 #include "store_test_support.h"
 
-namespace brinto {
+namespace brinto::test {
 namespace {
 
-using test::Sql;
-
-class RecordStoreTest : public test::StoreFileTest {
+class RecordStoreTest : public StoreFileTest {
 protected:
     // The payload found by kind and index, or by name when one is given; "<none>" when none is.
     std::string Read(u32 recordKind, u16 index = 0, std::u16string_view name = {}, std::size_t capacity = 16) {
@@ -113,4 +111,4 @@ TEST_F(RecordStoreTest, WhatATransactionDoesNotCommitLeavesNoTrace) {
 }
 
 }  // namespace
-}  // namespace brinto
+}  // namespace brinto::test

@@ -15,13 +15,8 @@
 
 #include "store_test_support.h"
 
-namespace brinto {
+namespace brinto::test {
 namespace {
-
-using test::ReadFile;
-using test::Sql;
-using test::TempFolder;
-using test::WriteFile;
 
 std::string RandomBytes(std::size_t n, unsigned seed) {
     std::mt19937 random(seed);
@@ -43,7 +38,7 @@ void SaveStamped(const std::filesystem::path& path, u32 stamp) {
     Engine e;
     UserKeyMap keys{};
     StampRecords(e, keys, stamp);
-    ASSERT_TRUE(test::SaveAll(e, keys, store));
+    ASSERT_TRUE(SaveAll(e, keys, store));
 }
 
 std::vector<std::string> AsideNames(const TempFolder& folder) {
@@ -139,7 +134,7 @@ TEST(StateFile, AnImpossibleFolderMeansRunningWithoutSaving) {
     Engine e;
     UserKeyMap keys{};
     EXPECT_FALSE(LoadState(e, keys, store));
-    EXPECT_FALSE(test::SaveAll(e, keys, store));
+    EXPECT_FALSE(SaveAll(e, keys, store));
     // A failed save is not retried: its flags are cleared all the same.
     EXPECT_FALSE(e.dirty.preferences || e.dirty.registers || e.dirty.userKeys || e.dirty.macro || e.dirty.state);
     EXPECT_EQ(ReadFile(home / "file"), "x");
@@ -195,7 +190,7 @@ std::optional<u32> LoadedStamp(const std::filesystem::path& path) {
     if (report >= 0 && write(report, &ready, sizeof ready) != sizeof ready) _exit(5);
     for (u32 stamp = first; stamp < first + saves; ++stamp) {
         StampRecords(e, keys, stamp);
-        if (!test::SaveAll(e, keys, store)) _exit(4);
+        if (!SaveAll(e, keys, store)) _exit(4);
         if (report >= 0 && write(report, &stamp, sizeof stamp) != sizeof stamp) _exit(5);
     }
     store.Close();
@@ -288,4 +283,4 @@ TEST(CrashSafety, TwoProcessesSavingIntoOneFileNeverMixTheirRecords) {
 }
 
 }  // namespace
-}  // namespace brinto
+}  // namespace brinto::test
