@@ -25,8 +25,8 @@ protected:
     // Runs brinto-cli with `args` in the scratch world, on an empty standard input.
     CliRun Cli(const std::vector<std::string>& args) const {
         std::string command = "HOME='" + (folder / "home").string() + "' XDG_DATA_HOME='" +
-                              (folder / "data").string() + "' XDG_CONFIG_HOME='" + (folder / "config").string() +
-                              "' '" BRINTO_CLI_PATH "'";
+                              (folder / "data").string() + "' XDG_CONFIG_HOME='" +
+                              (folder / "config").string() + "' '" BRINTO_CLI_PATH "'";
         for (const std::string& arg : args) command += " '" + arg + "'";
         command += " </dev/null >'" + (folder / "out").string() + "' 2>'" + (folder / "err").string() + "'";
         const int status = std::system(command.c_str());

@@ -40,6 +40,7 @@ void Put(Bytes& bytes, std::size_t offset, T value) {
 
 const std::string kKeyLine = "[HKEY_CURRENT_USER\\Software\\ZEB\\Brinto]\r\n";
 const std::string kHeadAndKey = "REGEDIT4\r\n" + kKeyLine;
+const std::string kVersion5 = "Windows Registry Editor Version 5.00";
 
 TEST(RegistryExport, NamesAndLinesFollowTheRegistrysRules) {
     const std::string file = "REGEDIT4\r\n"
@@ -76,7 +77,9 @@ TEST(LegacyPreferences, EachUpgradeStep) {
         {{6, 0x1234, 9, 0x5678, 0x9ABC}, {6, 0x1234, 9, 0x5678, 0x9ABC}},
         {{0, 0x1234, 9, 0x5678, 0x9ABC}, {0, 0x1234, 9, 0x5678, 0x9ABC}},
     };
-    const auto fields = [](const LegacyPreferences& p) { return std::tuple{p.version, p.a, p.depth, p.b, p.c}; };
+    const auto fields = [](const LegacyPreferences& p) {
+        return std::tuple{p.version, p.a, p.depth, p.b, p.c};
+    };
     for (const auto& [in, out] : cases) {
         SCOPED_TRACE(::testing::Message() << "version " << in.version << ", A " << in.a);
         EXPECT_EQ(fields(UpgradeLegacyPreferencesStep(in)), fields(out));
@@ -209,9 +212,9 @@ TEST(LegacyImport, AnExportBecomesTheRecordsOrNothingAtAll) {
     TempFolder folder;
     const std::tuple<const char*, std::optional<std::string>, std::string> cases[] = {  // reason "": imported
         {"REGEDIT4 in 8-bit text", LegacyFile("REGEDIT4\r\n"), ""},
-        {"UTF-16 with byte-order mark", Utf16(LegacyFile("Windows Registry Editor Version 5.00\r\n")), ""},
-        {"UTF-8 with byte-order mark", LegacyFile("\xEF\xBB\xBFWindows Registry Editor Version 5.00\r\n"), ""},
-        {"UTF-8, Unix lines", LegacyFile("Windows Registry Editor Version 5.00\n"), ""},
+        {"UTF-16 with byte-order mark", Utf16(LegacyFile(kVersion5 + "\r\n")), ""},
+        {"UTF-8 with byte-order mark", LegacyFile("\xEF\xBB\xBF" + kVersion5 + "\r\n"), ""},
+        {"UTF-8, Unix lines", LegacyFile(kVersion5 + "\n"), ""},
         {"no file: no news", std::nullopt, ""},
         {"empty", "", "not a registry export"},
         {"another header", "REGEDIT5\r\n" + kKeyLine, "not a registry export"},

@@ -10,9 +10,8 @@ namespace {
 class RecordStoreTest : public StoreFileTest {
 protected:
     // The payload found by kind and index, or by name when one is given; "<none>" when none is.
-    std::string Read(u32 recordKind, u16 index = 0, std::u16string_view name = {}, std::size_t capacity = 16) {
-        std::string buffer(capacity, '\0');
-        std::size_t size = capacity;
+    std::string Read(u32 recordKind, u16 index = 0, std::u16string_view name = {}, std::size_t size = 16) {
+        std::string buffer(size, '\0');
         const bool found = name.empty() ? store.ReadRecord(recordKind, buffer.data(), size, index)
                                         : store.ReadRecord(recordKind, buffer.data(), size, name);
         buffer.resize(size);
@@ -32,7 +31,8 @@ TEST_F(RecordStoreTest, RowsAndHeadersOnDisk) {
     EXPECT_EQ(Sql(path, "SELECT hex(header) FROM BrintoState WHERE CAST(payload AS TEXT) = 'x'"),
               "500001000000000009000000" "FFFF" "41006200" + std::string(124, '0'));
     // Kind 1 alone goes to the configuration table.
-    EXPECT_EQ(Sql(path, "SELECT count(*) || ',' || hex(substr(header, 9, 4)) FROM BrintoConfig"), "1,01000000");
+    EXPECT_EQ(Sql(path, "SELECT count(*) || ',' || hex(substr(header, 9, 4)) FROM BrintoConfig"),
+              "1,01000000");
     EXPECT_EQ(Sql(path, "SELECT count(*) FROM BrintoState"), "4");
 }
 

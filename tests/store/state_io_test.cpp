@@ -125,8 +125,64 @@ TEST_F(StateIoTest, EachRecordIsKeptOrRepairedByItsLengthAndVersion) {
     }
 }
 
+// A state or macro of the right size and version can still hold counts no save writes (a damaged
+// or foreign file). The engine indexes with them, so such a record is reset as a short one is.
+TEST_F(StateIoTest, RecordsWithImpossibleCountsOrEntryTextAreReset) {
+    using Damage = void (*)(CalcState&);
+    const std::tuple<const char*, Damage, bool> cases[] = {
+        {"as saved", [](CalcState&) {}, true},
+        {"forty pending", [](CalcState& s) { s.pendingCount = kMaxPending; }, true},
+        {"forty-one pending", [](CalcState& s) { s.pendingCount = kMaxPending + 1; }, false},
+        {"all ones pending", [](CalcState& s) { s.pendingCount = 0xFFFF; }, false},
+        {"typing a number",
+         [](CalcState& s) {
+             std::strcpy(s.entryText, "-12.5e-3");
+             s.status |= status::Entry;
+         },
+         true},
+        {"hexadecimal text", [](CalcState& s) { std::strcpy(s.entryText, "-FF0A"); }, true},
+        {"unterminated text", [](CalcState& s) { std::memset(s.entryText, '1', sizeof s.entryText); }, false},
+        {"foreign character", [](CalcState& s) { std::strcpy(s.entryText, "12x"); }, false},
+        {"two points", [](CalcState& s) { std::strcpy(s.entryText, "1.2.3"); }, false},
+        {"four exponent digits", [](CalcState& s) { std::strcpy(s.entryText, "1e1234"); }, false},
+        {"sign in the middle", [](CalcState& s) { std::strcpy(s.entryText, "12-3"); }, false},
+        {"too many digits counted", [](CalcState& s) { s.entryDigits = 200; }, false},
+        {"too many exponent digits counted", [](CalcState& s) { s.exponentDigits = 4; }, false},
+    };
+    for (const auto& [name, damage, kept] : cases) {
+        SCOPED_TRACE(name);
+        Engine source;
+        source.SetX(7.0);
+        source.state.status |= status::LiftEnabled;
+        damage(source.state);
+        ASSERT_TRUE(store.WriteRecord(kind::CalcState, &source.state, sizeof source.state));
+        Engine loaded;
+        LoadState(loaded, keys, store);
+        EXPECT_EQ(loaded.X(), kept ? 7.0 : 0.0);
+        EXPECT_EQ(loaded.dirty.state, !kept);
+        // The loaded calculator takes keys that read the pending operators and the entry.
+        const FunctionId typed[] = {fid::Digit0 + 1, fid::Add, fid::Digit0 + 2, fid::Equals, fid::CloseParen};
+        for (const FunctionId key : typed) loaded.Dispatch(key);
+        EXPECT_LE(loaded.state.pendingCount, kMaxPending);
+    }
+    for (const u16 length : {u16{kMacroSlots}, u16{kMacroSlots + 1}, u16{0xFFFF}}) {
+        SCOPED_TRACE(length);
+        MacroRecord macro{};
+        macro.macroVersion = kMacroVersion;
+        macro.macroLength = length;
+        for (u32& key : macro.macroKeys) key = fid::Digit0 + 1;
+        ASSERT_TRUE(store.WriteRecord(kind::Macro, &macro, sizeof macro));
+        Engine loaded;
+        LoadState(loaded, keys, store);
+        EXPECT_EQ(loaded.macro.macroLength, length <= kMacroSlots ? length : 0);
+        EXPECT_EQ(loaded.dirty.macro, length > kMacroSlots);
+        loaded.Dispatch(fid::MacroPlay);  // playback reads every stored key
+    }
+}
+
 TEST_F(StateIoTest, StackDepthOutsideFourToTwentyIsClamped) {
-    const std::pair<int, int> cases[] = {{0, 4}, {3, 4}, {4, 4}, {5, 5}, {20, 20}, {21, 20}, {24, 20}, {31, 20}};
+    const std::pair<int, int> cases[] = {{0, 4},   {3, 4},   {4, 4},   {5, 5},
+                                         {20, 20}, {21, 20}, {24, 20}, {31, 20}};
     for (const auto& [stored, loaded] : cases) {
         SCOPED_TRACE(stored);
         Preferences prefs = DefaultPreferences();
