@@ -7,8 +7,9 @@
 
 namespace brinto {
 
-// `value` rounded half-up to `places` decimals on its shortest decimal digits (the digits the
-// display would start from), so 0.125 goes to 0.13 although its double lies just below it.
+// `value` rounded to `places` decimals as the display rounds it: its shortest decimal digits cut to
+// the display's 12 significant digits, then rounded half-up to the decimals. So 0.125 goes to 0.13
+// although its double lies just below it, and 2689.2104999999998 (shown 2689.2105) to 2689.211.
 // A negative `places`, or a value that is not finite, leaves it unchanged.
 double RoundToPlaces(double value, int places);
 // The same by way of the digit string every time; RoundToPlaces takes a shortcut where the
