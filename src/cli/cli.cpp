@@ -151,10 +151,11 @@ bool CheckTokens(const Words& words, std::string& error) {
 // Runs one token; false when a key of it was not accepted.
 bool RunToken(Session& session, const Token& t) {
     switch (t.kind) {
-        case TokenKind::Key: return session.Tap(t.id);
+        case TokenKind::Key: return session.TapKey(t.id);
+        case TokenKind::ExactKey: return session.Tap(t.id);
         case TokenKind::Number: {
             bool accepted = true;
-            TypeNumber(t.text, [&](FunctionId id) { accepted = session.Tap(id) && accepted; });
+            TypeNumber(t.text, [&](FunctionId id) { accepted = session.TapKey(id) && accepted; });
             return accepted;
         }
         case TokenKind::Characters: {

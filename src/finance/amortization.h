@@ -4,16 +4,9 @@
 // display's decimal places, so that the figures add up as on a printed schedule. The results
 // go onto the stack as Int (X), Prin (Y) and Bal (Z); "=" then steps through them.
 #include "engine/engine.h"
+#include "engine/numeric/decimal_digits.h"  // RoundToPlaces
 
 namespace brinto {
-
-// `value` rounded half-up to `places` decimals on its shortest decimal digits (the digits the
-// display would start from), so 0.125 goes to 0.13 although its double lies just below it.
-// A negative `places`, or a value that is not finite, leaves it unchanged.
-double RoundToPlaces(double value, int places);
-// The same by way of the digit string every time; RoundToPlaces takes a shortcut where the
-// decision is clear from the double alone.
-double RoundToPlacesByDigits(double value, int places);
 
 // The decimal places amounts are rounded to: the display's digit field less one, or -1 (no
 // rounding) while the display shows all digits.
