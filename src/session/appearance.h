@@ -69,6 +69,7 @@ KeyboardNamePlace KeyboardNamePlaceOf(const Preferences& prefs, const ThemeSet& 
 // The Basic view shows X alone unless "Basic also" is checked.
 struct DisplayLines {
     int advanced = 1, basic = 1;
+    friend bool operator==(const DisplayLines&, const DisplayLines&) = default;
 };
 DisplayLines DisplayLinesOf(const Preferences& prefs, const ThemeSet& themes);
 
@@ -94,6 +95,7 @@ DisplayFonts DisplayFontsOf(const Preferences& prefs, const ThemeSet& themes);
 struct Borders {
     bool displayFrame = false;
     Framed keyboardFrame = Framed::No;
+    friend bool operator==(const Borders&, const Borders&) = default;
 };
 Borders BordersOf(const Preferences& prefs, const ThemeSet& themes);
 
