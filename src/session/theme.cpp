@@ -139,7 +139,16 @@ void ApplyValues(std::array<int, N>& values, std::span<const ValueStep> steps) {
 
 }  // namespace
 
-ThemeSet::ThemeSet() { BuildThemes(ColourDisplay::Yes); }
+ThemeSet::ThemeSet() {
+    BuildThemes(ColourDisplay::Yes);
+    ResetToBase();
+}
+
+void ThemeSet::ResetToBase() {
+    m_palette.fill(kBlack);
+    for (const u8 slot : kWhiteBaseSlots) m_palette[slot] = kWhite;
+    m_keyStyle = kDefaultKeyStyle;
+}
 
 void ThemeSet::BuildThemes(ColourDisplay colour) {
     m_themes.clear();
@@ -178,9 +187,7 @@ void ThemeSet::ApplyTheme(Theme& theme) {
     assert(IndexOf(&theme) >= 0 && IndexOf(&theme) < static_cast<int>(m_themes.size()));
     const ThemeRow& row = RowOf(theme.id);
     theme.styles = kDefaultStyles;
-    m_palette.fill(kBlack);
-    for (const u8 slot : kWhiteBaseSlots) m_palette[slot] = kWhite;
-    m_keyStyle = kDefaultKeyStyle;
+    ResetToBase();
 
     ApplyValues(theme.styles, row.styles);
     ApplySteps(m_palette, row.underlay);
