@@ -1,10 +1,7 @@
 #include "finance/amortization.h"
 
-#include <charconv>
 #include <cmath>
-#include <cstring>
 
-#include "display/number_format.h"
 #include "engine/families.h"
 #include "finance/result_labels.h"
 #include "finance/tvm.h"
@@ -12,17 +9,6 @@
 namespace brinto {
 
 namespace {
-
-constexpr double kPowersOfTen[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                   1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-constexpr int kMostPlaces = 15;  // a four-bit digit field less one
-// Below this the scaled value keeps a binary fraction fine enough (2^-10) to tell the rounding.
-constexpr double kShortcutLimit = 1099511627776.0;  // 2^40
-// How far the scaled fraction must be from one half for the shortcut to decide as the digits do,
-// beyond what rounding to the display's 12 digits can move it.
-constexpr double kShortcutMargin = 1e-3;
-constexpr double kTwelveDigitShift = 1e-11;
-constexpr int kMostShownDigits = 12;  // the display never shows more significant digits
 
 // A payment number typed for Start or End: truncated, then taken as an unsigned 16-bit number
 // (modulo 65536) and stored in the signed field, where anything below 1 becomes 1.
@@ -42,61 +28,6 @@ void Show(Engine& e, double value, ValueTag tag) {
 }
 
 }  // namespace
-
-double RoundToPlacesByDigits(double value, int places) {
-    if (places < 0 || !std::isfinite(value)) return value;
-    char text[40];
-    const auto written = std::to_chars(text, text + sizeof text, std::fabs(value), std::chars_format::scientific);
-    // "d.ddde+x": the digits without the point, and the exponent.
-    char digits[48] = {};
-    int count = 0;
-    const char* p = text;
-    for (; p < written.ptr && *p != 'e'; ++p) {
-        if (*p != '.') digits[count++] = *p;
-    }
-    int exponent = 0;
-    std::from_chars(p + (p[1] == '+' ? 2 : 1), written.ptr, exponent);
-    int decpt = exponent + 1;
-    // As the display: at most 12 significant digits first, then the decimals; 2689.2104999999998
-    // shows as 2689.2105 and so as 2689.211 with three decimals.
-    RoundDigits(digits, decpt, kMostShownDigits);
-    const int significant = decpt + places;
-    if (significant < 0) return std::copysign(0.0, value);  // below half a unit of the last place
-    RoundDigits(digits, decpt, significant);
-
-    char rounded[64];
-    const int length = static_cast<int>(std::strlen(digits));
-    std::memcpy(rounded, digits, static_cast<std::size_t>(length));
-    char* end = rounded + length;
-    *end++ = 'e';
-    end = std::to_chars(end, rounded + sizeof rounded, decpt - length).ptr;
-    double result = 0.0;
-    std::from_chars(rounded, end, result);
-    return std::copysign(result, value);
-}
-
-double RoundToPlaces(double value, int places) {
-    if (places < 0 || !std::isfinite(value)) return value;
-    if (places <= kMostPlaces) {
-        // k / 10^places, both exact, divides to the double nearest the decimal k x 10^-places,
-        // which is what reading the rounded digits gives.
-        const double scale = kPowersOfTen[places];
-        const double scaled = std::fabs(value) * scale;
-        if (scaled < kShortcutLimit) {
-            // Truncation is the floor of a positive value, without a library call.
-            const double whole = static_cast<double>(static_cast<long long>(scaled));
-            const double fraction = scaled - whole;
-            // Rounding to 12 significant digits first moves the value by at most half a unit of
-            // its 12th digit, below 1e-11 of it: only a fraction that close to one half can
-            // become a decimal tie, and those go by the digits.
-            if (std::fabs(fraction - 0.5) > kShortcutMargin + scaled * kTwelveDigitShift) {
-                const double k = fraction > 0.5 ? whole + 1.0 : whole;
-                return std::copysign(k / scale, value);
-            }
-        }
-    }
-    return RoundToPlacesByDigits(value, places);
-}
 
 int AmortizationPlaces(const Preferences& prefs) { return prefs.DigitField() - 1; }
 

@@ -3,8 +3,8 @@
 #include <cmath>
 #include <optional>
 
-#include "display/number_format.h"
 #include "engine/families.h"
+#include "engine/numeric/decimal_digits.h"
 #include "ops/date_time.h"
 #include "ops/integer_ops.h"
 #include "ops/units.h"

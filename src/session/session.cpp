@@ -2,8 +2,8 @@
 
 #include "display/display_text.h"
 #include "engine/function_ids.h"
+#include "engine/numeric/integer_format.h"
 #include "ops/constants.h"
-#include "ops/integer_format.h"
 #include "session/keyboards.h"
 #include "session/paste.h"
 

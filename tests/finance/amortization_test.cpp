@@ -1,13 +1,9 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
-#include <random>
-#include <string>
 #include <tuple>
 
-#include "display/number_format.h"
 #include "finance/amortization.h"
 #include "finance/result_labels.h"
 #include "finance_test_support.h"
@@ -16,37 +12,6 @@ namespace brinto {
 namespace {
 
 using namespace test;
-
-TEST(RoundToPlaces, RoundsAsTheDisplayShowsTheValue) {
-    const struct { double value; int places; double rounded; } cases[] = {
-        {0.125, 2, 0.13}, {1.005, 2, 1.01}, {-1.005, 2, -1.01},  // the double lies below 1.005; its digits do not
-        {0.0049, 2, 0.0}, {0.005, 2, 0.01}, {999.995, 2, 1000},  {0.5, 0, 1.0}, {1e20, 2, 1e20}, {45.5, -1, 45.5},
-        {2689.2104999999998, 3, 2689.211},  // 12 digits first: 2689.21050000, a tie
-        {1234567890.12345, 3, 1234567890.12}};  // no more than 12 digits survive
-    for (const auto& c : cases) {
-        EXPECT_EQ(RoundToPlaces(c.value, c.places), c.rounded) << c.value;
-        EXPECT_EQ(RoundToPlacesByDigits(c.value, c.places), c.rounded) << c.value;
-    }
-    // The shortcut decides as the digits do, and both as the display in Fixed: decimal ties
-    // (k.5 units of the last place) and the doubles beside them, which become ties at 12 digits.
-    std::mt19937_64 random(20240607);
-    for (int n = 0; n < 200000; ++n) {
-        const int places = static_cast<int>(random() % 15);
-        double value = std::pow(10.0, std::uniform_real_distribution<double>(-6, 12)(random)) * (n % 2 ? -1 : 1);
-        if (n % 3 == 0) {
-            const std::string tie = std::to_string(random() % 100000000000) + "5e-" + std::to_string(places + 1);
-            std::from_chars(tie.data(), tie.data() + tie.size(), value);
-            if (n % 2 == 0) value = std::nextafter(value, n % 4 ? HUGE_VAL : 0.0);
-        }
-        const double rounded = RoundToPlaces(value, places);
-        ASSERT_EQ(rounded, RoundToPlacesByDigits(value, places)) << value << " " << places;
-        FormattedText shown;
-        if (places > 9 || std::fabs(value) >= 1e12 || FormatDecimal(value, NumberFormat::Fixed, places + 1, shown)) {
-            continue;  // the display's digit field holds at most nine decimals
-        }
-        ASSERT_EQ(rounded, ParseDecimal(shown.View())) << value << " " << places << " " << shown.View();
-    }
-}
 
 class Amortization : public ::testing::Test {
 protected:
