@@ -61,43 +61,49 @@ void ShowResults(Engine& e) {
 
 }  // namespace
 
-void Amortize(Engine& e, Continuation continuation) {
-    CalcState& s = e.state;
+AmortizationTerms TermsInForce(const Engine& e) {
     const double* r = e.registers.values;
-    const bool next = ClampRange(
-        s, r[reg::N], continuation == Continuation::NextBlock && s.amortStart >= 1 && s.amortBalance > 0.0);
     const int places = AmortizationPlaces(e.prefs);
-    const double i = PeriodicRate(r[reg::IYr], r[reg::PYr]);
-    const double payment = RoundToPlaces(r[reg::PMT], places);
-    const bool begin = s.engineFlags & flags::Begin;
-    if (!next) s.amortBalance = RoundToPlaces(r[reg::PV], places);
-    s.amortInterest = 0.0;
-    s.amortPrincipal = 0.0;
+    return {PeriodicRate(r[reg::IYr], r[reg::PYr]), RoundToPlaces(r[reg::PV], places),
+            RoundToPlaces(r[reg::PMT], places), places, (e.state.engineFlags & flags::Begin) != 0};
+}
 
+PaymentSplit AmortizePayment(const AmortizationTerms& t, double balance, bool firstOfLoan) {
     // Sums of amounts already at the display's places are rounded again only to shed the binary
     // residue of the addition: the balance reads 99900.45, not 99900.450000000012.
-    const auto add = [places](double a, double b) { return RoundToPlaces(a + b, places); };
+    const auto add = [&t](double a, double b) { return RoundToPlaces(a + b, t.places); };
+    // In Begin mode the loan's first payment falls before any interest is due.
+    const double interest = firstOfLoan && t.begin ? 0.0 : RoundToPlaces(balance * t.rate, t.places);
+    const double principal = add(interest, t.payment);  // the change of the balance, with its sign
+    // Interest is reported with the sign of the payment.
+    const double shown = t.payment < 0.0 ? -std::fabs(interest) : std::fabs(interest);
+    // The same sum as balance + principal (every term is a whole number of the last place),
+    // without waiting for the principal's rounding.
+    return {shown, principal, add(balance + interest, t.payment)};
+}
+
+void Amortize(Engine& e, Continuation continuation) {
+    CalcState& s = e.state;
+    const bool next = ClampRange(s, e.registers.values[reg::N],
+                                 continuation == Continuation::NextBlock && s.amortStart >= 1 && s.amortBalance > 0.0);
+    const AmortizationTerms terms = TermsInForce(e);
+    if (!next) s.amortBalance = terms.presentValue;
+    double interest = 0.0, principal = 0.0;
+    // From payment 1 the payments before Start only move the balance; a block continued from a
+    // balance is never the loan's first payment.
     for (int k = next ? s.amortStart - 1 : 0; k < s.amortEnd;) {
-        double interest = RoundToPlaces(s.amortBalance * i, places);
-        // In Begin mode the loan's first payment falls before any interest is due; a block
-        // continued from a balance is never the loan's first.
-        if (k == 0 && begin && !next) interest = 0.0;
-        const double principal = add(interest, payment);  // the change of the balance, with its sign
-        // Interest is reported with the sign of the payment.
-        const double shown = payment < 0.0 ? -std::fabs(interest) : std::fabs(interest);
-        // The same sum as balance + principal (every term is a whole number of the last place),
-        // without waiting for the principal's rounding.
-        s.amortBalance = add(s.amortBalance + interest, payment);
+        const PaymentSplit payment = AmortizePayment(terms, s.amortBalance, k == 0 && !next);
+        s.amortBalance = payment.balance;
         ++k;
         if (s.amortStart <= k && k <= s.amortEnd) {
-            s.amortInterest += shown;
-            s.amortPrincipal += principal;
+            interest += payment.interest;
+            principal += payment.principal;
         }
     }
     // The totals' residue is far below half a unit of the last place: one rounding at the end
     // gives what rounding every partial sum would.
-    s.amortInterest = RoundToPlaces(s.amortInterest, places);
-    s.amortPrincipal = RoundToPlaces(s.amortPrincipal, places);
+    s.amortInterest = RoundToPlaces(interest, terms.places);
+    s.amortPrincipal = RoundToPlaces(principal, terms.places);
     ShowResults(e);
 }
 

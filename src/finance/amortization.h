@@ -12,6 +12,27 @@ namespace brinto {
 // rounding) while the display shows all digits.
 int AmortizationPlaces(const Preferences& prefs);
 
+// The loan as amortization reads it from the TVM registers, the payment timing and the display.
+struct AmortizationTerms {
+    double rate;          // per payment period: I/YR / P/YR / 100
+    double presentValue;  // PV at the display's places: the balance before payment 1
+    double payment;       // PMT at the display's places
+    int places;           // AmortizationPlaces
+    bool begin;           // payments at the start of each period
+};
+AmortizationTerms TermsInForce(const Engine& e);
+
+// One payment split into interest and principal, each at the display's places: interest with
+// the payment's sign, principal with the sign of the balance's change, and the balance after it.
+struct PaymentSplit {
+    double interest;
+    double principal;
+    double balance;
+};
+// The payment made on `balance`. On the loan's first payment (`firstOfLoan`) in Begin mode no
+// interest is due yet.
+PaymentSplit AmortizePayment(const AmortizationTerms& terms, double balance, bool firstOfLoan);
+
 enum class Continuation { FromStart, NextBlock };
 
 // Amortizes Start..End from payment 1, or (NextBlock) a block of the same length from the

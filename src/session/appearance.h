@@ -69,16 +69,17 @@ KeyboardNamePlace KeyboardNamePlaceOf(const Preferences& prefs, const ThemeSet& 
 // The Basic view shows X alone unless "Basic also" is checked.
 struct DisplayLines {
     int advanced = 1, basic = 1;
+    friend bool operator==(const DisplayLines&, const DisplayLines&) = default;
 };
 DisplayLines DisplayLinesOf(const Preferences& prefs, const ThemeSet& themes);
 
 // The display's five fonts, created once: 22 bold, 18 bold, 14 bold, 14 normal, 13 normal.
 enum class DisplayFont { Bold22, Bold18, Bold14, Normal14, Normal13 };
-struct FontSpec {
+struct FontMetrics {
     int pixels;  // height in pixels of the 240-wide screen
     bool bold;
 };
-FontSpec FontSpecOf(DisplayFont font);
+FontMetrics FontOf(DisplayFont font);
 
 // "Font:": which font serves which line of the display.
 struct DisplayFonts {
@@ -94,6 +95,7 @@ DisplayFonts DisplayFontsOf(const Preferences& prefs, const ThemeSet& themes);
 struct Borders {
     bool displayFrame = false;
     Framed keyboardFrame = Framed::No;
+    friend bool operator==(const Borders&, const Borders&) = default;
 };
 Borders BordersOf(const Preferences& prefs, const ThemeSet& themes);
 

@@ -44,6 +44,7 @@ struct KeyGrid {
     int horizontalGap = 0, verticalGap = 0;
 
     int KeyCount() const { return columns * rows; }
+    friend bool operator==(const KeyGrid&, const KeyGrid&) = default;
 };
 
 double GridScale(int viewWidth);

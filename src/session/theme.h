@@ -65,11 +65,13 @@ struct Theme {
 
 enum class ColourDisplay { No, Yes };
 
-// The theme list with the palette it paints. Built themes stay at fixed addresses until the next
-// BuildThemes, so a Theme& from FindTheme or CurrentTheme stays valid until then.
+// The theme list with the palette it paints. A Theme& from FindTheme or CurrentTheme stays valid
+// until the next BuildThemes; a copied set keeps its own themes and current theme.
 class ThemeSet {
 public:
-    ThemeSet();  // builds the colour list; nothing selected or applied yet (palette all black)
+    // Builds the colour list. Until a theme is applied the palette is the base one every theme
+    // starts from (black, with a few white slots) and the style values are their defaults.
+    ThemeSet();
 
     // Recreates the list: all eight themes, or only the two black-and-white ones ("Default B&W",
     // "Original B&W") for a screen without colour. Forgets the current and applied theme.
@@ -92,9 +94,12 @@ public:
     const ThemeStyles& styles() const;
 
 private:
+    int IndexOf(const Theme* theme) const;
+    void ResetToBase();
+
     std::vector<Theme> m_themes;
-    Theme* m_current = nullptr;
-    Theme* m_applied = nullptr;
+    int m_current = -1;  // indices into m_themes; -1 for none
+    int m_applied = -1;
     Palette m_palette{};
     KeyStyle m_keyStyle{};
 };

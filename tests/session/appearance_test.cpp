@@ -65,15 +65,11 @@ TEST(Appearance, ChoicesResolveThroughTheTheme) {
         EXPECT_EQ(PressedColouringOf(prefs, themes), c.pressed);
         EXPECT_EQ(KeyShadowDepth(prefs, themes), c.shadow);
         EXPECT_EQ(KeyboardNamePlaceOf(prefs, themes), c.show);
-        const DisplayLines lines = DisplayLinesOf(prefs, themes);
-        EXPECT_EQ(lines.advanced, c.lines.advanced);
-        EXPECT_EQ(lines.basic, c.lines.basic);
+        EXPECT_TRUE(DisplayLinesOf(prefs, themes) == c.lines);
         const DisplayFonts fonts = DisplayFontsOf(prefs, themes);
         EXPECT_EQ(fonts.value, c.value);
         EXPECT_EQ(fonts.stack, c.stack);
-        const Borders borders = BordersOf(prefs, themes);
-        EXPECT_EQ(borders.displayFrame, c.borders.displayFrame);
-        EXPECT_EQ(borders.keyboardFrame, c.borders.keyboardFrame);
+        EXPECT_TRUE(BordersOf(prefs, themes) == c.borders);
     }
 }
 
@@ -89,11 +85,9 @@ TEST(Appearance, LegendsShareTheKey) {
     };
     const Rect key{10, 20, 55, 33};  // a Medium key in the default window
     const Case cases[] = {
-        {"static", LegendArrangement::Static, false, Legend::Main, Legend::Shifted, {10, 32, 55, 21}, 15, 9},
         {"staticShifted", LegendArrangement::Static, true, Legend::Main, Legend::Shifted, {10, 32, 55, 21}, 15, 9},
         {"swapped", LegendArrangement::Swapped, false, Legend::Main, Legend::Shifted, {10, 32, 55, 21}, 15, 9},
         {"swappedShifted", LegendArrangement::Swapped, true, Legend::Shifted, Legend::Main, {10, 32, 55, 21}, 15, 9},
-        {"zoomed", LegendArrangement::Zoomed, false, Legend::Main, std::nullopt, key, 18, 0},
         {"zoomedShifted", LegendArrangement::Zoomed, true, Legend::Shifted, std::nullopt, key, 18, 0},
     };
     for (const Case& c : cases) {
