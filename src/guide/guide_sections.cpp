@@ -83,14 +83,15 @@ std::string BlockSection(int keyboard) {
         html += "<tr>";
         for (int column = 0; column < 6; ++column) {
             const int k = row * 6 + column;
-            html += Cell(FunctionId{plain[k]}, FunctionId{shifted[k]});
+            html += Cell(static_cast<FunctionId>(plain[k]), static_cast<FunctionId>(shifted[k]));
         }
         html += "</tr>\n";
     }
     html += "</table>\n";
     html += kKeys;
     html += kMeaningHeader;
-    for (int k = 0; k < kBlockKeys; ++k) html += MeaningRow(FunctionId{plain[k]}, FunctionId{shifted[k]});
+    for (int k = 0; k < kBlockKeys; ++k)
+        html += MeaningRow(static_cast<FunctionId>(plain[k]), static_cast<FunctionId>(shifted[k]));
     return html + "</table>\n";
 }
 
