@@ -5,31 +5,11 @@
 #include <string>
 #include <vector>
 
-#include "session/keyboards.h"
+#include "engine/keyboards.h"
+#include "session/recording_host.h"
 
 namespace brinto {
 namespace {
-
-struct Message {
-    std::string caption;
-    std::string text;
-};
-
-class RecordingHost : public Host {
-public:
-    std::vector<Message> messages;
-    std::optional<std::string> clipboard;
-    bool confirm = true;
-    int beeps = 0;
-
-    void ShowMessage(std::string_view caption, std::string_view text) override {
-        messages.push_back({std::string(caption), std::string(text)});
-    }
-    bool Confirm(std::string_view, std::string_view) override { return confirm; }
-    void PutOnClipboard(std::string_view text) override { clipboard = std::string(text); }
-    std::optional<std::string> ClipboardText() override { return clipboard; }
-    void Beep() override { ++beeps; }
-};
 
 struct Fixture {
     Engine engine;
@@ -173,7 +153,7 @@ TEST(Session, BlockKeysFollowTheShiftAndRemap) {
     f.Type("9");
     f.session.TapBlockKey(4);  // PMT: with no financial family yet or with one, the key is routed
     f.session.Tap(fid::Shift);
-    EXPECT_EQ(KeyLayout(1, 1, f.session.userKeys)[3], 74u);
+    EXPECT_EQ(KeyLayout(1, 1, f.session.userKeys())[3], 74u);
     f.session.SelectKeyboard(0);
     f.session.Tap(fid::Shift);
     f.session.TapBlockKey(3);  // shifted General key 3: RPN
