@@ -4,10 +4,10 @@
 
 #include "display/display_text.h"
 #include "engine/function_ids.h"
+#include "engine/keyboards.h"
 #include "ops/constants.h"
 #include "ops/date_fields.h"
 #include "ops/integer_format.h"
-#include "engine/keyboards.h"
 #include "session/paste.h"
 
 namespace brinto {

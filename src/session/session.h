@@ -9,7 +9,6 @@
 #include "engine/engine.h"
 #include "engine/user_key_map.h"
 #include "session/host.h"
-#include "engine/keyboards.h"
 
 namespace brinto {
 
