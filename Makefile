@@ -23,7 +23,7 @@ build: deps
 run: build
 	./build/brinto-cli
 
-# Rewrites the generated sections of the user guide (keyboards, keyboard keys, constants).
+# Rewrites the generated sections of the user guide (keyboards, keyboard keys, constants, appearance).
 guide: deps
 	cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
 	cmake --build build -j $(JOBS) --target guide

@@ -2,9 +2,12 @@
 
 #include <array>
 #include <charconv>
+#include <span>
+#include <string>
 
 #include "display/labels.h"
 #include "ops/constants.h"
+#include "session/appearance.h"
 #include "session/key_legends.h"
 #include "engine/keyboards.h"
 #include "session/keypad.h"
@@ -156,12 +159,36 @@ std::string ConstantsSection() {
     return html + "</table>\n";
 }
 
+// One group of rows per preference, its caption spanning them. A check box ("Basic also") is a
+// group of one row without a list entry: its caption spans the entry column too.
+std::string AppearanceSection() {
+    std::string html =
+        std::string(kKeys) + "<tr><th>Choice</th><th>Value</th><th>On screen</th></tr>\n";
+    const std::span<const GuideRow> rows = AppearanceGuide();
+    for (std::size_t first = 0; first < rows.size();) {
+        std::size_t end = first + 1;
+        while (end < rows.size() && rows[end].field == rows[first].field) ++end;
+        const bool checkBox = end - first == 1 && rows[first].choice.empty();
+        html += checkBox ? "<tr><td colspan=\"2\">"
+                         : "<tr><td rowspan=\"" + std::to_string(end - first) + "\" valign=\"top\">";
+        html += "<b>" + Escape(rows[first].field) + "</b></td>";
+        for (std::size_t r = first; r < end; ++r) {
+            if (r > first) html += "<tr>";
+            if (!checkBox) html += "<td>" + Escape(rows[r].choice) + "</td>";
+            html += "<td>" + Escape(rows[r].meaning) + "</td></tr>\n";
+        }
+        first = end;
+    }
+    return html + "</table>\n";
+}
+
 }  // namespace
 
 std::optional<std::string> GeneratedSection(std::string_view name) {
     if (name == "keyboards") return KeyboardsSection();
     if (name == "hardware-keys") return HardwareKeysSection();
     if (name == "constants") return ConstantsSection();
+    if (name == "appearance") return AppearanceSection();
     return std::nullopt;
 }
 

@@ -116,7 +116,7 @@ TEST(Guide, GeneratedSectionsAndAnchorsAreCurrent) {
     const auto refreshed = RefreshGuide(guide, &problem);
     ASSERT_TRUE(refreshed.has_value()) << problem;
     EXPECT_TRUE(*refreshed == guide) << "docs/Brinto.htm differs from the key tables: run `make guide`";
-    for (const char* section : {"keyboards", "hardware-keys", "constants"}) {
+    for (const char* section : {"keyboards", "hardware-keys", "constants", "appearance"}) {
         EXPECT_NE(guide.find(std::string("<!-- generated:") + section + " -->"), std::string::npos)
             << section;
     }
