@@ -122,6 +122,13 @@ int RunApp(int argc, char** argv) {
     if (!calculator.Trouble().empty()) {
         QMessageBox::warning(nullptr, QStringLiteral("Brinto"), QString::fromStdString(calculator.Trouble()));
     }
+    // A signal ends every event loop, also the first run's dialog; the calculator is saved once
+    // the loops are left.
+    bool stopping = false;
+    WatchSignals(&window, [&] {
+        stopping = true;
+        QApplication::quit();
+    });
     bool preferencesAfterwards = false;
     if (calculator.FirstRun() && !options->memory) {
         InputMethodDialog dialog;
@@ -130,13 +137,13 @@ int RunApp(int argc, char** argv) {
         preferencesAfterwards = dialog.PreferencesAfterwards();
         window.Refresh();
     }
+    if (stopping) {
+        calculator.Save(window.saveGeometry());
+        return 0;
+    }
     window.show();
     if (preferencesAfterwards) window.OpenView(AppView::Preferences);
 
-    WatchSignals(&window, [&] {
-        calculator.Save(window.saveGeometry());
-        QApplication::quit();
-    });
     if (!options->keys.empty()) {
         const QString keys = QString::fromStdString(options->keys);
         QTimer::singleShot(0, &window, [&window, keys] { TypeKeys(&window, keys); });
