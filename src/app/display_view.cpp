@@ -4,57 +4,57 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "app/key_view.h"
 #include "display/display_text.h"
 #include "display/labels.h"
 #include "engine/engine.h"
-#include "engine/function_ids.h"
 #include "ops/integer_format.h"
+#include "session/key_grid.h"
+#include "session/key_legends.h"
 
 namespace brinto {
 
 namespace {
 
-// The five display fonts at the handheld's 240-pixel width; they scale with the view.
-struct FontSpec {
-    int height;
-    bool bold;
-};
-constexpr FontSpec kFonts[5] = {{22, true}, {18, true}, {14, true}, {14, false}, {13, false}};
-
 QString Utf8(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
 
 bool IsBasic(const Engine& e) { return e.state.viewFlags & view::ModeMask; }
+
+bool IsLongDate(const Engine& e, ValueTag tag) {
+    return e.prefs.LongDate() && (tag == fid::TagDate || tag == fid::TagDateTime);
+}
 
 }  // namespace
 
 DisplayView::DisplayView(const Engine& engine, QWidget* parent) : QWidget(parent), m_engine(engine) {
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setMinimumHeight(60);
 }
 
-void DisplayView::SetColours(const Colours& colours) {
+void DisplayView::SetLook(const ScreenColours& colours, const ThemeSet& themes, const QString& keyboardName) {
     m_colours = colours;
+    m_lines = DisplayLinesOf(m_engine.prefs, themes);
+    m_fonts = DisplayFontsOf(m_engine.prefs, themes);
+    m_borders = BordersOf(m_engine.prefs, themes);
+    m_keyboardName = keyboardName;
     update();
 }
 
-int DisplayView::LinesShown() const {
-    const Preferences& p = m_engine.prefs;
-    if (IsBasic(m_engine) && !p.BasicAlso()) return 1;
-    if (p.DisplayLines() >= 1 && p.DisplayLines() <= 4) return p.DisplayLines();
-    return m_engine.IsRpn() ? 3 : 1;
-}
+int DisplayView::LinesShown() const { return IsBasic(m_engine) ? m_lines.basic : m_lines.advanced; }
 
 QStringList DisplayView::Annunciators() const {
     const Engine& e = m_engine;
     QStringList on;
     if (e.state.status & status::FirstShift) on << QStringLiteral("SHIFT");
-    on << (e.IsRpn() ? QStringLiteral("RPN") : e.IsPrecedence() ? QStringLiteral("PREC") : QStringLiteral("ALG"));
+    on << (e.IsRpn() ? QStringLiteral("RPN") : e.IsPrecedence() ? QStringLiteral("PREC") : QStringLiteral("SIMPLE"));
     const FunctionId pending = e.PendingTop();
     if (!e.IsRpn() && pending != kNoKey && pending != fid::OpenParen && pending != fid::Enter) {
-        on << LegendOf(pending);
+        on << LegendText(pending);
     }
-    static const char* const kAngles[] = {"DEG", "RAD", "GRAD"};
-    on << QString::fromLatin1(kAngles[std::min(2, static_cast<int>(e.Angle()))]);
+    switch (e.Angle()) {
+        case AngleUnit::Degrees: on << QStringLiteral("DEG"); break;
+        case AngleUnit::Radians: on << QStringLiteral("RAD"); break;
+        case AngleUnit::Grads: on << QStringLiteral("GRAD"); break;
+    }
     if (e.state.engineFlags & flags::Begin) on << QStringLiteral("BEGIN");
     switch (e.EntryBase()) {
         case status::BaseBinary: on << QStringLiteral("BIN"); break;
@@ -64,7 +64,7 @@ QStringList DisplayView::Annunciators() const {
     }
     if (e.EntryBase() != 0) on << Utf8(LabelText(static_cast<u32>(DefaultIntegerFormatTag(e.prefs))));
     if (e.state.status & status::Hyperbolic) on << QStringLiteral("HYP");
-    if (e.state.engineFlags & flags::Recording) on << Utf8(LabelText(1600));
+    if (e.state.engineFlags & flags::Recording) on << Utf8(LabelText(fid::TagMemory));
     return on;
 }
 
@@ -82,88 +82,80 @@ void DisplayView::paintEvent(QPaintEvent*) {
     const Preferences& p = e.prefs;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.fillRect(rect(), m_colours.window);
+    painter.fillRect(rect(), ToQColor(m_colours.window));
 
-    // "Border:": the display framed (the default), nothing, or the whole calculator framed by the
-    // window (then the display fills its place edge to edge, as the keys' frame continues it).
-    const int border = p.Border();
+    const double scale = GridScale(width());
     QRectF area = rect();
-    if (border == 0 || border == 2) area.adjust(4, 4, -4, -2);
-    painter.setPen(border == 0 || border == 2 ? QPen(m_colours.displayLabel, 1.5) : Qt::NoPen);
-    painter.setBrush(m_colours.displayBackground);
-    painter.drawRoundedRect(area.adjusted(0.75, 0.75, -0.75, -0.75), border == 1 ? 0 : 6, border == 1 ? 0 : 6);
+    const double margin = std::round(3 * scale);
+    area.adjust(margin, margin, -margin, 0);
+    if (m_borders.displayFrame) {
+        painter.setPen(QPen(ToQColor(m_colours.displayFrame), std::max(1.0, std::round(scale))));
+    } else {
+        painter.setPen(Qt::NoPen);
+    }
+    painter.setBrush(ToQColor(m_colours.displayBackground));
+    const double radius = m_borders.displayFrame ? 4 * scale : 0;
+    painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
 
-    const double scale = std::clamp(width() / 240.0, 1.0, 3.0);
-    const auto makeFont = [&](int which) {
+    // The five fonts scale with the view from the handheld's 240-pixel screen; "ClearType" lets
+    // the text use the screen's subpixels.
+    const auto makeFont = [&](DisplayFont which) {
+        const FontSpec spec = FontSpecOf(which);
         QFont f = font();
-        f.setPixelSize(static_cast<int>(kFonts[which].height * scale));
-        f.setBold(kFonts[which].bold);
+        f.setPixelSize(std::max(6, static_cast<int>(std::lround(spec.pixels * scale))));
+        f.setBold(spec.bold);
         f.setStyleStrategy(p.ClearType() ? QFont::PreferAntialias : QFont::NoSubpixelAntialias);
         return f;
     };
-    // "Font:": which of the five fonts draws X; Default follows the view.
-    int xFont = 0;
-    switch (p.DisplayFont()) {
-        case 1: xFont = 2; break;
-        case 2: xFont = 1; break;
-        case 3: xFont = 0; break;
-        default: xFont = IsBasic(e) ? 0 : 1; break;
-    }
-    const QFont bigFont = makeFont(xFont), lineFont = makeFont(3), labelFont = makeFont(4);
-    QFont annunciatorFont = labelFont;
-    annunciatorFont.setPixelSize(std::max(8, static_cast<int>(labelFont.pixelSize() * 0.8)));
+    const QFont valueFont = makeFont(m_fonts.value), dateFont = makeFont(m_fonts.date);
+    const QFont stackFont = makeFont(m_fonts.stack), labelFont = makeFont(m_fonts.label);
 
-    const double pad = 6 * scale;
+    const double pad = std::round(5 * scale);
     QRectF inner = area.adjusted(pad, pad / 2, -pad, -pad / 2);
 
-    // Annunciators along the top.
-    painter.setFont(annunciatorFont);
-    painter.setPen(m_colours.annunciator);
-    const double annunciatorHeight = QFontMetricsF(annunciatorFont).height();
-    painter.drawText(QRectF(inner.left(), inner.top(), inner.width(), annunciatorHeight),
-                     Qt::AlignLeft | Qt::AlignVCenter, Annunciators().join(QStringLiteral("  ")));
-    inner.setTop(inner.top() + annunciatorHeight);
+    // One row of annunciators: only the states that are on are drawn.
+    painter.setFont(labelFont);
+    const double rowHeight = QFontMetricsF(labelFont).height();
+    const QRectF row(inner.left(), inner.top(), inner.width(), rowHeight);
+    painter.setPen(ToQColor(m_colours.annunciator));
+    painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter, Annunciators().join(QStringLiteral("  ")));
+    if (!m_keyboardName.isEmpty()) {
+        painter.setPen(ToQColor(m_colours.displayLabel));
+        painter.drawText(row, Qt::AlignRight | Qt::AlignVCenter, m_keyboardName);
+    }
+    inner.setTop(inner.top() + rowHeight);
 
-    // Stack levels from the highest shown down to X at the bottom.
-    const int lines = LinesShown();
-    const double bigHeight = QFontMetricsF(bigFont).height();
-    const double lineHeight = QFontMetricsF(lineFont).height();
+    // Stack levels from the highest shown down to X at the bottom; a level that does not fit is
+    // left out rather than cut.
     double bottom = inner.bottom();
-    for (int level = 0; level < lines; ++level) {
-        const bool isX = level == 0;
-        const double h = isX ? bigHeight : lineHeight;
-        if (bottom - h < inner.top() - 1) break;
-        const QRectF row(inner.left(), bottom - h, inner.width(), h);
-        bottom -= h;
-        const DisplayLine line = DisplayLevel(e, level);
+    for (int level = 0; level < LinesShown(); ++level) {
         const StackEntry entry = e.Level(level);
-        QColor colour = m_colours.displayText;
-        if (IsIntegerFormatTag(entry.tag)) colour = m_colours.displayInteger;
-        else if (entry.value < 0 && !line.error) colour = m_colours.displayNegative;
-        const QFont valueFont = isX ? bigFont : lineFont;
+        const QFont& font = level > 0 ? stackFont : IsLongDate(e, entry.tag) ? dateFont : valueFont;
+        const double h = QFontMetricsF(font).height();
+        if (bottom - h < inner.top() - 1) break;
+        const QRectF line(inner.left(), bottom - h, inner.width(), h);
+        bottom -= h;
+        const DisplayLine shown = DisplayLevel(e, level);
+        const QString label = Utf8(shown.label);
         painter.setFont(labelFont);
-        painter.setPen(m_colours.displayLabel);
-        const QString label = Utf8(line.label);
+        painter.setPen(ToQColor(m_colours.displayLabel));
+        painter.drawText(line, Qt::AlignLeft | Qt::AlignBottom, label);
         const double labelWidth = label.isEmpty() ? 0 : QFontMetricsF(labelFont).horizontalAdvance(label) + pad;
-        painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter, label);
-        // A value too wide for its line is drawn in a smaller size rather than cut.
-        QFont fitted = valueFont;
-        const QString text = Utf8(line.text);
-        double size = fitted.pixelSize();
-        while (size > 8 && QFontMetricsF(fitted).horizontalAdvance(text) > row.width() - labelWidth) {
-            size -= 1;
-            fitted.setPixelSize(static_cast<int>(size));
-        }
+        // A value too wide for its line is drawn smaller rather than cut.
+        QFont fitted = font;
+        const QString text = Utf8(shown.text);
+        const double wide = QFontMetricsF(fitted).horizontalAdvance(text);
+        const double room = line.width() - labelWidth;
+        if (wide > room && wide > 0) fitted.setPixelSize(std::max(6, static_cast<int>(fitted.pixelSize() * room / wide)));
         painter.setFont(fitted);
-        painter.setPen(colour);
-        painter.drawText(row, Qt::AlignRight | Qt::AlignVCenter, text);
+        painter.setPen(ToQColor(ValueTextColour(m_colours, entry.tag, entry.value)));
+        painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, text);
     }
 }
 
 void DisplayView::mouseReleaseEvent(QMouseEvent* event) {
     if (event->button() != Qt::LeftButton || !rect().contains(event->position().toPoint())) return;
-    const int third = std::clamp(static_cast<int>(event->position().x() * 3 / std::max(1, width())), 0, 2);
-    Q_EMIT Tapped(static_cast<TapArea>(third));
+    Q_EMIT Tapped(DisplayTapZone(width(), static_cast<int>(event->position().x())));
 }
 
 }  // namespace brinto

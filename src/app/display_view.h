@@ -4,8 +4,9 @@
 // the view that the "Tap:" preference names.
 #include <QWidget>
 
-#include "app/faces.h"
 #include "engine/preferences.h"
+#include "session/appearance.h"
+#include "session/screen_colours.h"
 
 namespace brinto {
 
@@ -16,7 +17,9 @@ class DisplayView : public QWidget {
 public:
     explicit DisplayView(const Engine& engine, QWidget* parent = nullptr);
 
-    void SetColours(const Colours& colours);
+    // The theme's colours and what the "Display" preferences mean under it; `keyboardName` is
+    // written in the display when "Show:" puts it there (empty otherwise).
+    void SetLook(const ScreenColours& colours, const ThemeSet& themes, const QString& keyboardName);
     // The number of stack levels drawn in the current view.
     int LinesShown() const;
     // The display's text as a screen reader reads it: X, its label, then the other levels.
@@ -33,7 +36,11 @@ protected:
 
 private:
     const Engine& m_engine;
-    Colours m_colours;
+    ScreenColours m_colours{};
+    DisplayLines m_lines;
+    DisplayFonts m_fonts{};
+    Borders m_borders;
+    QString m_keyboardName;
 };
 
 }  // namespace brinto

@@ -3,179 +3,157 @@
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QToolTip>
 #include <algorithm>
+#include <cmath>
 
-#include "engine/function_ids.h"
+#include "session/key_legends.h"
 
 namespace brinto {
 
 namespace {
 
-constexpr int kMargin = 4;
-constexpr int kGap = 4;
+QString Utf8(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
 
-// The part of each cell that the shifted legend takes above the face.
-double LegendStrip(const KeyLook& look) { return look.show == 1 || look.show == 3 ? 0.0 : 0.30; }
+QRectF ToRectF(const Rect& r) { return QRectF(r.x, r.y, r.width, r.height); }
 
-// Keys are smaller within their cells for the smaller "Size:" choices.
-double FaceInset(const KeyLook& look) {
-    switch (look.size) {
-        case 1: return 0.12;
-        case 2: return 0.06;
-        default: return 0.0;
-    }
-}
-
-int ShadowDepth(const KeyLook& look) {
-    switch (look.shadow) {
-        case 1: return 0;
-        case 3: return 2;
-        case 4: return 3;
-        default: return 1;
-    }
+// Draws `text` centred in `area` at `pixels`, smaller when it would not fit the width.
+void DrawLegend(QPainter& painter, const QString& text, const QRectF& area, int pixels, bool bold) {
+    QFont font = painter.font();
+    font.setBold(bold);
+    font.setPixelSize(std::max(1, pixels));
+    const double room = area.width() * 0.92;
+    const double wide = QFontMetricsF(font).horizontalAdvance(text);
+    if (wide > room && wide > 0) font.setPixelSize(std::max(1, static_cast<int>(pixels * room / wide)));
+    painter.setFont(font);
+    painter.drawText(area, Qt::AlignCenter, text);
 }
 
 }  // namespace
 
+QColor ToQColor(Rgb rgb) { return QColor(rgb.r, rgb.g, rgb.b); }
+
+QString LegendText(FunctionId id) {
+    const KeyLegend* legend = FindLegend(id);
+    return legend ? Utf8(legend->legend) : QString();
+}
+
+QString ToolTipText(FunctionId id) {
+    const KeyLegend* legend = FindLegend(id);
+    if (!legend) return QStringLiteral("No function");
+    QString tip = Utf8(legend->fullName);
+    if (!legend->hardwareKey.empty()) tip += QStringLiteral(" (key: %1)").arg(Utf8(legend->hardwareKey));
+    return tip;
+}
+
 KeyView::KeyView(QWidget* parent) : QWidget(parent) {
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setMinimumSize(200, 150);
 }
 
 void KeyView::SetKeys(std::vector<KeyCell> keys, int columns) {
+    if (keys == m_keys && columns == m_columns) return;
     m_keys = std::move(keys);
     m_columns = std::max(1, columns);
     m_pressed = m_hover = -1;
+    Relayout();
     update();
 }
 
 void KeyView::SetLook(const KeyLook& look) {
     m_look = look;
+    Relayout();
     update();
 }
 
 int KeyView::Rows() const { return (KeyCount() + m_columns - 1) / m_columns; }
 
-QRect KeyView::CellRect(int index) const {
-    const int rows = std::max(1, Rows());
-    const int w = (width() - 2 * kMargin - (m_columns - 1) * kGap) / m_columns;
-    const int h = (height() - 2 * kMargin - (rows - 1) * kGap) / rows;
-    // The remainders are split so that the grid stays centred.
-    const int left = kMargin + (width() - 2 * kMargin - (m_columns - 1) * kGap - w * m_columns) / 2;
-    const int top = kMargin + (height() - 2 * kMargin - (rows - 1) * kGap - h * rows) / 2;
-    const int row = index / m_columns, column = index % m_columns;
-    return {left + column * (w + kGap), top + row * (h + kGap), w, h};
+int KeyView::TitleHeight() const {
+    if (m_look.title.isEmpty()) return 0;
+    return static_cast<int>(std::lround(16 * GridScale(width())));
 }
 
-QRectF KeyView::FaceRect(int index) const {
-    QRectF cell = CellRect(index);
-    cell.setTop(cell.top() + cell.height() * LegendStrip(m_look));
-    const double inset = FaceInset(m_look) * std::min(cell.width(), cell.height());
-    return cell.adjusted(inset, inset / 2, -inset, -inset / 2);
+void KeyView::Relayout() {
+    m_grid = LayoutKeyGrid(width(), height() - TitleHeight(), m_columns, std::max(1, Rows()), m_look.sizeSet,
+                           m_look.framed);
+    m_grid.top += TitleHeight();
+}
+
+void KeyView::resizeEvent(QResizeEvent*) { Relayout(); }
+
+QRect KeyView::CellRect(int index) const {
+    const Rect r = KeyRect(m_grid, index);
+    return {r.x, r.y, r.width, r.height};
 }
 
 int KeyView::KeyAt(QPoint point) const {
-    for (int i = 0; i < KeyCount(); ++i) {
-        if (CellRect(i).contains(point)) return i;
-    }
-    return -1;
+    const auto hit = HitTest(m_grid, point.x(), point.y());
+    return hit && *hit < KeyCount() ? *hit : -1;
 }
 
-FunctionId KeyView::ShownId(int index) const {
-    const KeyCell& k = Key(index);
-    const bool swapped = m_look.labels == 2;
-    // "Static" faces keep the unshifted table drawn; the key still acts shifted.
-    const bool showShifted = m_look.labels == 1 ? false : m_look.shifted;
-    return (showShifted != swapped) ? k.shifted : k.unshifted;
-}
+FunctionId KeyView::ActiveId(int index) const { return m_look.shifted ? Key(index).shifted : Key(index).unshifted; }
 
-FunctionId KeyView::OtherId(int index) const {
-    const KeyCell& k = Key(index);
-    const FunctionId shown = ShownId(index);
-    const FunctionId other = shown == k.shifted ? k.unshifted : k.shifted;
-    return other == shown ? kNoKey : other;
+FunctionId KeyView::LargeId(int index) const {
+    const LegendPlacement p = PlaceLegends(m_look.arrangement, m_look.shifted, KeyRect(m_grid, index));
+    return p.large == Legend::Shifted ? Key(index).shifted : Key(index).unshifted;
 }
 
 void KeyView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), m_look.colours.keyboardBackground);
+    painter.fillRect(rect(), ToQColor(m_look.colours.keyboardBackground));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::TextAntialiasing);
+    if (!m_look.title.isEmpty()) {
+        painter.setPen(ToQColor(m_look.colours.keyboardName));
+        DrawLegend(painter, m_look.title, QRectF(0, 0, width(), TitleHeight()), TitleHeight() * 3 / 4, true);
+    }
     for (int i = 0; i < KeyCount(); ++i) DrawKey(painter, i);
 }
 
 void KeyView::DrawKey(QPainter& painter, int index) {
-    const FunctionId id = ShownId(index);
-    const KeyColours& c = m_look.colours.keys[static_cast<int>(RoleOf(id))];
+    const Rect keyRect = KeyRect(m_grid, index);
+    if (keyRect.width <= 0 || keyRect.height <= 0) return;
+    const KeyCell& key = Key(index);
+    const LegendPlacement place = PlaceLegends(m_look.arrangement, m_look.shifted, keyRect);
+    const FunctionId large = place.large == Legend::Shifted ? key.shifted : key.unshifted;
+    const KeyColours& c = m_look.colours.Key(KeyClassOf(large == kNoKey ? key.unshifted : large));
     const bool pressed = index == m_pressed;
-    const bool hover = index == m_hover && !pressed;
-    const QRect cell = CellRect(index);
-    const QRectF face = FaceRect(index);
-    const double radius = std::min(face.width(), face.height()) * 0.16;
+    const double scale = GridScale(width());
 
-    QColor faceColour = c.face, textColour = c.text;
-    if (m_look.colour == 1 && m_look.shifted) faceColour = c.shiftedText.lighter(170);
-    if (m_look.colour == 2) {
-        faceColour = m_look.colours.keys[0].face;
-        textColour = c.face.darker(200);
-    }
-    if (pressed) {
-        switch (m_look.active) {
-            case 1: faceColour = c.shiftedText; textColour = c.pressedText; break;
-            case 2: textColour = c.shiftedText; break;
-            case 3: std::swap(faceColour, textColour); break;
-            default: faceColour = c.pressedFace; textColour = c.pressedText; break;
-        }
-    } else if (hover) {
-        faceColour = faceColour.lighter(faceColour.lightness() > 128 ? 104 : 125);
-    }
+    QColor face = ToQColor(pressed ? c.pressedFace : c.face);
+    const QColor text = ToQColor(pressed ? c.pressedText : c.text);
+    if (index == m_hover && !pressed) face = face.lightness() > 128 ? face.darker(106) : face.lighter(125);
 
-    const int depth = pressed ? 0 : ShadowDepth(m_look);
+    const double radius = std::max(0.0, m_look.corner * scale);
+    const double depth = pressed ? 0.0 : std::round(m_look.shadow * scale);
+    const QRectF shape = ToRectF(keyRect).adjusted(0.5, 0.5, -0.5 - depth, -0.5 - depth);
+    // A pressed key sits where its shadow was.
+    const QRectF drawn = pressed ? shape.translated(std::round(m_look.shadow * scale), std::round(m_look.shadow * scale))
+                                 : shape;
     if (depth > 0) {
         painter.setPen(Qt::NoPen);
-        painter.setBrush(c.shadow);
-        painter.drawRoundedRect(face.translated(0, depth), radius, radius);
+        painter.setBrush(ToQColor(c.shadow));
+        painter.drawRoundedRect(shape.translated(depth, depth), radius, radius);
     }
-    painter.setPen(QPen(c.edge, 1));
-    painter.setBrush(faceColour);
-    const QRectF drawn = pressed ? face.translated(0, std::min(1, ShadowDepth(m_look))) : face;
-    painter.drawRoundedRect(drawn.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    painter.setPen(m_look.colours.outlineKeys ? QPen(ToQColor(c.edge), std::max(1.0, scale * 0.75)) : Qt::NoPen);
+    painter.setBrush(face);
+    painter.drawRoundedRect(drawn, radius, radius);
 
-    // Legends grow with the key, between a floor and a cap.
-    const QString legend = LegendOf(id);
-    QFont font = painter.font();
-    const double zoom = m_look.labels == 3 ? 1.25 : 1.0;
-    double size = std::clamp(std::min(face.height() * 0.42, face.width() * 0.30) * zoom, 7.0, 30.0);
-    font.setPixelSize(static_cast<int>(size));
-    font.setBold(id == fid::Enter || id == fid::Equals || RoleOf(id) == KeyRole::Number);
-    // Long legends shrink until they fit the face.
-    while (size > 6 && QFontMetricsF(font).horizontalAdvance(legend) > face.width() * 0.88) {
-        size -= 1;
-        font.setPixelSize(static_cast<int>(size));
+    const QPointF shift = drawn.topLeft() - ToRectF(keyRect).topLeft();
+    const auto area = [&](const Rect& r) {
+        return ToRectF(r).translated(shift).adjusted(0, 0, -depth, r.height ? -depth / 2 : 0);
+    };
+    painter.setPen(text);
+    const bool bold = large == fid::Enter || large == fid::Equals || KeyClassOf(large) == KeyClass::Number;
+    DrawLegend(painter, LegendText(large), area(place.largeArea), place.largePixels, bold);
+    if (place.small) {
+        const FunctionId small = *place.small == Legend::Shifted ? key.shifted : key.unshifted;
+        if (small != large) {
+            painter.setPen(ToQColor(pressed ? c.pressedText : c.shiftedText));
+            DrawLegend(painter, LegendText(small), area(place.smallArea).adjusted(0, std::round(1.5 * scale), 0, 0),
+                       place.smallPixels, false);
+        }
     }
-    painter.setFont(font);
-    painter.setPen(textColour);
-    painter.drawText(drawn, Qt::AlignCenter, legend);
-
-    const FunctionId other = OtherId(index);
-    if (other == kNoKey || m_look.show == 1) return;
-    const QString small = LegendOf(other);
-    QRectF strip(cell.left(), cell.top(), cell.width(), face.top() - cell.top());
-    if (m_look.show == 3) strip = QRectF(face.left(), face.top() + 1, face.width(), face.height() * 0.34);
-    QFont smallFont = font;
-    smallFont.setBold(false);
-    double smallSize = std::clamp(std::min(strip.height() * 0.85, size * 0.7), 6.0, 20.0);
-    smallFont.setPixelSize(static_cast<int>(smallSize));
-    while (smallSize > 5 && QFontMetricsF(smallFont).horizontalAdvance(small) > cell.width()) {
-        smallSize -= 1;
-        smallFont.setPixelSize(static_cast<int>(smallSize));
-    }
-    painter.setFont(smallFont);
-    painter.setPen(c.shiftedText);
-    painter.drawText(strip, Qt::AlignHCenter | Qt::AlignBottom, small);
 }
 
 void KeyView::mousePressEvent(QMouseEvent* event) {
@@ -213,11 +191,7 @@ bool KeyView::event(QEvent* event) {
             QToolTip::hideText();
             return true;
         }
-        const FunctionId id = m_look.shifted ? Key(index).shifted : Key(index).unshifted;
-        QString tip = FullNameOf(id);
-        const QString hardware = HardwareKeyOf(id);
-        if (!hardware.isEmpty()) tip += QStringLiteral(" (%1)").arg(hardware);
-        QToolTip::showText(help->globalPos(), tip, this, CellRect(index));
+        QToolTip::showText(help->globalPos(), ToolTipText(ActiveId(index)), this, CellRect(index));
         return true;
     }
     return QWidget::event(event);

@@ -5,7 +5,9 @@
 #include <QWidget>
 #include <vector>
 
-#include "app/faces.h"
+#include "session/appearance.h"
+#include "session/key_grid.h"
+#include "session/screen_colours.h"
 
 namespace brinto {
 
@@ -13,14 +15,25 @@ struct KeyCell {
     FunctionId unshifted;
     FunctionId shifted;
     int block;  // 1..12 for the keyboard's variable block, 0 for the shared keys
+    friend bool operator==(const KeyCell&, const KeyCell&) = default;
 };
 
-// How the keys are drawn, from the preferences.
+// How the keys are drawn, from the theme and the "Keyboard" preferences.
 struct KeyLook {
-    Colours colours;
-    bool shifted = false;  // the shift latch is set
-    int size = 0, labels = 0, colour = 0, active = 0, shadow = 0, show = 0;
+    ScreenColours colours;
+    KeySizeSet sizeSet{};
+    Framed framed = Framed::No;
+    LegendArrangement arrangement = LegendArrangement::Static;
+    int shadow = 1;  // pixels of the 240-wide screen
+    int corner = 3;  // likewise
+    bool shifted = false;
+    QString title;   // the keyboard's name above the keys; empty for none
 };
+
+QColor ToQColor(Rgb rgb);
+// A key's face text, full name and hardware key from the legend table.
+QString LegendText(FunctionId id);
+QString ToolTipText(FunctionId id);
 
 class KeyView : public QWidget {
     Q_OBJECT
@@ -34,21 +47,22 @@ public:
     const KeyCell& Key(int index) const { return m_keys[static_cast<size_t>(index)]; }
     int Columns() const { return m_columns; }
     int Rows() const;
-    // The key's cell in widget coordinates (the face and the space for its shifted legend).
+    // The height of the name strip above the keys at this width (0 without a name).
+    int TitleHeight() const;
+    // The key's rectangle in widget coordinates.
     QRect CellRect(int index) const;
-    // The face of the key, inside its cell.
-    QRectF FaceRect(int index) const;
     int KeyAt(QPoint point) const;
-    // The function the key has now: its shifted one while the latch is set.
-    FunctionId ShownId(int index) const;
-    // The function drawn small beside the face, if any.
-    FunctionId OtherId(int index) const;
+    // The function the key performs now: its shifted one while the latch is set.
+    FunctionId ActiveId(int index) const;
+    // The legend drawn large on the face.
+    FunctionId LargeId(int index) const;
 
 Q_SIGNALS:
     void Tapped(int index);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -56,11 +70,13 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    void Relayout();
     void DrawKey(QPainter& painter, int index);
 
     std::vector<KeyCell> m_keys;
     int m_columns = 1;
     KeyLook m_look;
+    KeyGrid m_grid;
     int m_pressed = -1;
     int m_hover = -1;
 };

@@ -14,6 +14,7 @@
 
 #include "engine/function_ids.h"
 #include "session/keyboards.h"
+#include "session/keypad.h"
 #include "session/session.h"
 
 namespace brinto {
@@ -146,12 +147,12 @@ void MainWindow::BuildMenus() {
 }
 
 void MainWindow::ApplyTheme() {
-    m_colours = ColoursFor(m_session.engine().prefs);
-    QPalette palette = this->palette();
-    palette.setColor(QPalette::Window, m_colours.window);
+    m_themes.ApplyTheme(m_themes.SelectTheme(m_session.engine().prefs.Theme()));
+    m_colours = MakeScreenColours(m_themes, m_session.engine().prefs, DefaultDisplayStyle(m_themes));
+    QPalette palette = m_pane->palette();
+    palette.setColor(QPalette::Window, ToQColor(m_colours.window));
     m_pane->setPalette(palette);
     m_pane->setAutoFillBackground(true);
-    m_display->SetColours(m_colours);
     Refresh();
 }
 
@@ -165,30 +166,31 @@ void MainWindow::Refresh() {
     const KeyBlock unshifted = KeyLayout(keyboard, 0, m_session.userKeys);
     const KeyBlock shifted = KeyLayout(keyboard, 1, m_session.userKeys);
     for (int k = 0; k < kBlockKeys; ++k) cells.push_back({unshifted[k], shifted[k], k + 1});
-    for (const PadKey& key : SharedKeypad()) cells.push_back({key.unshifted, key.shifted, 0});
-    if (cells.size() != static_cast<size_t>(m_keys->KeyCount()) || keyboard != m_shownKeyboard ||
-        keyboard == kUserKeyboard) {
-        m_keys->SetKeys(std::move(cells), kPadColumns);
-        m_shownKeyboard = keyboard;
+    for (const KeypadRow& row : SharedKeypad()) {
+        for (const KeypadKey& key : row) cells.push_back({key.unshifted, key.shifted, 0});
     }
-    if (m_basic->KeyCount() == 0 || e.Method() != m_shownMethod) {
-        std::vector<KeyCell> basicCells;
-        for (const PadKey& key : BasicKeypad(e.Method())) basicCells.push_back({key.unshifted, key.shifted, 0});
-        m_basic->SetKeys(std::move(basicCells), kBasicColumns);
-        m_shownMethod = e.Method();
+    m_keys->SetKeys(std::move(cells), kKeypadColumns);
+    std::vector<KeyCell> basicCells;
+    for (const BasicRow& row : BasicKeys(e.Method())) {
+        for (FunctionId id : row) basicCells.push_back({id, id, 0});
     }
+    m_basic->SetKeys(std::move(basicCells), kBasicColumns);
 
+    const QString name = m_selector->itemText(keyboard);
+    const KeyboardNamePlace namePlace = KeyboardNamePlaceOf(p, m_themes);
     KeyLook look;
     look.colours = m_colours;
+    look.sizeSet = KeySizeSetOf(KeySizeOf(p, m_themes));
+    look.framed = BordersOf(p, m_themes).keyboardFrame;
+    look.arrangement = LegendArrangementOf(p, m_themes);
+    look.shadow = KeyShadowDepth(p, m_themes);
+    look.corner = m_themes.keyStyle()[key_style::Corner];
     look.shifted = e.state.status & status::FirstShift;
-    look.size = p.KeySize();
-    look.labels = p.KeyLabels();
-    look.colour = p.KeyColor();
-    look.active = p.ActiveKey();
-    look.shadow = p.KeyShadow();
-    look.show = p.KeyboardShow();
+    look.title = namePlace == KeyboardNamePlace::AboveKeys && !basic ? name : QString();
     m_keys->SetLook(look);
+    look.title.clear();
     m_basic->SetLook(look);
+    m_display->SetLook(m_colours, m_themes, namePlace == KeyboardNamePlace::InDisplay && !basic ? name : QString());
 
     m_keys->setVisible(!basic);
     m_basic->setVisible(basic);
@@ -200,25 +202,23 @@ void MainWindow::Refresh() {
         button->setChecked(true);
     }
     LayoutViews();
-    m_display->update();
 }
 
 void MainWindow::LayoutViews() {
     const Engine& e = m_session.engine();
+    const Preferences& p = e.prefs;
     const bool basic = IsBasic(e);
     QRect area = m_pane->rect();
     if (m_strip->isVisibleTo(m_pane)) {
         m_strip->setGeometry(area.left(), area.bottom() - kStripHeight + 1, area.width(), kStripHeight);
         area.setBottom(area.bottom() - kStripHeight);
     }
-    // The keys get no taller than their width allows; the display takes the rest, and more of
-    // it in the Basic view.
+    // The keys take the height their shape asks for, and the display the rest: more of it in the
+    // Basic view, where there are fewer keys.
     KeyView* keys = basic ? m_basic : m_keys;
-    const int rows = std::max(1, keys->Rows());
-    const int cellWidth = area.width() / keys->Columns();
-    const double share = basic ? 0.66 : 0.74;
-    const int wanted = static_cast<int>(rows * cellWidth * (basic ? 0.95 : 1.0));
-    const int keyHeight = std::min(wanted, static_cast<int>(area.height() * share));
+    const int wanted = PreferredKeyboardHeight(area.width(), keys->Columns(), std::max(1, keys->Rows()),
+                                               KeySizeSetOf(KeySizeOf(p, m_themes)), BordersOf(p, m_themes).keyboardFrame);
+    const int keyHeight = std::min(wanted + keys->TitleHeight(), static_cast<int>(area.height() * (basic ? 0.62 : 0.78)));
     m_display->setGeometry(area.left(), area.top(), area.width(), area.height() - keyHeight);
     keys->setGeometry(area.left(), area.bottom() - keyHeight + 1, area.width(), keyHeight);
 }
@@ -229,8 +229,7 @@ void MainWindow::KeyTapped(const KeyView* view, int index) {
         m_session.TapBlockKey(key.block);
         return;
     }
-    const bool shifted = m_session.engine().state.status & status::FirstShift;
-    const FunctionId id = shifted ? key.shifted : key.unshifted;
+    const FunctionId id = view->ActiveId(index);
     m_session.Tap(id == kNoKey ? id : m_session.Remap(id));
 }
 

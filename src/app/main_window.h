@@ -6,6 +6,7 @@
 
 #include "app/display_view.h"
 #include "app/key_view.h"
+#include "session/theme.h"
 
 class QActionGroup;
 class QButtonGroup;
@@ -40,6 +41,7 @@ public:
     // Run when the calculator should be kept: deactivation, minimising, closing, Quit.
     std::function<void()> onSave;
 
+    const ScreenColours& colours() const { return m_colours; }
     DisplayView* display() { return m_display; }
     KeyView* keyboardView() { return m_keys; }
     KeyView* basicView() { return m_basic; }
@@ -70,10 +72,8 @@ private:
     QComboBox* m_selector = nullptr;
     QWidget* m_strip = nullptr;
     QButtonGroup* m_stripButtons = nullptr;
-    Colours m_colours;
-    int m_shownKeyboard = -1;
-    InputMethod m_shownMethod = InputMethod::Simple;
-    u32 m_userKeysHash = 0;
+    ThemeSet m_themes;
+    ScreenColours m_colours{};
 };
 
 }  // namespace brinto

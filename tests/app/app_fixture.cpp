@@ -12,7 +12,7 @@ std::string Desk::XLine() {
 bool Desk::Click(FunctionId id) {
     KeyView* view = window.keyboardView()->isVisible() ? window.keyboardView() : window.basicView();
     for (int i = 0; i < view->KeyCount(); ++i) {
-        if (view->Key(i).block == 0 && view->ShownId(i) == id) {
+        if (view->Key(i).block == 0 && view->ActiveId(i) == id) {
             QTest::mouseClick(view, Qt::LeftButton, {}, view->CellRect(i).center());
             return true;
         }
