@@ -77,9 +77,27 @@ QString DisplayView::AccessibleText() const {
     return parts.join(QStringLiteral("; "));
 }
 
+// The five fonts scale with the view from the handheld's 240-pixel screen; "ClearType" lets the
+// text use the screen's subpixels.
+QFont DisplayView::MakeFont(DisplayFont which, int width) const {
+    const FontSpec spec = FontSpecOf(which);
+    QFont f = font();
+    f.setPixelSize(std::max(6, static_cast<int>(std::lround(spec.pixels * GridScale(width)))));
+    f.setBold(spec.bold);
+    f.setStyleStrategy(m_engine.prefs.ClearType() ? QFont::PreferAntialias : QFont::NoSubpixelAntialias);
+    return f;
+}
+
+int DisplayView::PreferredHeight(int width) const {
+    const double scale = GridScale(width);
+    const double value = QFontMetricsF(MakeFont(m_fonts.value, width)).height();
+    const double stack = QFontMetricsF(MakeFont(m_fonts.stack, width)).height();
+    const double label = QFontMetricsF(MakeFont(m_fonts.label, width)).height() * 4 / 5;
+    return static_cast<int>(std::ceil(3 * scale + 5 * scale + label + value + (LinesShown() - 1) * stack + 2));
+}
+
 void DisplayView::paintEvent(QPaintEvent*) {
     const Engine& e = m_engine;
-    const Preferences& p = e.prefs;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.fillRect(rect(), ToQColor(m_colours.window));
@@ -97,25 +115,17 @@ void DisplayView::paintEvent(QPaintEvent*) {
     const double radius = m_borders.displayFrame ? 4 * scale : 0;
     painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
 
-    // The five fonts scale with the view from the handheld's 240-pixel screen; "ClearType" lets
-    // the text use the screen's subpixels.
-    const auto makeFont = [&](DisplayFont which) {
-        const FontSpec spec = FontSpecOf(which);
-        QFont f = font();
-        f.setPixelSize(std::max(6, static_cast<int>(std::lround(spec.pixels * scale))));
-        f.setBold(spec.bold);
-        f.setStyleStrategy(p.ClearType() ? QFont::PreferAntialias : QFont::NoSubpixelAntialias);
-        return f;
-    };
-    const QFont valueFont = makeFont(m_fonts.value), dateFont = makeFont(m_fonts.date);
-    const QFont stackFont = makeFont(m_fonts.stack), labelFont = makeFont(m_fonts.label);
+    const QFont valueFont = MakeFont(m_fonts.value, width()), dateFont = MakeFont(m_fonts.date, width());
+    const QFont stackFont = MakeFont(m_fonts.stack, width()), labelFont = MakeFont(m_fonts.label, width());
 
     const double pad = std::round(5 * scale);
     QRectF inner = area.adjusted(pad, pad / 2, -pad, -pad / 2);
 
-    // One row of annunciators: only the states that are on are drawn.
-    painter.setFont(labelFont);
-    const double rowHeight = QFontMetricsF(labelFont).height();
+    // One row of annunciators, smaller than the labels: only the states that are on are drawn.
+    QFont annunciatorFont = labelFont;
+    annunciatorFont.setPixelSize(std::max(6, labelFont.pixelSize() * 4 / 5));
+    painter.setFont(annunciatorFont);
+    const double rowHeight = QFontMetricsF(annunciatorFont).height();
     const QRectF row(inner.left(), inner.top(), inner.width(), rowHeight);
     painter.setPen(ToQColor(m_colours.annunciator));
     painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter, Annunciators().join(QStringLiteral("  ")));

@@ -22,6 +22,8 @@ public:
     void SetLook(const ScreenColours& colours, const ThemeSet& themes, const QString& keyboardName);
     // The number of stack levels drawn in the current view.
     int LinesShown() const;
+    // The height that shows every line at this width.
+    int PreferredHeight(int width) const;
     // The display's text as a screen reader reads it: X, its label, then the other levels.
     QString AccessibleText() const;
     // The annunciators that are on, in the order drawn.
@@ -31,6 +33,7 @@ Q_SIGNALS:
     void Tapped(TapArea area);
 
 protected:
+    QFont MakeFont(DisplayFont which, int width) const;
     void paintEvent(QPaintEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
 

@@ -73,9 +73,16 @@ int KeyView::TitleHeight() const {
     return static_cast<int>(std::lround(16 * GridScale(width())));
 }
 
+int KeyView::Inset() const {
+    // Unframed keys keep one gap from the window's edges so that no key touches them.
+    return m_look.framed == Framed::Yes ? 0 : static_cast<int>(std::lround(m_look.sizeSet.horizontalGap * GridScale(width())));
+}
+
 void KeyView::Relayout() {
-    m_grid = LayoutKeyGrid(width(), height() - TitleHeight(), m_columns, std::max(1, Rows()), m_look.sizeSet,
-                           m_look.framed);
+    const int inset = Inset();
+    m_grid = LayoutKeyGrid(width() - 2 * inset, height() - TitleHeight() - inset, m_columns, std::max(1, Rows()),
+                           m_look.sizeSet, m_look.framed);
+    m_grid.left += inset;
     m_grid.top += TitleHeight();
 }
 
@@ -144,7 +151,9 @@ void KeyView::DrawKey(QPainter& painter, int index) {
         return ToRectF(r).translated(shift).adjusted(0, 0, -depth, r.height ? -depth / 2 : 0);
     };
     painter.setPen(text);
-    const bool bold = large == fid::Enter || large == fid::Equals || KeyClassOf(large) == KeyClass::Number;
+    // Digits and the four operators with "=" and ENTER are the keys read most: drawn bold.
+    const bool bold = KeyClassOf(large) == KeyClass::Number ||
+                      (large >= fid::Enter && large <= fid::Equals);
     DrawLegend(painter, LegendText(large), area(place.largeArea), place.largePixels, bold);
     if (place.small) {
         const FunctionId small = *place.small == Legend::Shifted ? key.shifted : key.unshifted;

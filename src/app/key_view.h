@@ -70,6 +70,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    int Inset() const;
     void Relayout();
     void DrawKey(QPainter& painter, int index);
 

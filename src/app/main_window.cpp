@@ -218,7 +218,9 @@ void MainWindow::LayoutViews() {
     KeyView* keys = basic ? m_basic : m_keys;
     const int wanted = PreferredKeyboardHeight(area.width(), keys->Columns(), std::max(1, keys->Rows()),
                                                KeySizeSetOf(KeySizeOf(p, m_themes)), BordersOf(p, m_themes).keyboardFrame);
-    const int keyHeight = std::min(wanted + keys->TitleHeight(), static_cast<int>(area.height() * (basic ? 0.62 : 0.78)));
+    // Every line the display shows must fit; the keys then give up height, down to half the area.
+    const int room = std::max(area.height() - m_display->PreferredHeight(area.width()), area.height() / 2);
+    const int keyHeight = std::min({wanted + keys->TitleHeight(), room, static_cast<int>(area.height() * (basic ? 0.62 : 0.8))});
     m_display->setGeometry(area.left(), area.top(), area.width(), area.height() - keyHeight);
     keys->setGeometry(area.left(), area.bottom() - keyHeight + 1, area.width(), keyHeight);
 }
