@@ -1,5 +1,5 @@
 #pragma once
-// One running calculator of the desktop program: the engine and session, where they are kept,
+// One running calculator of the desktop program: the engine and its session, where they are kept,
 // and what the window remembers about itself. Tests build one with their own host.
 #include <QByteArray>
 #include <optional>
@@ -7,7 +7,7 @@
 
 #include "engine/engine.h"
 #include "session/session.h"
-#include "store/record_store.h"
+#include "session/session_store.h"
 
 namespace brinto {
 
@@ -23,28 +23,18 @@ class Calculator {
 public:
     explicit Calculator(WindowHost& host);
 
-    // Loads the calculator the options name (repairing what is damaged, importing the handheld
-    // release's settings on a first run). Store trouble is left in `trouble`, and the run then
-    // goes on in memory.
-    void Start(const AppOptions& options);
-    bool FirstRun() const { return m_firstRun; }
-    const std::string& Trouble() const { return m_trouble; }
-    // The first run's answer: the input method in the preferences and in the engine at once.
-    void ChooseInputMethod(InputMethod method);
+    // Loads the calculator the options name; the session's store repairs what is damaged, takes
+    // over the handheld release's settings and asks for the input method on a first run, and
+    // reports trouble through the host.
+    StartOutcome Start(const AppOptions& options);
 
     // Writes what changed, and the window's size and position beside the calculator's records.
     void Save(const QByteArray& geometry);
-    QByteArray SavedGeometry();
+    QByteArray SavedGeometry() const;
 
     Engine engine;
     Session session;
-
-private:
-    RecordStore m_store;
-    bool m_saving = false;
-    bool m_firstRun = false;
-    std::string m_trouble;
-    QByteArray m_geometry;
+    SessionStore store;
 };
 
 }  // namespace brinto

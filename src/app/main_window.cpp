@@ -13,7 +13,7 @@
 #include <QHBoxLayout>
 
 #include "engine/function_ids.h"
-#include "session/keyboards.h"
+#include "engine/keyboards.h"
 #include "session/keypad.h"
 #include "session/session.h"
 
@@ -114,11 +114,11 @@ void MainWindow::BuildMenus() {
     add(viewMenu, QStringLiteral("Basic"), [&s] { s.Basic(); });
     add(viewMenu, QStringLiteral("Advanced"), [&s] { s.Advanced(); });
     viewMenu->addSeparator();
-    const std::pair<const char*, AppView> views[] = {
-        {"Stack...", AppView::Stack}, {"User Registers...", AppView::UserRegisters},
-        {"Constants...", AppView::Constants}, {"TVM...", AppView::Tvm},
-        {"Amortization...", AppView::Amortization}, {"Cash Flow...", AppView::CashFlow},
-        {"Statistical...", AppView::Statistical}};
+    const std::pair<const char*, View> views[] = {
+        {"Stack...", View::Stack}, {"User Registers...", View::UserRegisters},
+        {"Constants...", View::Constants}, {"TVM...", View::Tvm},
+        {"Amortization...", View::Amortization}, {"Cash Flow...", View::CashFlow},
+        {"Statistical...", View::Statistical}};
     for (const auto& [text, which] : views) {
         add(viewMenu, QString::fromLatin1(text), [this, which = which] { OpenView(which); });
     }
@@ -133,8 +133,8 @@ void MainWindow::BuildMenus() {
     add(editMenu, QStringLiteral("Paste"), [&s] { s.Paste(); }, QKeySequence(Qt::CTRL | Qt::Key_V));
 
     QMenu* optionsMenu = menuBar()->addMenu(QStringLiteral("Options"));
-    add(optionsMenu, QStringLiteral("Preferences..."), [this] { OpenView(AppView::Preferences); });
-    add(optionsMenu, QStringLiteral("Keyboard..."), [this] { OpenView(AppView::Keyboard); });
+    add(optionsMenu, QStringLiteral("Preferences..."), [this] { OpenView(View::Preferences); });
+    add(optionsMenu, QStringLiteral("Keyboard..."), [this] { OpenView(View::Keyboard); });
     optionsMenu->addSeparator();
     add(optionsMenu, QStringLiteral("About Brinto..."), [this] { ShowAbout(); });
     optionsMenu->addSeparator();
@@ -163,8 +163,8 @@ void MainWindow::Refresh() {
     const bool basic = IsBasic(e);
 
     std::vector<KeyCell> cells;
-    const KeyBlock unshifted = KeyLayout(keyboard, 0, m_session.userKeys);
-    const KeyBlock shifted = KeyLayout(keyboard, 1, m_session.userKeys);
+    const KeyBlock unshifted = KeyLayout(keyboard, 0, m_session.userKeys());
+    const KeyBlock shifted = KeyLayout(keyboard, 1, m_session.userKeys());
     for (int k = 0; k < kBlockKeys; ++k) cells.push_back({unshifted[k], shifted[k], k + 1});
     for (const KeypadRow& row : SharedKeypad()) {
         for (const KeypadKey& key : row) cells.push_back({key.unshifted, key.shifted, 0});
@@ -236,16 +236,13 @@ void MainWindow::KeyTapped(const KeyView* view, int index) {
 }
 
 void MainWindow::DisplayTapped(TapArea area) {
-    OpenView(static_cast<int>(m_session.engine().prefs.Tap(area)));
+    // The "Tap:" list and the views are in the same order.
+    OpenView(static_cast<View>(static_cast<u16>(m_session.engine().prefs.Tap(area))));
 }
 
-void MainWindow::OpenView(int view) {
-    if (view >= 0 && view <= static_cast<int>(AppView::About)) OpenView(static_cast<AppView>(view));
-}
-
-void MainWindow::OpenView(AppView view) {
-    // The dialogs and list views are not part of this program yet; the About box is.
-    if (view == AppView::About) ShowAbout();
+void MainWindow::OpenView(View view) {
+    // The dialogs and list views are not part of this program yet.
+    Q_UNUSED(view);
 }
 
 void MainWindow::OpenHelp(const QString& anchor) {

@@ -6,6 +6,7 @@
 
 #include "app/display_view.h"
 #include "app/key_view.h"
+#include "session/host.h"
 #include "session/theme.h"
 
 class QActionGroup;
@@ -16,11 +17,6 @@ class QToolBar;
 namespace brinto {
 
 class Session;
-
-// The windows a menu entry, a display tap or the Action button can open, in the order of the
-// "Tap:" list, then the dialogs that only the menus open.
-enum class AppView { Preferences, Keyboard, Stack, UserRegisters, Constants, Tvm, Amortization, CashFlow,
-                     Statistical, About };
 
 class MainWindow : public QMainWindow {
     Q_OBJECT
@@ -33,8 +29,8 @@ public:
     // Takes the colours of the theme that the preferences name (at creation and after the
     // "Preferences" sheet closed).
     void ApplyTheme();
-    void OpenView(int view);
-    void OpenView(AppView view);
+    // The one way to open a dialog view: menus, display taps and the Action button.
+    void OpenView(View view);
     // The help viewer at an anchor of the user guide.
     void OpenHelp(const QString& anchor);
 

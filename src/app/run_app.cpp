@@ -11,7 +11,6 @@
 #include <csignal>
 #include <cstdio>
 
-#include "app/input_method_dialog.h"
 #include "app/main_window.h"
 #include "app/window_host.h"
 
@@ -111,17 +110,12 @@ int RunApp(int argc, char** argv) {
     QApplication::setApplicationVersion(QStringLiteral(BRINTO_VERSION));
 
     WindowHost host;
+    host.askInputMethod = !options->memory;
     Calculator calculator(host);
-    calculator.Start(*options);
-
     MainWindow window(calculator.session);
     host.window = &window;
     window.onSave = [&] { calculator.Save(window.saveGeometry()); };
-    if (const QByteArray geometry = calculator.SavedGeometry(); !geometry.isEmpty()) window.restoreGeometry(geometry);
 
-    if (!calculator.Trouble().empty()) {
-        QMessageBox::warning(nullptr, QStringLiteral("Brinto"), QString::fromStdString(calculator.Trouble()));
-    }
     // A signal ends every event loop, also the first run's dialog; the calculator is saved once
     // the loops are left.
     bool stopping = false;
@@ -129,20 +123,18 @@ int RunApp(int argc, char** argv) {
         stopping = true;
         QApplication::quit();
     });
-    bool preferencesAfterwards = false;
-    if (calculator.FirstRun() && !options->memory) {
-        InputMethodDialog dialog;
-        dialog.exec();  // closing the window counts as OK
-        calculator.ChooseInputMethod(dialog.Chosen());
-        preferencesAfterwards = dialog.PreferencesAfterwards();
-        window.Refresh();
+    const StartOutcome outcome = calculator.Start(*options);
+    for (const std::string& notice : outcome.notices) {
+        QMessageBox::information(&window, QStringLiteral("Brinto"), QString::fromStdString(notice));
     }
     if (stopping) {
         calculator.Save(window.saveGeometry());
         return 0;
     }
+    if (const QByteArray geometry = calculator.SavedGeometry(); !geometry.isEmpty()) window.restoreGeometry(geometry);
+    window.ApplyTheme();
     window.show();
-    if (preferencesAfterwards) window.OpenView(AppView::Preferences);
+    if (outcome.openPreferences) window.OpenView(View::Preferences);
 
     if (!options->keys.empty()) {
         const QString keys = QString::fromStdString(options->keys);

@@ -6,6 +6,7 @@
 #include <QLocale>
 #include <QMessageBox>
 
+#include "app/input_method_dialog.h"
 #include "app/main_window.h"
 #include "session/session.h"
 
@@ -42,13 +43,24 @@ std::optional<std::string> WindowHost::ClipboardText() {
     return text.toStdString();
 }
 
-void WindowHost::Beep() { QApplication::beep(); }
+void WindowHost::Beep() const { QApplication::beep(); }
+
+InputMethodChoice WindowHost::AskInputMethod() {
+    if (!askInputMethod) return {};
+    InputMethodDialog dialog(window);
+    dialog.exec();  // closing the window counts as OK
+    return {dialog.Chosen(), dialog.PreferencesAfterwards()};
+}
+
+void WindowHost::ReportTrouble(std::string_view text) {
+    QMessageBox::warning(window, QStringLiteral("Brinto"), Text(text));
+}
 
 void WindowHost::Repaint() {
     if (window) window->Refresh();
 }
 
-void WindowHost::OpenView(int view) {
+void WindowHost::OpenView(View view) {
     if (window) window->OpenView(view);
 }
 

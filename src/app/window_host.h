@@ -10,7 +10,7 @@ namespace brinto {
 
 class MainWindow;
 
-class WindowHost : public Host, public Platform {
+class WindowHost : public Host {
 public:
     // Message boxes with the calculator's captions, texts, icons and buttons. Tests override
     // these two to record the messages instead of showing them.
@@ -19,16 +19,20 @@ public:
 
     void PutOnClipboard(std::string_view text) override;
     std::optional<std::string> ClipboardText() override;
-    void Beep() override;
     void Repaint() override;
-    void OpenView(int view) override;
+    void OpenView(View view) override;
+    // The first run's "Input Method" dialog (not asked of a calculator kept in memory only).
+    InputMethodChoice AskInputMethod() override;
+    void ReportTrouble(std::string_view text) override;
 
     DateFields Now() const override;
     std::string DateText(const DateFields& date, bool longForm) const override;
     std::string TimeText(const DateFields& time) const override;
+    void Beep() const override;
 
     // The window that repaints and opens views; none while the program starts.
     MainWindow* window = nullptr;
+    bool askInputMethod = true;
 };
 
 }  // namespace brinto

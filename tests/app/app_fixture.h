@@ -19,13 +19,15 @@ public:
         messages.emplace_back(caption);
         return confirm;
     }
-    void Beep() override { ++beeps; }
+    RecordingHost() { askInputMethod = false; }
+    void Beep() const override { ++beeps; }
+    void ReportTrouble(std::string_view text) override { messages.emplace_back(text); }
     // The moment brinto-cli is pinned to with --now, so date keys agree.
     DateFields Now() const override { return {2005, 3, 15, 14, 5, 0, 2}; }
 
     std::vector<std::string> messages;
     bool confirm = true;
-    int beeps = 0;
+    mutable int beeps = 0;
 };
 
 struct Desk {
@@ -40,7 +42,15 @@ struct Desk {
         window.Refresh();
     }
 
-    Engine& engine() { return calculator.engine; }
+    const Engine& engine() { return calculator.engine; }
+    // Changes the preferences as the "Preferences" sheet's OK does, theme included.
+    template <typename Change>
+    void ChangePreferences(Change change) {
+        Preferences p = engine().prefs;
+        change(p);
+        session().SetPreferences(p);
+        window.ApplyTheme();
+    }
     Session& session() { return calculator.session; }
     // The X line as brinto-cli prints it: the text, and the label after two blanks.
     std::string XLine();

@@ -8,7 +8,7 @@
 #include <functional>
 
 #include "app_fixture.h"
-#include "session/keyboards.h"
+#include "engine/keyboards.h"
 #include "session/screen_colours.h"
 
 namespace brinto::test {
@@ -40,8 +40,7 @@ TEST(Drawing, EveryThemeDrawsLegibleKeysAndDisplayAtTwoSizes) {
     for (u16 theme = theme_id::DefaultColor; theme <= theme_id::DarkBackground; ++theme) {
         for (QSize size : {QSize(240, 320), QSize(720, 960)}) {
             Desk desk(size);
-            desk.engine().prefs.SetTheme(theme);
-            desk.window.ApplyTheme();
+            desk.ChangePreferences([theme](Preferences& p) { p.SetTheme(theme); });
             desk.Type("12345");
             desk.Click(fid::ChangeSign);
             const QImage image = Grab(desk);
@@ -88,8 +87,7 @@ TEST(Drawing, EachAppearanceChoiceChangesTheDrawing) {
     const auto draw = [](const Setter& set) {
         Desk desk;
         desk.Type("1234.5\r6\r");
-        set(desk.engine().prefs);
-        desk.window.ApplyTheme();  // as when the "Preferences" sheet closes
+        desk.ChangePreferences(set);
         return Grab(desk);
     };
     const QImage plain = draw([](Preferences&) {});
@@ -99,8 +97,7 @@ TEST(Drawing, EachAppearanceChoiceChangesTheDrawing) {
     // "Active:" changes how a key looks while it is held down.
     const auto pressed = [](int active) {
         Desk desk;
-        desk.engine().prefs.SetActiveKey(active);
-        desk.window.ApplyTheme();
+        desk.ChangePreferences([active](Preferences& p) { p.SetActiveKey(active); });
         KeyView* keys = desk.window.keyboardView();
         QTest::mousePress(keys, Qt::LeftButton, {}, keys->CellRect(20).center());
         const QImage image = Grab(desk);
@@ -116,18 +113,16 @@ TEST(Drawing, ScreenshotsOfEveryKeyboard) {
     for (u16 theme : {theme_id::DefaultColor, theme_id::DarkBackground}) {
         for (QSize size : {QSize(240, 320), QSize(540, 720)}) {
             Desk desk(size);
-            desk.engine().prefs.SetTheme(theme);
-            desk.window.ApplyTheme();
+            desk.ChangePreferences([theme](Preferences& p) { p.SetTheme(theme); });
             desk.Type("1234.5\r");
             for (int keyboard = 0; keyboard < kKeyboardCount; ++keyboard) {
                 desk.session().SelectKeyboard(keyboard);
                 for (bool shifted : {false, true}) {
-                    if (shifted) desk.engine().state.status |= status::FirstShift;
-                    else desk.engine().state.status &= static_cast<u16>(~status::FirstShift);
-                    desk.window.Refresh();
+                    if (shifted) desk.session().Tap(fid::Shift);
                     Grab(desk).save(QStringLiteral("%1/t%2-%3-k%4%5.png")
                                         .arg(folder).arg(theme).arg(size.width()).arg(keyboard)
                                         .arg(shifted ? QStringLiteral("s") : QString()));
+                    if (shifted) desk.session().Tap(fid::Shift);
                 }
             }
         }

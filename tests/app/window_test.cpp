@@ -17,7 +17,7 @@
 
 #include "app_fixture.h"
 #include "display/display_text.h"
-#include "session/keyboards.h"
+#include "engine/keyboards.h"
 #include "session/session.h"
 
 namespace brinto::test {
@@ -133,8 +133,7 @@ TEST(Window, KeyboardsSwitchByArrowsDropDownAndStrip) {
     EXPECT_EQ(desk.engine().Keyboard(), 4);
     EXPECT_TRUE(desk.window.selector()->isVisible());
 
-    desk.engine().prefs.SetQuickSwitch(true);
-    desk.window.Refresh();
+    desk.ChangePreferences([](Preferences& p) { p.SetQuickSwitch(true); });
     EXPECT_FALSE(desk.window.selector()->isVisible());
     ASSERT_TRUE(desk.window.quickSwitch()->isVisible());
     QAbstractButton* programmer = desk.window.quickSwitchButtons()->button(4);
@@ -188,7 +187,7 @@ TEST(Window, MenuCommandsAndTheirMessages) {
 
     // Clear All asks first; Cancel executes nothing.
     desk.host.messages.clear();
-    desk.engine().registers.values[5] = 9.0;
+    desk.session().StoreRegister(5, 9.0);
     desk.host.confirm = false;
     ASSERT_TRUE(desk.Click(fid::Shift));
     ASSERT_TRUE(desk.Click(fid::ClearAll));
