@@ -57,6 +57,9 @@ public:
     // The legend drawn large on the face.
     FunctionId LargeId(int index) const;
 
+    // A tap on the key from outside the mouse: accessibility tools' press action.
+    void Press(int index) { Q_EMIT Tapped(index); }
+
 Q_SIGNALS:
     void Tapped(int index);
 

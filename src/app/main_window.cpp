@@ -12,6 +12,7 @@
 #include <QToolButton>
 #include <QHBoxLayout>
 
+#include "app/accessibility.h"
 #include "engine/function_ids.h"
 #include "engine/keyboards.h"
 #include "session/keypad.h"
@@ -53,6 +54,7 @@ MainWindow::MainWindow(Session& session, QWidget* parent) : QMainWindow(parent),
     setMinimumSize(240, 320);
     resize(360, 480);
 
+    InstallAccessibility();
     m_pane = new QWidget(this);
     m_pane->installEventFilter(this);
     m_pane->setFocusPolicy(Qt::StrongFocus);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QAction>
 #include <QButtonGroup>
 #include <QClipboard>
@@ -222,6 +223,30 @@ TEST(Window, MenusHoldTheirEntriesInOrder) {
               "View:|Basic|Advanced|-|Stack...|User Registers...|Constants...|TVM...|Amortization...|"
               "Cash Flow...|Statistical...|Edit:|Undo|Redo|-|Cut|Copy|Paste|Options:|Preferences...|"
               "Keyboard...|-|About Brinto...|-|Quit");
+}
+
+TEST(Window, KeysAndDisplayAreVisibleToAccessibilityTools) {
+    Desk desk;
+    KeyView* keys = desk.window.keyboardView();
+    QAccessibleInterface* view = QAccessible::queryAccessibleInterface(keys);
+    ASSERT_NE(view, nullptr);
+    ASSERT_EQ(view->childCount(), keys->KeyCount());
+    int seven = -1;
+    for (int i = 0; i < view->childCount(); ++i) {
+        QAccessibleInterface* key = view->child(i);
+        EXPECT_EQ(key->role(), QAccessible::Button);
+        EXPECT_FALSE(key->text(QAccessible::Name).isEmpty()) << i;
+        EXPECT_EQ(view->indexOfChild(key), i);
+        if (keys->ActiveId(i) == 7) seven = i;
+    }
+    ASSERT_GE(seven, 0);
+    QAccessibleInterface* key = view->child(seven);
+    EXPECT_EQ(view->childAt(key->rect().center().x(), key->rect().center().y()), key);
+    key->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    key->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QAccessibleInterface* display = QAccessible::queryAccessibleInterface(desk.window.display());
+    ASSERT_NE(display, nullptr);
+    EXPECT_TRUE(display->text(QAccessible::Value).startsWith(QStringLiteral("77"))) << display->text(QAccessible::Value).toStdString();
 }
 
 }  // namespace
