@@ -48,6 +48,7 @@ bench: deps
 	cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release -DBRINTO_BENCH=ON -DBRINTO_TESTS=OFF $(CMAKE_FLAGS)
 	cmake --build build-bench -j $(JOBS)
 	./build-bench/brinto_bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true
+	./build-bench/app_bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true
 
 # Every fuzz target for 20 s on its seeds plus new inputs: a regression check, not a search.
 test-fuzz: fuzz-build
