@@ -1,0 +1,207 @@
+#include "app/dialogs/dialogs.h"
+
+#include <QApplication>
+#include <QCalendarWidget>
+#include <QDialog>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMessageBox>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include "app/dialogs/constants_dialog.h"
+#include "app/dialogs/date_time_dialogs.h"
+#include "app/dialogs/dialog_commands.h"
+#include "app/dialogs/help_viewer.h"
+#include "app/dialogs/keyboard_dialog.h"
+#include "app/dialogs/preferences_dialog.h"
+#include "app/dialogs/register_view.h"
+#include "app/dialogs/stack_view.h"
+
+namespace brinto::dialogs {
+namespace {
+
+constexpr const char* kLicenceLine =
+    "Licensed under the terms supplied with this copy; provided without any warranty.";
+
+QDialog* MakeAbout(const HelpFunction& help, QWidget* parent) {
+    auto* about = new QDialog(parent);
+    about->setWindowTitle(QStringLiteral("About Brinto"));
+    auto* icon = new QLabel(about);
+    const QIcon appIcon = QApplication::windowIcon().isNull()
+                              ? about->style()->standardIcon(QStyle::SP_ComputerIcon)
+                              : QApplication::windowIcon();
+    icon->setPixmap(appIcon.pixmap(48, 48));
+    auto* text = new QVBoxLayout;
+    text->addWidget(new QLabel(QStringLiteral("Brinto\u2122 for Linux"), about));
+    text->addWidget(new QLabel(QStringLiteral("Version " BRINTO_VERSION), about));
+    auto* licence = new QLabel(QString::fromUtf8(kLicenceLine), about);
+    licence->setWordWrap(true);
+    text->addWidget(licence);
+    auto* top = new QHBoxLayout;
+    top->addWidget(icon, 0, Qt::AlignTop);
+    top->addLayout(text, 1);
+    auto* column = new QVBoxLayout(about);
+    column->addLayout(top);
+    column->addWidget(MakeButtonRow(about, QDialogButtonBox::Ok, "about", help));
+    return about;
+}
+
+}  // namespace
+
+DialogHost::DialogHost(Session& session, QWidget* parent, HelpFunction help)
+    : QObject(parent), m_session(session), m_parent(parent), m_help(std::move(help)) {
+    if (!m_help) m_help = [this](std::string_view anchor) { OpenHelp(anchor); };
+}
+
+DialogHost::~DialogHost() {
+    if (m_helpViewer) delete m_helpViewer.data();
+}
+
+QDialog* DialogHost::Show(QDialog* dialog) {
+    if (dialog == m_stack) {
+        dialog->show();  // modeless: the calculator stays usable beside it
+    } else {
+        dialog->open();
+    }
+    dialog->raise();
+    dialog->activateWindow();
+    return dialog;
+}
+
+QWidget* DialogHost::Open(int view) {
+    if (view < 0 || view >= kViewCount) return nullptr;
+    return Open(static_cast<View>(view));
+}
+
+QWidget* DialogHost::Open(View view) {
+    RememberView(m_session, static_cast<u16>(view));
+    switch (view) {
+        case View::Preferences: {
+            PreferencesDialog* sheet = Preferences();
+            sheet->Load();
+            return Show(sheet);
+        }
+        case View::Keyboard:
+            if (!m_keyboard) m_keyboard = new KeyboardDialog(m_session, m_help, m_parent);
+            m_keyboard->Load();
+            return Show(m_keyboard);
+        case View::Stack:
+            if (!m_stack) {
+                m_stack = new StackView(m_session, m_help, m_parent);
+                connect(m_stack, &StackView::changed, this, &DialogHost::changed);
+            }
+            m_stack->Refresh();
+            return Show(m_stack);
+        case View::Constants:
+            if (!m_constants) {
+                m_constants = new ConstantsDialog(m_session, m_help, m_parent);
+                connect(m_constants, &ConstantsDialog::changed, this, &DialogHost::changed);
+            }
+            Show(m_constants);
+            m_constants->Load();
+            return m_constants;
+        case View::CashFlow:
+            if (CashFlowRows(m_session.engine()) < 2) return NoCashFlows();
+            return Show(Registers(view));
+        case View::UserRegisters:
+        case View::Tvm:
+        case View::Amortization:
+        case View::Statistical: return Show(Registers(view));
+    }
+    return nullptr;
+}
+
+PreferencesDialog* DialogHost::Preferences() {
+    if (m_preferences) return m_preferences;
+    m_preferences = new PreferencesDialog(m_session, m_help, m_parent);
+    connect(m_preferences, &QDialog::accepted, this, [this] {
+        ApplyPreferences(m_session, m_preferences->Edited());
+        emit changed();
+    });
+    connect(m_preferences, &QDialog::finished, this, &DialogHost::preferencesClosed);
+    return m_preferences;
+}
+
+RegisterView* DialogHost::Registers(View view) {
+    RegisterView*& slot = m_registers[static_cast<int>(view)];
+    if (!slot) {
+        const RegisterList list = view == View::Tvm            ? RegisterList::Tvm
+                                  : view == View::Amortization ? RegisterList::Amortization
+                                  : view == View::CashFlow     ? RegisterList::CashFlow
+                                  : view == View::Statistical  ? RegisterList::Statistical
+                                                               : RegisterList::UserRegisters;
+        slot = new RegisterView(m_session, list, m_help, m_parent);
+        connect(slot, &RegisterView::changed, this, &DialogHost::changed);
+    }
+    slot->Refresh();
+    return slot;
+}
+
+QMessageBox* DialogHost::NoCashFlows() {
+    auto* box = new QMessageBox(QMessageBox::Information, QStringLiteral("No Cash Flow Entries"),
+                                QStringLiteral("There are no cash flow entries to display."),
+                                QMessageBox::Ok, m_parent);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+    return box;
+}
+
+QDialog* DialogHost::OpenAbout() {
+    if (!m_about) m_about = MakeAbout(m_help, m_parent);
+    return Show(m_about);
+}
+
+EnterDateDialog* DialogHost::OpenEnterDate() {
+    if (!m_enterDate) {
+        m_enterDate = new EnterDateDialog(m_help, m_parent);
+        connect(m_enterDate, &QDialog::accepted, this, [this] {
+            const QDate date = m_enterDate->calendar()->selectedDate();
+            if (EnterDate(m_session, date.year(), date.month(), date.day())) emit changed();
+        });
+    }
+    const DateFields offer = DateTimeToOffer(m_session.engine(), Offer::Date);
+    m_enterDate->SetDate(offer.year, offer.month, offer.day);
+    Show(m_enterDate);
+    return m_enterDate;
+}
+
+EnterTimeDialog* DialogHost::OpenEnterTime() {
+    if (!m_enterTime) {
+        m_enterTime = new EnterTimeDialog(m_help, m_parent);
+        connect(m_enterTime, &QDialog::accepted, this, [this] {
+            if (EnterTime(m_session, m_enterTime->Hour(), m_enterTime->Minute())) emit changed();
+        });
+    }
+    const DateFields offer = DateTimeToOffer(m_session.engine(), Offer::Time);
+    m_enterTime->SetTime(offer.hour, offer.minute);
+    Show(m_enterTime);
+    return m_enterTime;
+}
+
+DurationsDialog* DialogHost::OpenDurations() {
+    if (!m_durations) {
+        m_durations = new DurationsDialog(m_session, m_help, m_parent);
+        connect(m_durations, &DurationsDialog::changed, this, &DialogHost::changed);
+    }
+    m_durations->Load();
+    Show(m_durations);
+    return m_durations;
+}
+
+HelpViewer* DialogHost::OpenHelp(std::string_view anchor) {
+    if (!m_helpViewer) m_helpViewer = new HelpViewer;
+    m_helpViewer->ShowAnchor(anchor);
+    m_helpViewer->show();
+    m_helpViewer->raise();
+    return m_helpViewer;
+}
+
+void DialogHost::Refresh() {
+    if (m_stack && m_stack->isVisible()) m_stack->Refresh();
+    for (RegisterView* view : m_registers) {
+        if (view && view->isVisible()) view->Refresh();
+    }
+}
+
+}  // namespace brinto::dialogs
