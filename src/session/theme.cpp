@@ -1,5 +1,6 @@
 #include "session/theme.h"
 
+#include <algorithm>
 #include <cassert>
 #include <span>
 
@@ -137,7 +138,7 @@ ThemeSet::ThemeSet() { BuildThemes(ColourDisplay::Yes); }
 
 void ThemeSet::BuildThemes(ColourDisplay colour) {
     m_themes.clear();
-    m_current = m_applied = nullptr;
+    m_current = m_applied = -1;
     for (const ThemeRow& row : kThemeRows) {
         const bool blackWhite =
             row.id == theme_id::DefaultBlackWhite || row.id == theme_id::OriginalBlackWhite;
@@ -152,20 +153,24 @@ Theme* ThemeSet::FindTheme(u16 id) {
     return nullptr;
 }
 
+int ThemeSet::IndexOf(const Theme* theme) const {
+    return theme == nullptr ? -1 : static_cast<int>(theme - m_themes.data());
+}
+
 Theme& ThemeSet::SelectTheme(u16 id) {
     if (id == 0) id = theme_id::DefaultColor;
-    if (Theme* found = FindTheme(id)) m_current = found;
+    if (const Theme* found = FindTheme(id)) m_current = IndexOf(found);
     return CurrentTheme();
 }
 
 Theme& ThemeSet::CurrentTheme() {
-    if (m_current == nullptr) m_current = FindTheme(theme_id::DefaultColor);
     // A black-and-white list has no "Default Color": its first theme stands in.
-    if (m_current == nullptr) m_current = &m_themes.front();
-    return *m_current;
+    if (m_current < 0) m_current = std::max(0, IndexOf(FindTheme(theme_id::DefaultColor)));
+    return m_themes[m_current];
 }
 
 void ThemeSet::ApplyTheme(Theme& theme) {
+    assert(IndexOf(&theme) >= 0 && IndexOf(&theme) < static_cast<int>(m_themes.size()));
     const ThemeRow& row = RowOf(theme.id);
     theme.styles = kDefaultStyles;
     m_palette.fill(kBlack);
@@ -180,11 +185,11 @@ void ThemeSet::ApplyTheme(Theme& theme) {
         m_keyStyle[key_style::Outline] = 1;
         if (m_keyStyle[key_style::Shadow] > 0) --m_keyStyle[key_style::Shadow];
     }
-    m_applied = &theme;
+    m_applied = IndexOf(&theme);
 }
 
 const ThemeStyles& ThemeSet::styles() const {
-    return m_applied != nullptr ? m_applied->styles : kDefaultStyles;
+    return m_applied >= 0 ? m_themes[m_applied].styles : kDefaultStyles;
 }
 
 }  // namespace brinto

@@ -65,8 +65,8 @@ struct Theme {
 
 enum class ColourDisplay { No, Yes };
 
-// The theme list with the palette it paints. Built themes stay at fixed addresses until the next
-// BuildThemes, so a Theme& from FindTheme or CurrentTheme stays valid until then.
+// The theme list with the palette it paints. A Theme& from FindTheme or CurrentTheme stays valid
+// until the next BuildThemes; a copied set keeps its own themes and current theme.
 class ThemeSet {
 public:
     ThemeSet();  // builds the colour list; nothing selected or applied yet (palette all black)
@@ -92,9 +92,11 @@ public:
     const ThemeStyles& styles() const;
 
 private:
+    int IndexOf(const Theme* theme) const;
+
     std::vector<Theme> m_themes;
-    Theme* m_current = nullptr;
-    Theme* m_applied = nullptr;
+    int m_current = -1;  // indices into m_themes; -1 for none
+    int m_applied = -1;
     Palette m_palette{};
     KeyStyle m_keyStyle{};
 };
