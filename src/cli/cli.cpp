@@ -12,6 +12,7 @@
 #include "cli/tokens.h"
 #include "display/display_text.h"
 #include "engine/key_table.h"
+#include "finance/amortization_schedule.h"
 #include "ops/constants.h"
 #include "session/persistence.h"
 #include "store/legacy_import.h"
@@ -40,6 +41,7 @@ struct Options {
     bool json = false;
     bool memory = false;
     bool listKeys = false;
+    bool schedule = false;
     std::optional<std::string> db;
     std::optional<std::string> importLegacy;
     std::vector<std::pair<int, u16>> prefs;
@@ -72,6 +74,8 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& args, std::s
             o.memory = true;
         } else if (a == "--list-keys") {
             o.listKeys = true;
+        } else if (a == "--schedule") {
+            o.schedule = true;
         } else if (a == "--db" && hasValue) {
             o.db = args[++i];
         } else if (a == "--import-legacy" && hasValue) {
@@ -151,10 +155,11 @@ bool CheckTokens(const Words& words, std::string& error) {
 // Runs one token; false when a key of it was not accepted.
 bool RunToken(Session& session, const Token& t) {
     switch (t.kind) {
-        case TokenKind::Key: return session.Tap(t.id);
+        case TokenKind::Key: return session.TapKey(t.id);
+        case TokenKind::ExactKey: return session.Tap(t.id);
         case TokenKind::Number: {
             bool accepted = true;
-            TypeNumber(t.text, [&](FunctionId id) { accepted = session.Tap(id) && accepted; });
+            TypeNumber(t.text, [&](FunctionId id) { accepted = session.TapKey(id) && accepted; });
             return accepted;
         }
         case TokenKind::Characters: {
@@ -280,7 +285,7 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
         for (int i = 0; i < kConstantCount; ++i) out << "const:" << i << ' ' << ConstantName(i) << '\n';
         return 0;
     }
-    const bool interactive = options->tokens.empty() && inIsTerminal && !options->json;
+    const bool interactive = options->tokens.empty() && inIsTerminal && !options->json && !options->schedule;
     std::string script;
     if (options->tokens.empty() && !inIsTerminal) {
         script.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
@@ -324,11 +329,15 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
         return 2;  // nothing is saved: the run ends as if it had not started
     }
     save();
-    if (options->json) {
+    if (options->json && !options->schedule) {
         out << JsonReport(session, host.report);
     } else {
         for (const ReportMessage& m : host.report.messages) err << m.caption << ": " << m.text << '\n';
-        PrintLine(out, engine, 0, "");
+        if (options->schedule) {
+            out << ScheduleCsv(MakeAmortizationSchedule(engine));
+        } else {
+            PrintLine(out, engine, 0, "");
+        }
     }
     return 0;
 }

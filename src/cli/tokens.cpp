@@ -52,7 +52,7 @@ std::optional<Token> ParseToken(std::string_view text) {
     if (text[0] == '#') {
         const auto id = WholeNumber(text.substr(1), 0, 65535);
         if (!id) return std::nullopt;
-        return Token{TokenKind::Key, static_cast<FunctionId>(*id), {}, 0};
+        return Token{TokenKind::ExactKey, static_cast<FunctionId>(*id), {}, 0};
     }
     if (IsNumberToken(text)) return Token{TokenKind::Number, 0, text, 0};
     if (StartsWith(text, "keys:")) return Token{TokenKind::Characters, 0, text.substr(5), 0};

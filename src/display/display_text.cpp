@@ -6,7 +6,7 @@
 #include "display/number_format.h"
 #include "engine/engine.h"
 #include "engine/function_ids.h"
-#include "ops/integer_format.h"
+#include "engine/numeric/integer_format.h"
 
 namespace brinto {
 

@@ -8,9 +8,9 @@
 #include "engine/families.h"
 #include "engine/macro.h"
 #include "engine/number_entry.h"
+#include "engine/numeric/integer_format.h"
 #include "engine/register_clears.h"
 #include "engine/register_keys.h"
-#include "ops/integer_format.h"
 
 namespace brinto {
 

@@ -5,9 +5,9 @@
 
 #include <cmath>
 
-#include "display/number_format.h"
 #include "engine/families.h"
-#include "ops/date_fields.h"
+#include "engine/numeric/date_fields.h"
+#include "engine/numeric/decimal_digits.h"
 #include "ops/units.h"
 
 namespace brinto {

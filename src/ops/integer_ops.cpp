@@ -6,7 +6,7 @@
 #include <cstdint>
 
 #include "engine/families.h"
-#include "ops/integer_format.h"
+#include "engine/numeric/integer_format.h"
 
 namespace brinto {
 

@@ -8,6 +8,7 @@
 
 #include "display/number_format.h"
 #include "engine/families.h"
+#include "engine/numeric/decimal_digits.h"
 #include "ops/two_operand.h"
 #include "ops/units.h"
 

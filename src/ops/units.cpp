@@ -6,9 +6,9 @@
 #include <initializer_list>
 #include <span>
 
-#include "display/number_format.h"
 #include "engine/families.h"
-#include "ops/date_fields.h"
+#include "engine/numeric/date_fields.h"
+#include "engine/numeric/decimal_digits.h"
 #include "ops/date_time.h"
 
 namespace brinto {

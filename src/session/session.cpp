@@ -2,8 +2,8 @@
 
 #include "display/display_text.h"
 #include "engine/function_ids.h"
+#include "engine/numeric/integer_format.h"
 #include "ops/constants.h"
-#include "ops/integer_format.h"
 #include "session/keyboards.h"
 #include "session/paste.h"
 
@@ -47,9 +47,10 @@ bool Session::TapBlockKey(int k) {
     if (k < 1 || k > kBlockKeys) return false;
     const bool shifted = m_engine.state.status & status::FirstShift;
     const KeyBlock block = KeyLayout(m_engine.Keyboard(), shifted ? 1 : 0, userKeys);
-    const FunctionId id = block[k - 1];
-    return Tap(id == kNoKey ? id : Remap(id));
+    return TapKey(block[k - 1]);
 }
+
+bool Session::TapKey(FunctionId id) { return Tap(Remap(id)); }
 
 bool Session::CharacterKey(char32_t c) {
     FunctionId id = kNoKey;
@@ -90,7 +91,8 @@ bool Session::CharacterKey(char32_t c) {
         m_host.Beep();
         return false;
     }
-    const bool accepted = Execute(id);
+    // Typed keys are remapped as tapped ones: "+" on the Programmer keyboard is the integer add.
+    const bool accepted = Execute(Remap(id));
     if (!accepted) m_host.Beep();
     return accepted;
 }

@@ -24,12 +24,15 @@ public:
     UserKeyMap userKeys = EmptyUserKeyMap();
 
     // A tap on an on-screen key carrying this FunctionId: 255 raises "No Function", 29 and 32 ask
-    // first. True when the dispatcher accepted the key.
+    // first. True when the dispatcher accepted the key. The id is dispatched as it is.
     bool Tap(FunctionId id);
+    // A tap on a key of the keypad: the id remapped as the keyboard does (integer variants on the
+    // Programmer keyboard, register variants), then as Tap.
+    bool TapKey(FunctionId id);
     // Key k (1..12) of the current keyboard's variable block, shifted while the shift latch is set,
     // remapped as the keyboard does (integer variants, register variants).
     bool TapBlockKey(int k);
-    // The keyboard's remapping of a key before it is dispatched.
+    // The keyboard's remapping of a key before it is dispatched; 255 stays 255.
     FunctionId Remap(FunctionId id) const;
 
     // Hardware keys of the main window. Characters that are no key beep.

@@ -12,7 +12,7 @@
 #include "display/labels.h"
 #include "display/number_format.h"
 #include "engine/engine.h"
-#include "ops/date_fields.h"
+#include "engine/numeric/date_fields.h"
 
 namespace brinto {
 namespace {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "engine/algebraic.h"
-#include "ops/integer_format.h"
+#include "engine/numeric/integer_format.h"
 #include "ops_test_support.h"
 #include "session/keyboards.h"
 
