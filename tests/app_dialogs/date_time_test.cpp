@@ -10,7 +10,7 @@
 #include "app_dialogs/dialog_test_support.h"
 #include "app_dialogs/test_classes.h"
 #include "engine/function_ids.h"
-#include "ops/date_fields.h"
+#include "engine/numeric/date_fields.h"
 
 namespace brinto::test {
 

@@ -5,7 +5,7 @@
 #include <cstring>
 
 #include "engine/function_ids.h"
-#include "ops/date_fields.h"
+#include "engine/numeric/date_fields.h"
 
 namespace brinto::dialogs {
 namespace {

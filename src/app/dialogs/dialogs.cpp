@@ -9,6 +9,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "app/dialogs/colour_dialogs.h"
 #include "app/dialogs/constants_dialog.h"
 #include "app/dialogs/date_time_dialogs.h"
 #include "app/dialogs/dialog_commands.h"
@@ -16,6 +17,7 @@
 #include "app/dialogs/keyboard_dialog.h"
 #include "app/dialogs/preferences_dialog.h"
 #include "app/dialogs/register_view.h"
+#include "app/dialogs/schedule_window.h"
 #include "app/dialogs/stack_view.h"
 
 namespace brinto::dialogs {
@@ -78,7 +80,7 @@ QWidget* DialogHost::Open(View view) {
     RememberView(m_session, static_cast<u16>(view));
     switch (view) {
         case View::Preferences: {
-            PreferencesDialog* sheet = Preferences();
+            PreferencesDialog* sheet = PreferencesSheet();
             sheet->Load();
             return Show(sheet);
         }
@@ -112,7 +114,7 @@ QWidget* DialogHost::Open(View view) {
     return nullptr;
 }
 
-PreferencesDialog* DialogHost::Preferences() {
+PreferencesDialog* DialogHost::PreferencesSheet() {
     if (m_preferences) return m_preferences;
     m_preferences = new PreferencesDialog(m_session, m_help, m_parent);
     connect(m_preferences, &QDialog::accepted, this, [this] {
@@ -120,6 +122,7 @@ PreferencesDialog* DialogHost::Preferences() {
         emit changed();
     });
     connect(m_preferences, &QDialog::finished, this, &DialogHost::preferencesClosed);
+    connect(m_preferences, &PreferencesDialog::colorsRequested, this, &DialogHost::OpenColours);
     return m_preferences;
 }
 
@@ -133,6 +136,7 @@ RegisterView* DialogHost::Registers(View view) {
                                                                : RegisterList::UserRegisters;
         slot = new RegisterView(m_session, list, m_help, m_parent);
         connect(slot, &RegisterView::changed, this, &DialogHost::changed);
+        connect(slot, &RegisterView::scheduleRequested, this, &DialogHost::OpenSchedule);
     }
     slot->Refresh();
     return slot;
@@ -187,6 +191,30 @@ DurationsDialog* DialogHost::OpenDurations() {
     m_durations->Load();
     Show(m_durations);
     return m_durations;
+}
+
+CustomizeColours* DialogHost::OpenColours() {
+    if (!m_colours) {
+        m_colours = new CustomizeColours(m_help, m_parent);
+        connect(m_colours, &QDialog::accepted, this, [this] {
+            m_customColours = m_colours->Edited();
+            emit coloursChanged(m_customColours);
+        });
+    }
+    // The colours of the theme chosen on the sheet, as the key classes show them without custom ones.
+    const Preferences& prefs = m_session.engine().prefs;
+    ThemeSet themes;
+    themes.ApplyTheme(themes.SelectTheme(prefs.Theme()));
+    m_colours->Load(MakeScreenColours(themes, prefs, DefaultDisplayStyle(themes)), m_customColours);
+    Show(m_colours);
+    return m_colours;
+}
+
+ScheduleWindow* DialogHost::OpenSchedule() {
+    if (!m_schedule) m_schedule = new ScheduleWindow(m_session.engine(), m_help, m_parent);
+    m_schedule->Refresh();
+    Show(m_schedule);
+    return m_schedule;
 }
 
 HelpViewer* DialogHost::OpenHelp(std::string_view anchor) {

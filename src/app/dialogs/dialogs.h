@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "app/dialogs/dialog_support.h"
+#include "session/screen_colours.h"
 #include "session/session.h"
 
 class QDialog;
@@ -18,6 +19,8 @@ class QWidget;
 namespace brinto::dialogs {
 
 class ConstantsDialog;
+class CustomizeColours;
+class ScheduleWindow;
 class DurationsDialog;
 class EnterDateDialog;
 class EnterTimeDialog;
@@ -50,6 +53,12 @@ public:
     EnterDateDialog* OpenEnterDate();
     EnterTimeDialog* OpenEnterTime();
     DurationsDialog* OpenDurations();
+    // "Customize Colors", on the colours in force; its OK keeps the custom colours and emits
+    // coloursChanged.
+    CustomizeColours* OpenColours();
+    ScheduleWindow* OpenSchedule();
+    const CustomColours& customColours() const { return m_customColours; }
+    void SetCustomColours(const CustomColours& colours) { m_customColours = colours; }
     HelpViewer* OpenHelp(std::string_view anchor);
 
     void Refresh();
@@ -58,10 +67,12 @@ signals:
     void changed();
     // The "Preferences" sheet closed: the theme in force is applied again.
     void preferencesClosed();
+    // The user's key colours changed: they lie over the theme until "Default" clears them.
+    void coloursChanged(const brinto::CustomColours& colours);
 
 private:
     QDialog* Show(QDialog* dialog);
-    PreferencesDialog* Preferences();
+    PreferencesDialog* PreferencesSheet();
     RegisterView* Registers(View view);
     QMessageBox* NoCashFlows();
 
@@ -77,6 +88,9 @@ private:
     EnterTimeDialog* m_enterTime = nullptr;
     DurationsDialog* m_durations = nullptr;
     QDialog* m_about = nullptr;
+    CustomizeColours* m_colours = nullptr;
+    ScheduleWindow* m_schedule = nullptr;
+    CustomColours m_customColours;
     QPointer<HelpViewer> m_helpViewer;
 };
 

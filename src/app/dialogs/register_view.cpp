@@ -69,7 +69,12 @@ RegisterView::RegisterView(Session& session, RegisterList list, const HelpFuncti
     m_table->horizontalHeader()->setSectionResizeMode(kValueColumn, QHeaderView::Stretch);
     auto* column = new QVBoxLayout(this);
     column->addWidget(m_table);
-    column->addWidget(MakeButtonRow(this, QDialogButtonBox::Close, info.anchor, help));
+    QDialogButtonBox* buttons = MakeButtonRow(this, QDialogButtonBox::Close, info.anchor, help);
+    if (list == RegisterList::Amortization) {
+        QPushButton* schedule = buttons->addButton(QStringLiteral("Schedule..."), QDialogButtonBox::ActionRole);
+        connect(schedule, &QPushButton::clicked, this, &RegisterView::scheduleRequested);
+    }
+    column->addWidget(buttons);
     connect(m_table, &QTableWidget::cellChanged, this, &RegisterView::Edited);
     resize(320, 360);
     Refresh();

@@ -28,6 +28,8 @@ public:
 signals:
     // The calculator changed: the main window repaints.
     void changed();
+    // The Amortization view's "Schedule..." button.
+    void scheduleRequested();
 
 private:
     // What a row shows and where an edit of it goes.
