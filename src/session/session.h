@@ -3,6 +3,7 @@
 // commands into engine work and raises the program's messages through its Host. The desktop
 // program and brinto-cli are thin views over it, so both behave alike.
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -15,13 +16,20 @@ namespace brinto {
 // Hardware keys that are not characters.
 enum class SpecialKey { Backspace, Delete, Enter, Up, Down, Left, Right };
 
+// The two halves of the User keyboard: the keys shown without and with the shift latch.
+enum class KeyHalf { Unshifted, Shifted };
+
+// Every change a front end makes goes through a command here, which marks the changed record
+// for the next save and asks the host for a repaint; front ends read the records through const
+// references only.
 class Session {
 public:
+    // Points the engine at the host for its clock and date texts.
     Session(Engine& engine, Host& host);
 
-    Engine& engine() { return m_engine; }
     const Engine& engine() const { return m_engine; }
-    UserKeyMap userKeys = EmptyUserKeyMap();
+    const UserKeyMap& userKeys() const { return m_userKeys; }
+    Host& host() { return m_host; }
 
     // A tap on an on-screen key carrying this FunctionId: 255 raises "No Function", 29 and 32 ask
     // first. True when the dispatcher accepted the key. The id is dispatched as it is.
@@ -54,14 +62,68 @@ public:
     void Basic();
     void Advanced();
 
+    // The first run's "Input Method" dialog's OK: the preferences and the engine switch at once.
+    void ChooseInputMethod(InputMethod method);
+    // The "Preferences" sheet's OK: the record as the pages left it. The input method of the
+    // "General" page is then sent through the dispatcher as its key (also when it did not
+    // change), and the display recomputes its layout.
+    void SetPreferences(const Preferences& prefs);
+    // Preferences given for this run only (brinto-cli's --pref): not marked changed, so they are
+    // saved only along with a later change.
+    void OverridePreferences(const Preferences& prefs);
+    void SelectTheme(u16 themeId);
+
+    // The "Customize Keyboard" dialog. `key` is 1..12 of the half; false for a key outside it.
+    bool AssignUserKey(KeyHalf half, int key, FunctionId id);
+    void ClearUserKeys(KeyHalf half);
+    // The 12 keys of built-in keyboard `keyboard` (0..7) in state `from` into the User half `into`.
+    bool CopyUserKeys(KeyHalf into, int keyboard, KeyHalf from);
+    void SetIntegerUserKeys(bool on);
+
+    // A value typed into a register of a dialog (user registers, TVM, cash flows): one undoable
+    // step. False for a register number outside 0..123.
+    bool StoreRegister(int number, double value);
+    // Consecutive registers from `first` (the duration settings dpy..fps) as one undoable step.
+    // False when they do not all lie within 0..123, or nothing would change.
+    bool StoreRegisters(int first, std::span<const double> values);
+    // A cash-flow entry (0 up to the last one made) edited in a dialog: its amount and group count,
+    // one undoable step. A group count below 1 is refused, so every entry made keeps a count of
+    // at least 1 and the series keeps its length.
+    bool StoreCashFlow(int entry, double amount, int groupCount);
+    // The payments Start and End (1..32767) as the amortization key would keep them; one
+    // undoable step.
+    bool SetAmortizationRange(int start, int end);
+    // A dialog's "Solve" for a TVM register: the register's key computing it from the others, as
+    // the key does when no number is being typed (a number being typed is closed first).
+    bool Solve(FunctionId registerKey);
+    // A key of a dialog's own key row (the "Stack" view): dispatched as Tap; any key but shift and
+    // the display key also ends the one-key full display, as on the main window's keys.
+    bool TapViewKey(FunctionId id);
+    // Where the "Constants" list was scrolled to, and the last dialog view shown.
+    void SetConstantsTopRow(u16 row);
+    void SetLastView(View view);
+    // The "Enter Date" and "Enter Time" dialogs' results entering X as a date (midnight) or a clock
+    // time, like a recalled value: one undoable step. False for fields outside the date range or
+    // a clock time outside 0:00..23:59; X is then unchanged.
+    bool EnterDate(int year, int month, int day);
+    bool EnterTime(int hour, int minute);
+    // The stored random seed (brinto-cli's --seed).
+    void SetRandomSeed(u32 seed);
+
 private:
+    friend class SessionStore;  // loading replaces the records wholesale
+
     // Dispatches one key and raises the macro messages that the key caused.
     bool Execute(FunctionId id);
     bool Restore(bool undo);
     void AfterRestore();
+    // Enters a value into X as a recall does, as one undoable step.
+    void EnterValue(double value, ValueTag tag);
+    u32* Half(KeyHalf half);
 
     Engine& m_engine;
     Host& m_host;
+    UserKeyMap m_userKeys = EmptyUserKeyMap();
 };
 
 // Message texts.

@@ -38,8 +38,8 @@ private slots:
     // Opened from the Display page; a colour chosen for a key class is kept on OK, dropped on
     // Cancel, and "Default" removes every custom colour.
     void CustomColoursFromThePreferences() {
-        MemoryStore memory;
-        Run run(memory.store);
+        Place place;
+        Run run(place);
         QSignalSpy changes(&run.dialogs, &dialogs::DialogHost::coloursChanged);
         QWidget* sheet = run.dialogs.Open(dialogs::View::Preferences);
         Click(ButtonCalled(sheet, QStringLiteral("Colors...")));
@@ -57,6 +57,12 @@ private slots:
         QCOMPARE(changes.count(), 1);
         QVERIFY(run.dialogs.customColours().text[static_cast<int>(KeyClass::Number)] == Rgb{});
         QVERIFY(!run.dialogs.customColours().background[static_cast<int>(KeyClass::Number)]);
+        run.Save();
+        {
+            Run again(place);
+            QVERIFY(again.dialogs.customColours().text[static_cast<int>(KeyClass::Number)] == Rgb{});
+            QVERIFY(!again.dialogs.customColours().text[static_cast<int>(KeyClass::Standard)]);
+        }
 
         run.dialogs.OpenColours()->Choose(7)->accept();  // "Clear:" background, as given
         Click(Button(colours, QDialogButtonBox::Cancel));
@@ -76,8 +82,8 @@ private slots:
     // From the Amortization view: every payment and each year's total, exported as CSV, and the
     // calculator untouched.
     void ScheduleListsAndExports() {
-        MemoryStore memory;
-        Run run(memory.store);
+        Place place;
+        Run run(place);
         double* r = run.engine.registers.values;
         r[reg::N] = 24;
         r[reg::IYr] = 6;

@@ -20,15 +20,15 @@ private slots:
     // The hour list and AM/PM both ways, through the dialog: 0:05 selects no hour and comes back
     // as 0:05; "12" is noon with PM and midnight with AM.
     void EnterTimeHourArithmetic() {
-        MemoryStore memory;
-        Run run(memory.store);
+        Place place;
+        Run run(place);
         struct Case { int hour, minute, row; const char* choose; int hourBack; };
         const Case cases[] = {
             {0, 5, -1, nullptr, 0},  {12, 30, 11, nullptr, 12}, {12, 30, 11, "AM", 0},
             {13, 7, 0, nullptr, 13}, {23, 59, 10, "AM", 11},    {11, 0, 10, "PM", 23},
         };
         for (const Case& c : cases) {
-            run.platform.now = {2005, 3, 15, c.hour, c.minute, 0, 2};
+            run.host.clock.now = {2005, 3, 15, c.hour, c.minute, 0, 2};
             run.session.Tap(fid::ClearStack);
             dialogs::EnterTimeDialog* d = run.dialogs.OpenEnterTime();
             QCOMPARE(d->hours()->currentRow(), c.row);
@@ -42,8 +42,8 @@ private slots:
     // Opened on X when X holds a date (else on now); OK enters the chosen date tagged "date" as
     // one undoable step, lifting X like a recalled value; Cancel enters nothing.
     void EnterDateFromXAndUndo() {
-        MemoryStore memory;
-        Run run(memory.store);
+        Place place;
+        Run run(place);
         run.session.Tap(fid::MethodRpn);
         run.Type("5.0315");
         run.session.Tap(fid::Date);
@@ -57,7 +57,7 @@ private slots:
         run.session.Undo();
         QCOMPARE(run.engine.YTag(), ValueTag{0});
         run.Type("7");
-        run.platform.now = {2010, 6, 1, 9, 0, 0, 2};
+        run.host.clock.now = {2010, 6, 1, 9, 0, 0, 2};
         d = run.dialogs.OpenEnterDate();
         QCOMPARE(d->calendar()->selectedDate(), QDate(2010, 6, 1));
         Click(Button(d, QDialogButtonBox::Cancel));
@@ -67,9 +67,9 @@ private slots:
     // The settings show their defaults while unset; OK stores them as one step that survives a
     // reload, and a field that is no positive number keeps its setting.
     void DurationSettings() {
-        MemoryStore memory;
+        Place place;
         {
-            Run run(memory.store);
+            Run run(place);
             dialogs::DurationsDialog* d = run.dialogs.OpenDurations();
             QCOMPARE(d->field(0)->text(), QStringLiteral("365.25"));
             d->field(0)->setText(QStringLiteral("360"));
@@ -77,9 +77,9 @@ private slots:
             Click(Button(d, QDialogButtonBox::Ok));
             QCOMPARE(run.engine.DurationSetting(reg::DaysPerYear), 360.0);
             QCOMPARE(run.engine.DurationSetting(reg::FramesPerSecond), 30.0);
-            run.Save(memory.store);
+            run.Save();
         }
-        Run again(memory.store);
+        Run again(place);
         dialogs::DurationsDialog* d = again.dialogs.OpenDurations();
         QCOMPARE(d->field(0)->text(), QStringLiteral("360."));  // as the display writes it
         Click(ButtonCalled(d, QStringLiteral("Default")));

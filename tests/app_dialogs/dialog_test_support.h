@@ -4,51 +4,43 @@
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTest>
+#include <filesystem>
 #include <string>
 #include <vector>
 
 #include "app/dialogs/dialogs.h"
-#include "session/persistence.h"
-#include "store/record_store.h"
+#include "session/recording_host.h"
+#include "session/session_store.h"
 
 namespace brinto::test {
 
-class QuietHost : public Host {
-public:
-    std::vector<std::string> messages;
-    void ShowMessage(std::string_view caption, std::string_view) override { messages.emplace_back(caption); }
-    bool Confirm(std::string_view, std::string_view) override { return true; }
-    void PutOnClipboard(std::string_view) override {}
-    std::optional<std::string> ClipboardText() override { return std::nullopt; }
+// Where a test's calculator is kept between its runs: a database file in a folder of its own.
+struct Place {
+    QTemporaryDir folder;
+    std::filesystem::path file() const { return folder.filePath(QStringLiteral("brinto.db")).toStdString(); }
 };
 
-// One run of the calculator over a store that outlives it, so a second run can load what the
-// first one saved.
+// One run of the calculator: loaded from the place at the start, saved when the test says so.
 struct Run {
-    FixedPlatform platform;
-    Engine engine{&platform};
-    QuietHost host;
+    Engine engine;
+    RecordingHost host;
     Session session{engine, host};
+    SessionStore store{session};
+    StartOutcome outcome;
     std::vector<std::string> helpAnchors;
-    dialogs::DialogHost dialogs{session, nullptr,
-                                [this](std::string_view anchor) { helpAnchors.emplace_back(anchor); }};
+    dialogs::DialogHost dialogs;
 
-    explicit Run(RecordStore& store) {
-        std::string warning;
-        LoadSession(session, store, {}, warning);
-        Save(store);  // a first run's defaults are written, so only what the test changes is dirty
+    explicit Run(const Place& place)
+        : outcome(store.Start(StoreLocation::File(place.file()))),
+          dialogs(session, nullptr, [this](std::string_view anchor) { helpAnchors.emplace_back(anchor); }, &store) {
+        store.Save();  // a first run's defaults are written, so only what the test changes is marked
     }
-    void Save(RecordStore& store) { SaveSession(session, store); }
+    void Save() { QVERIFY(store.Save()); }
     void Type(std::string_view keys) {
         for (const char c : keys) session.CharacterKey(static_cast<unsigned char>(c));
     }
-};
-
-// A store kept in memory for as long as the test runs.
-struct MemoryStore {
-    RecordStore store;
-    MemoryStore() { store.Open(std::string(RecordStore::kInMemory)); }
 };
 
 inline QPushButton* Button(QWidget* dialog, QDialogButtonBox::StandardButton which) {

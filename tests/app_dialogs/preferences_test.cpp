@@ -10,7 +10,7 @@
 #include "app_dialogs/dialog_test_support.h"
 #include "app_dialogs/test_classes.h"
 #include "engine/function_ids.h"
-#include "session/keyboards.h"
+#include "engine/keyboards.h"
 
 namespace brinto::test {
 namespace {
@@ -33,9 +33,9 @@ private slots:
     // Every page's choices reach their stored codings, the input method goes through the
     // dispatcher, and the record survives a save and reload.
     void OkStoresEveryPageAndSurvivesReload() {
-        MemoryStore memory;
+        Place place;
         {
-            Run run(memory.store);
+            Run run(place);
             auto* sheet = qobject_cast<dialogs::PreferencesDialog*>(run.dialogs.Open(dialogs::View::Preferences));
             QVERIFY(sheet && sheet->isVisible());
             List(sheet, "Format:")->setCurrentIndex(1);  // "Fixed"
@@ -59,9 +59,9 @@ private slots:
             QCOMPARE(p.KeyShadow(), 4);
             QVERIFY(run.engine.IsRpn());
             QCOMPARE(run.engine.state.lastKey, fid::MethodRpn);
-            run.Save(memory.store);
+            run.Save();
         }
-        Run again(memory.store);
+        Run again(place);
         QVERIFY(again.engine.IsRpn());
         QCOMPARE(again.engine.prefs.Format(), NumberFormat::Fixed);
         QCOMPARE(again.engine.prefs.StackDepth(), 20);
@@ -70,8 +70,8 @@ private slots:
 
     // OK with nothing changed still sends the method key; Cancel sends nothing and keeps the record.
     void OkAlwaysSendsTheMethodKeyCancelNothing() {
-        MemoryStore memory;
-        Run run(memory.store);
+        Place place;
+        Run run(place);
         Preferences before = run.engine.prefs;
         QCOMPARE(before.Theme(), u16{0});
         QWidget* sheet = run.dialogs.Open(dialogs::View::Preferences);
@@ -90,8 +90,8 @@ private slots:
     // Each tap area keeps its own target while the radio buttons switch; a stored code 1 shows the
     // first entry and is written back as 0.
     void TapTargetsFollowTheRadioButtons() {
-        MemoryStore memory;
-        Run run(memory.store);
+        Place place;
+        Run run(place);
         run.engine.prefs.words[4] = static_cast<u16>((1 << 1) | (3 << 6) | (9 << 11));  // Left 1, Center Stack, Right Statistical
         QWidget* sheet = run.dialogs.Open(dialogs::View::Preferences);
         QComboBox* target = List(sheet, "Tap:");
@@ -112,8 +112,8 @@ private slots:
 
     // "Default" resets only its own page's controls, never the record until OK.
     void DefaultResetsOnlyItsPage() {
-        MemoryStore memory;
-        Run run(memory.store);
+        Place place;
+        Run run(place);
         run.engine.prefs.SetFormat(NumberFormat::Scientific);
         run.engine.prefs.SetHundredRegisters(false);
         run.engine.prefs.SetKeySize(3);
@@ -147,15 +147,15 @@ private slots:
     // A User key selected above takes the function of a key tapped below, in the half on show;
     // OK writes back only that, and the map survives a save and reload.
     void AssignClearCopyAndOk() {
-        MemoryStore memory;
+        Place place;
         {
-            Run run(memory.store);
+            Run run(place);
             QWidget* d = run.dialogs.Open(dialogs::View::Keyboard);
             auto* keyboards = d->findChild<QListWidget*>();
             QCOMPARE(keyboards->count(), 8);
             QCOMPARE(keyboards->item(7)->text(), QStringLiteral("Date & Time"));
             Click(AvailableKey(d, 0));  // no User key selected: nothing happens
-            QCOMPARE(run.session.userKeys.keys[0], kNoKey);
+            QCOMPARE(run.session.userKeys().keys[0], kNoKey);
             keyboards->setCurrentRow(1);  // "Financial"
             Click(UserKey(d, 2));
             Click(AvailableKey(d, 0));  // N
@@ -164,29 +164,29 @@ private slots:
             boxes[1]->setChecked(true);
             Click(ButtonCalled(d, QStringLiteral("Copy")));
             Click(Button(d, QDialogButtonBox::Ok));
-            const UserKeyMap& keys = run.session.userKeys;
+            const UserKeyMap& keys = run.session.userKeys();
             QCOMPARE(keys.keys[2], fid::N);
             const KeyBlock financial = KeyLayout(1, 0, keys);
             for (int k = 0; k < kBlockKeys; ++k) QCOMPARE(keys.keys[kBlockKeys + k], financial[k]);
             QVERIFY(run.engine.dirty.userKeys);
             QVERIFY(!run.engine.dirty.preferences);  // "Integer" unchanged: preferences untouched
-            run.Save(memory.store);
+            run.Save();
         }
-        Run again(memory.store);
-        QCOMPARE(again.session.userKeys.keys[2], fid::N);
+        Run again(place);
+        QCOMPARE(again.session.userKeys().keys[2], fid::N);
         QWidget* d = again.dialogs.Open(dialogs::View::Keyboard);
         Click(ButtonCalled(d, QStringLiteral("Clear")));  // the unshifted half
         d->findChildren<QCheckBox*>()[0]->setChecked(true);
         Click(Button(d, QDialogButtonBox::Ok));
-        QCOMPARE(again.session.userKeys.keys[2], kNoKey);
-        QCOMPARE(again.session.userKeys.keys[kBlockKeys], KeyLayout(1, 0, again.session.userKeys)[0]);
+        QCOMPARE(again.session.userKeys().keys[2], kNoKey);
+        QCOMPARE(again.session.userKeys().keys[kBlockKeys], KeyLayout(1, 0, again.session.userKeys())[0]);
         QVERIFY(again.engine.prefs.IntegerUserKeys());
     }
 
     // Cancel writes nothing back, but the keyboard below and both "Shifted" boxes are kept.
     void CancelKeepsTheChoicesNotTheKeys() {
-        MemoryStore memory;
-        Run run(memory.store);
+        Place place;
+        Run run(place);
         QWidget* d = run.dialogs.Open(dialogs::View::Keyboard);
         d->findChild<QListWidget*>()->setCurrentRow(4);
         QList<QCheckBox*> boxes = d->findChildren<QCheckBox*>();
@@ -195,7 +195,7 @@ private slots:
         Click(UserKey(d, 0));
         Click(AvailableKey(d, 0));
         Click(Button(d, QDialogButtonBox::Cancel));
-        QCOMPARE(run.session.userKeys.keys[kBlockKeys], kNoKey);
+        QCOMPARE(run.session.userKeys().keys[kBlockKeys], kNoKey);
         QVERIFY(!run.engine.dirty.userKeys);
         QCOMPARE(run.dialogs.Open(dialogs::View::Keyboard), d);
         QCOMPARE(d->findChild<QListWidget*>()->currentRow(), 4);

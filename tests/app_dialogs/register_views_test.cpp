@@ -44,9 +44,9 @@ private slots:
     // Rows in their order with their labels; an edit stores through the register as one undo
     // step and survives a reload; text that is no number changes nothing.
     void TvmEditsAreUndoableAndSaved() {
-        MemoryStore memory;
+        Place place;
         {
-            Run run(memory.store);
+            Run run(place);
             QWidget* view = run.dialogs.Open(dialogs::View::Tvm);
             QCOMPARE(view->windowTitle(), QStringLiteral("Time Value of Money"));
             QCOMPARE(Labels(view), (QStringList{"P/YR", "N", "I/YR", "PV", "PMT", "FV"}));
@@ -62,16 +62,16 @@ private slots:
             run.session.Undo();
             QCOMPARE(run.engine.registers.values[reg::N], 0.0);
             QCOMPARE(run.engine.registers.values[reg::PV], -1234.5);
-            run.Save(memory.store);
+            run.Save();
         }
-        Run again(memory.store);
+        Run again(place);
         QCOMPARE(again.engine.registers.values[reg::PV], -1234.5);
     }
 
     // "Solve" computes the register as its key does, also while a number is being typed.
     void TvmSolveComputesTheRow() {
-        MemoryStore memory;
-        Run run(memory.store);
+        Place place;
+        Run run(place);
         double* r = run.engine.registers.values;
         r[reg::N] = 360;
         r[reg::IYr] = 6;
@@ -90,8 +90,8 @@ private slots:
     // Only CF0 gives the message; rows list the entries with their group counts, and an edit
     // never leaves a count below 1.
     void CashFlowsKeepTheirGroupCounts() {
-        MemoryStore memory;
-        Run run(memory.store);
+        Place place;
+        Run run(place);
         run.Type("1000");
         run.session.Tap(fid::CashFlow);
         auto* box = qobject_cast<QMessageBox*>(run.dialogs.Open(dialogs::View::CashFlow));
@@ -122,8 +122,8 @@ private slots:
 
     // Start and End as last set, the results read-only; the statistical sums in their order.
     void AmortizationAndStatisticsRows() {
-        MemoryStore memory;
-        Run run(memory.store);
+        Place place;
+        Run run(place);
         run.engine.state.amortStart = 13;
         run.engine.state.amortEnd = 24;
         run.engine.state.amortBalance = 250.25;
@@ -147,8 +147,8 @@ private slots:
 
     // The register set in force, and the views stay in step with the calculator on Refresh.
     void UserRegistersFollowTheRegisterSet() {
-        MemoryStore memory;
-        Run run(memory.store);
+        Place place;
+        Run run(place);
         QWidget* view = run.dialogs.Open(dialogs::View::UserRegisters);
         QCOMPARE(Table(view)->rowCount(), 100);
         run.engine.registers.values[7] = 0.5;
@@ -162,8 +162,8 @@ private slots:
 
     // Each window's Help opens its own anchor.
     void HelpOpensEachAnchor() {
-        MemoryStore memory;
-        Run run(memory.store);
+        Place place;
+        Run run(place);
         const std::pair<dialogs::View, const char*> views[] = {
             {dialogs::View::Tvm, "tvm"},           {dialogs::View::Amortization, "amortization"},
             {dialogs::View::Statistical, "statistical"}, {dialogs::View::UserRegisters, "userregisters"},

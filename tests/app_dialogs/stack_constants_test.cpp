@@ -34,8 +34,8 @@ private slots:
     // One line per level, X at the bottom; its keys go through the dispatcher, and the view
     // follows keys pressed on the main window.
     void LinesFollowTheStack() {
-        MemoryStore memory;
-        Run run(memory.store);
+        Place place;
+        Run run(place);
         run.engine.prefs.SetMethod(InputMethod::Rpn);
         run.session.Tap(fid::MethodRpn);
         run.Type("1\r2\r3");
@@ -65,9 +65,9 @@ private slots:
     // OK with nothing selected keeps the list open; a selected constant is recalled with its tag,
     // a second recall lifts the first, and the scroll position survives a save and reload.
     void RecallAndRememberThePosition() {
-        MemoryStore memory;
+        Place place;
         {
-            Run run(memory.store);
+            Run run(place);
             run.session.Tap(fid::MethodRpn);
             auto* list = qobject_cast<dialogs::ConstantsDialog*>(run.dialogs.Open(dialogs::View::Constants));
             QVERIFY(list);
@@ -93,9 +93,9 @@ private slots:
             QCOMPARE(run.engine.Y(), 299792458.0);
             QCOMPARE(run.engine.X(), kPhysicalConstants[static_cast<std::size_t>(top + 1)].value);
             QCOMPARE(run.engine.state.constantsTopRow, u16(top));
-            run.Save(memory.store);
+            run.Save();
         }
-        Run again(memory.store);
+        Run again(place);
         auto* list = qobject_cast<dialogs::ConstantsDialog*>(again.dialogs.Open(dialogs::View::Constants));
         QVERIFY(list->list()->verticalScrollBar()->value() == again.engine.state.constantsTopRow);
         QVERIFY(again.engine.state.constantsTopRow > 0);

@@ -11,7 +11,7 @@
 #include "engine/algebraic.h"
 #include "engine/numeric/integer_format.h"
 #include "ops_test_support.h"
-#include "session/keyboards.h"
+#include "engine/keyboards.h"
 
 namespace brinto {
 namespace {

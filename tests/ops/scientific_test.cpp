@@ -4,7 +4,6 @@
 #include <span>
 #include <tuple>
 
-#include "cli/tokens.h"
 #include "ops/constants.h"
 #include "ops_test_support.h"
 
@@ -162,9 +161,6 @@ TEST(Constants, EveryRowHasANameAndOnlyThoseRowsRecall) {
         EXPECT_FALSE(RecallConstant(e, outside, 3));
     }
     EXPECT_EQ(std::tuple(e.X(), e.state.constantsTopRow), std::tuple(5.0, 0));
-    EXPECT_FALSE(ParseToken("const:-1").has_value());
-    EXPECT_FALSE(ParseToken("const:").has_value());
-    EXPECT_EQ(ParseToken("const:32").value().number, 32);
 }
 
 TEST(Constants, RecallLiftsLeavesLastXAloneAndKeepsTheListsScroll) {

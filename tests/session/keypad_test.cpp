@@ -9,7 +9,7 @@
 
 #include "engine/key_table.h"
 #include "session/key_legends.h"
-#include "session/keyboards.h"
+#include "engine/keyboards.h"
 
 namespace brinto {
 namespace {

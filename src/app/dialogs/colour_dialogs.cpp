@@ -41,7 +41,36 @@ private:
     const Rgb* m_shown;
 };
 
+constexpr std::size_t kBytesPerColour = 4;
+constexpr std::size_t kPackedSize = 2 * kKeyClasses * kBytesPerColour;
+
 }  // namespace
+
+std::vector<std::byte> PackColours(const CustomColours& colours) {
+    std::vector<std::byte> bytes;
+    bytes.reserve(kPackedSize);
+    for (std::size_t k = 0; k < kKeyClasses; ++k) {
+        for (const auto* colour : {&colours.text[k], &colours.background[k]}) {
+            const Rgb c = colour->value_or(Rgb{});
+            for (const u8 b : {u8{colour->has_value()}, c.r, c.g, c.b}) bytes.push_back(std::byte{b});
+        }
+    }
+    return bytes;
+}
+
+CustomColours UnpackColours(std::span<const std::byte> bytes) {
+    CustomColours colours;
+    if (bytes.size() != kPackedSize) return colours;
+    const auto at = [&](std::size_t i) { return std::to_integer<u8>(bytes[i]); };
+    std::size_t i = 0;
+    for (std::size_t k = 0; k < kKeyClasses; ++k) {
+        for (auto* colour : {&colours.text[k], &colours.background[k]}) {
+            if (at(i) == 1) *colour = Rgb{at(i + 1), at(i + 2), at(i + 3)};
+            i += kBytesPerColour;
+        }
+    }
+    return colours;
+}
 
 ColourChooser::ColourChooser(Rgb given, QWidget* parent)
     : QDialog(parent), m_given(given), m_shown(given), m_sample(new Sample(&m_given, &m_shown, this)) {

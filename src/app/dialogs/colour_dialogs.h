@@ -4,6 +4,9 @@
 // current theme until "Default" removes them all. The owner keeps them and repaints.
 #include <QDialog>
 #include <array>
+#include <cstddef>
+#include <span>
+#include <vector>
 
 #include "app/dialogs/dialog_support.h"
 #include "session/screen_colours.h"
@@ -13,6 +16,13 @@ class QPushButton;
 class QSlider;
 
 namespace brinto::dialogs {
+
+// The custom colours as the store keeps them: for each key class its text then its background,
+// each a byte 1 when set (0 when not) and red, green, blue. Anything not of that size reads as
+// no custom colours at all.
+inline constexpr const char* kCustomColoursSetting = "custom-colours";
+std::vector<std::byte> PackColours(const CustomColours& colours);
+CustomColours UnpackColours(std::span<const std::byte> bytes);
 
 // "Color Chooser": three sliders over a sample whose left half is the colour given and whose
 // right half the colour as set. "Reset" returns to the colour given.

@@ -11,7 +11,8 @@
 #include <QRadioButton>
 #include <QVBoxLayout>
 
-#include "app/dialogs/dialog_commands.h"
+#include "engine/numeric/date_fields.h"
+#include "engine/function_ids.h"
 #include "engine/register_bank.h"
 
 namespace brinto::dialogs {
@@ -34,6 +35,14 @@ constexpr std::array kDurationRows = {
 };
 
 }  // namespace
+
+DateFields DateTimeToOffer(const Engine& e, Offer offer) {
+    const ValueTag tag = e.XTag();
+    const bool fits = offer == Offer::Date ? tag == fid::TagDate || tag == fid::TagDateTime
+                                           : tag == fid::TagTime || tag == fid::TagDateTime;
+    if (fits && IsDateInRange(e.X())) return SplitDate(e.X());
+    return e.platform().Now();
+}
 
 EnterDateDialog::EnterDateDialog(const HelpFunction& help, QWidget* parent)
     : QDialog(parent), m_calendar(new QCalendarWidget(this)) {
@@ -120,7 +129,7 @@ void DurationsDialog::accept() {
         const auto value = ReadNumber(e, m_fields[i]->text());
         settings[i] = value && *value > 0 ? *value : e.DurationSetting(kDurationRows[i].number);
     }
-    if (StoreDurations(m_session, settings)) emit changed();
+    if (m_session.StoreRegisters(reg::DaysPerYear, settings)) emit changed();
     QDialog::accept();
 }
 

@@ -19,6 +19,11 @@ namespace brinto::dialogs {
 constexpr int HourRow(int hour) { return (hour - 1) % 12; }
 constexpr int HourOf(int row, bool pm) { return (row + 1) % 12 + (pm ? 12 : 0); }
 
+// The fields "Enter Date" and "Enter Time" open on: those of X when X holds a date (for Date) or a
+// clock time (for Time) or a date and time, else the current local time.
+enum class Offer { Date, Time };
+DateFields DateTimeToOffer(const Engine& e, Offer offer);
+
 class EnterDateDialog : public QDialog {
 public:
     EnterDateDialog(const HelpFunction& help, QWidget* parent);

@@ -12,7 +12,6 @@
 #include "app/dialogs/colour_dialogs.h"
 #include "app/dialogs/constants_dialog.h"
 #include "app/dialogs/date_time_dialogs.h"
-#include "app/dialogs/dialog_commands.h"
 #include "app/dialogs/help_viewer.h"
 #include "app/dialogs/keyboard_dialog.h"
 #include "app/dialogs/preferences_dialog.h"
@@ -51,9 +50,12 @@ QDialog* MakeAbout(const HelpFunction& help, QWidget* parent) {
 
 }  // namespace
 
-DialogHost::DialogHost(Session& session, QWidget* parent, HelpFunction help)
-    : QObject(parent), m_session(session), m_parent(parent), m_help(std::move(help)) {
+DialogHost::DialogHost(Session& session, QWidget* parent, HelpFunction help, SessionStore* store)
+    : QObject(parent), m_session(session), m_store(store), m_parent(parent), m_help(std::move(help)) {
     if (!m_help) m_help = [this](std::string_view anchor) { OpenHelp(anchor); };
+    if (m_store) {
+        if (const auto saved = m_store->FrontEndSetting(kCustomColoursSetting)) m_customColours = UnpackColours(*saved);
+    }
 }
 
 DialogHost::~DialogHost() {
@@ -77,7 +79,7 @@ QWidget* DialogHost::Open(int view) {
 }
 
 QWidget* DialogHost::Open(View view) {
-    RememberView(m_session, static_cast<u16>(view));
+    m_session.SetLastView(view);
     switch (view) {
         case View::Preferences: {
             PreferencesDialog* sheet = PreferencesSheet();
@@ -118,7 +120,7 @@ PreferencesDialog* DialogHost::PreferencesSheet() {
     if (m_preferences) return m_preferences;
     m_preferences = new PreferencesDialog(m_session, m_help, m_parent);
     connect(m_preferences, &QDialog::accepted, this, [this] {
-        ApplyPreferences(m_session, m_preferences->Edited());
+        m_session.SetPreferences(m_preferences->Edited());
         emit changed();
     });
     connect(m_preferences, &QDialog::finished, this, &DialogHost::preferencesClosed);
@@ -161,7 +163,7 @@ EnterDateDialog* DialogHost::OpenEnterDate() {
         m_enterDate = new EnterDateDialog(m_help, m_parent);
         connect(m_enterDate, &QDialog::accepted, this, [this] {
             const QDate date = m_enterDate->calendar()->selectedDate();
-            if (EnterDate(m_session, date.year(), date.month(), date.day())) emit changed();
+            if (m_session.EnterDate(date.year(), date.month(), date.day())) emit changed();
         });
     }
     const DateFields offer = DateTimeToOffer(m_session.engine(), Offer::Date);
@@ -174,7 +176,7 @@ EnterTimeDialog* DialogHost::OpenEnterTime() {
     if (!m_enterTime) {
         m_enterTime = new EnterTimeDialog(m_help, m_parent);
         connect(m_enterTime, &QDialog::accepted, this, [this] {
-            if (EnterTime(m_session, m_enterTime->Hour(), m_enterTime->Minute())) emit changed();
+            if (m_session.EnterTime(m_enterTime->Hour(), m_enterTime->Minute())) emit changed();
         });
     }
     const DateFields offer = DateTimeToOffer(m_session.engine(), Offer::Time);
@@ -198,6 +200,7 @@ CustomizeColours* DialogHost::OpenColours() {
         m_colours = new CustomizeColours(m_help, m_parent);
         connect(m_colours, &QDialog::accepted, this, [this] {
             m_customColours = m_colours->Edited();
+            if (m_store) m_store->SetFrontEndSetting(kCustomColoursSetting, PackColours(m_customColours));
             emit coloursChanged(m_customColours);
         });
     }

@@ -11,6 +11,7 @@
 #include "app/dialogs/dialog_support.h"
 #include "session/screen_colours.h"
 #include "session/session.h"
+#include "session/session_store.h"
 
 class QDialog;
 class QMessageBox;
@@ -30,17 +31,16 @@ class PreferencesDialog;
 class RegisterView;
 class StackView;
 
-// The views a display tap, a menu entry or "Open last form" opens, in the order of the tap-target
-// list; the number is what the calculator remembers as the last view.
-enum class View : u16 { Preferences, Keyboard, Stack, UserRegisters, Constants, Tvm, Amortization,
-                        CashFlow, Statistical };
-inline constexpr int kViewCount = 9;
+// The views a display tap, a menu entry or "Open last form" opens (the session's list).
+using View = brinto::View;
+inline constexpr int kViewCount = static_cast<int>(View::Statistical) + 1;
 
 class DialogHost : public QObject {
     Q_OBJECT
 public:
-    // `help` opens the guide at an anchor; when empty, the built-in help viewer does.
-    DialogHost(Session& session, QWidget* parent, HelpFunction help = {});
+    // `help` opens the guide at an anchor; when empty, the built-in help viewer does. With a
+    // `store`, the custom colours are read from it now and kept in it when they change.
+    DialogHost(Session& session, QWidget* parent, HelpFunction help = {}, SessionStore* store = nullptr);
     ~DialogHost() override;
 
     // Opens a view and remembers it as the last one. Returns the window shown: for "Cash Flow"
@@ -58,7 +58,6 @@ public:
     CustomizeColours* OpenColours();
     ScheduleWindow* OpenSchedule();
     const CustomColours& customColours() const { return m_customColours; }
-    void SetCustomColours(const CustomColours& colours) { m_customColours = colours; }
     HelpViewer* OpenHelp(std::string_view anchor);
 
     void Refresh();
@@ -77,6 +76,7 @@ private:
     QMessageBox* NoCashFlows();
 
     Session& m_session;
+    SessionStore* m_store;
     QWidget* m_parent;
     HelpFunction m_help;
     PreferencesDialog* m_preferences = nullptr;

@@ -9,9 +9,8 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "app/dialogs/dialog_commands.h"
 #include "session/key_legends.h"
-#include "session/keyboards.h"
+#include "engine/keyboards.h"
 
 namespace brinto::dialogs {
 namespace {
@@ -86,7 +85,7 @@ KeyboardDialog::KeyboardDialog(Session& session, const HelpFunction& help, QWidg
 }
 
 void KeyboardDialog::Load() {
-    m_working = m_session.userKeys;
+    m_working = m_session.userKeys();
     m_integer->setChecked(m_session.engine().prefs.IntegerUserKeys());
     ShowUserKeys();
     ShowAvailableKeys();
@@ -127,8 +126,20 @@ void KeyboardDialog::CopyAvailable() {
     ShowUserKeys();
 }
 
+// Only the keys that differ from the user keyboard are assigned, and "Integer" only when changed.
+void KeyboardDialog::WriteBack() {
+    for (const KeyHalf half : {KeyHalf::Unshifted, KeyHalf::Shifted}) {
+        const int first = half == KeyHalf::Shifted ? kBlockKeys : 0;
+        for (int k = 0; k < kBlockKeys; ++k) {
+            const u32 id = m_working.keys[first + k];
+            if (id != m_session.userKeys().keys[first + k]) m_session.AssignUserKey(half, k + 1, id);
+        }
+    }
+    if (IntegerChecked() != m_session.engine().prefs.IntegerUserKeys()) m_session.SetIntegerUserKeys(IntegerChecked());
+}
+
 void KeyboardDialog::done(int result) {
-    if (result == QDialog::Accepted) ApplyUserKeys(m_session, m_working, IntegerChecked());
+    if (result == QDialog::Accepted) WriteBack();
     // The selection of a User key is not kept; the keyboard below and both boxes are.
     if (QAbstractButton* selected = m_userKeys->checkedButton()) {
         m_userKeys->setExclusive(false);

@@ -30,6 +30,7 @@ public:
     void done(int result) override;
 
 private:
+    void WriteBack();
     void ShowUserKeys();
     void ShowAvailableKeys();
     void Assign(int availableKey);

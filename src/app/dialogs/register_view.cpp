@@ -7,7 +7,6 @@
 #include <array>
 #include <string_view>
 
-#include "app/dialogs/dialog_commands.h"
 #include "display/labels.h"
 #include "engine/function_ids.h"
 #include "finance/result_labels.h"
@@ -159,18 +158,18 @@ void RegisterView::Edited(int row, int column) {
     bool stored = false;
     if (number) {
         switch (edited.source) {
-            case Source::Register: stored = StoreRegister(m_session, edited.number, *number); break;
+            case Source::Register: stored = m_session.StoreRegister(edited.number, *number); break;
             case Source::AmortStart:
-                stored = StoreAmortizationRange(m_session, static_cast<int>(*number), m_session.engine().state.amortEnd);
+                stored = m_session.SetAmortizationRange(static_cast<int>(*number), m_session.engine().state.amortEnd);
                 break;
             case Source::AmortEnd:
-                stored = StoreAmortizationRange(m_session, m_session.engine().state.amortStart, static_cast<int>(*number));
+                stored = m_session.SetAmortizationRange(m_session.engine().state.amortStart, static_cast<int>(*number));
                 break;
             case Source::Result: break;
             case Source::CashFlow:
                 stored = column == kValueColumn
-                             ? StoreCashFlow(m_session, edited.number, *number, edited.groupCount)
-                             : StoreCashFlow(m_session, edited.number, edited.value, static_cast<int>(*number));
+                             ? m_session.StoreCashFlow(edited.number, *number, edited.groupCount)
+                             : m_session.StoreCashFlow(edited.number, edited.value, static_cast<int>(*number));
                 break;
         }
     }
@@ -178,10 +177,8 @@ void RegisterView::Edited(int row, int column) {
     if (stored) emit changed();
 }
 
-// The key computes the register when no number is being typed, so a typed number is closed first.
 void RegisterView::Solve(FunctionId key) {
-    m_session.engine().FinishEntry();
-    m_session.Tap(key);
+    m_session.Solve(key);
     Refresh();
     emit changed();
 }

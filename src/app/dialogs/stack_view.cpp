@@ -6,7 +6,6 @@
 #include <QVBoxLayout>
 #include <array>
 
-#include "app/dialogs/dialog_commands.h"
 #include "display/display_text.h"
 #include "engine/function_ids.h"
 #include "session/key_legends.h"
@@ -57,8 +56,7 @@ void StackView::Refresh() {
 }
 
 void StackView::Press(FunctionId id) {
-    m_session.Tap(id);
-    EndFullDisplay(m_session);
+    m_session.TapViewKey(id);
     Refresh();
     emit changed();
 }
