@@ -90,16 +90,22 @@ private slots:
         QCOMPARE(again.engine.DurationSetting(reg::DaysPerYear), 360.0);
     }
 
-    // The viewer shows the bundled guide at the anchor asked for, or says the guide is missing;
-    // find wraps around.
+    // The viewer shows the bundled guide at every anchor a window asks for, or says the guide is
+    // missing; find wraps around.
     void HelpViewerShowsTheAnchor() {
         dialogs::HelpViewer viewer;
-        viewer.ShowAnchor("tvm");
-        if (QFile::exists(QString::fromLatin1(dialogs::kGuideResource))) {
-            QCOMPARE(viewer.browser()->source().fragment(), QStringLiteral("tvm"));
-            QVERIFY(viewer.Find(QStringLiteral("Brinto")));
+        QFile guide(QString::fromLatin1(dialogs::kGuideResource));
+        if (guide.open(QIODevice::ReadOnly)) {
+            const QByteArray text = guide.readAll();
+            for (const char* anchor : {"Main_Contents", "about", "amortization", "cashflow", "constants", "keyboard",
+                                       "prefs", "rpnstack", "statistical", "tvm", "userregisters"}) {
+                QVERIFY2(text.contains("id=\"" + QByteArray(anchor) + "\""), anchor);
+                viewer.ShowAnchor(anchor);
+                QCOMPARE(viewer.browser()->source().fragment(), QString::fromLatin1(anchor));
+            }
             QVERIFY(viewer.Find(QStringLiteral("Brinto")));
         } else {
+            viewer.ShowAnchor("tvm");
             QVERIFY(viewer.browser()->toPlainText().contains(QStringLiteral("User guide missing")));
             QVERIFY(viewer.Find(QStringLiteral("missing")));
             QVERIFY(viewer.Find(QStringLiteral("missing")));  // wraps to the first again
