@@ -95,6 +95,9 @@ private slots:
     void HelpViewerShowsTheAnchor() {
         dialogs::HelpViewer viewer;
         QFile guide(QString::fromLatin1(dialogs::kGuideResource));
+#ifdef BRINTO_GUIDE_BUNDLED
+        QVERIFY(guide.exists());
+#endif
         if (guide.open(QIODevice::ReadOnly)) {
             const QByteArray text = guide.readAll();
             for (const char* anchor : {"Main_Contents", "about", "amortization", "cashflow", "constants", "keyboard",
