@@ -58,8 +58,16 @@ DialogHost::DialogHost(Session& session, QWidget* parent, HelpFunction help, Ses
     }
 }
 
+// Windows made with a parent go with it; without one (tests, a host with no main window) they
+// are this host's to delete.
 DialogHost::~DialogHost() {
     if (m_helpViewer) delete m_helpViewer.data();
+    if (m_parent) return;
+    QWidget* const windows[] = {m_preferences, m_keyboard, m_stack,    m_constants, m_enterDate,
+                                m_enterTime,   m_durations, m_about,  m_colours,   m_schedule,
+                                m_noCashFlows};
+    for (QWidget* window : windows) delete window;
+    for (RegisterView* view : m_registers) delete view;
 }
 
 QDialog* DialogHost::Show(QDialog* dialog) {
@@ -145,12 +153,13 @@ RegisterView* DialogHost::Registers(View view) {
 }
 
 QMessageBox* DialogHost::NoCashFlows() {
-    auto* box = new QMessageBox(QMessageBox::Information, QStringLiteral("No Cash Flow Entries"),
-                                QStringLiteral("There are no cash flow entries to display."),
-                                QMessageBox::Ok, m_parent);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
-    return box;
+    if (!m_noCashFlows) {
+        m_noCashFlows = new QMessageBox(QMessageBox::Information, QStringLiteral("No Cash Flow Entries"),
+                                        QStringLiteral("There are no cash flow entries to display."),
+                                        QMessageBox::Ok, m_parent);
+    }
+    m_noCashFlows->open();
+    return m_noCashFlows;
 }
 
 QDialog* DialogHost::OpenAbout() {

@@ -90,6 +90,7 @@ private:
     QDialog* m_about = nullptr;
     CustomizeColours* m_colours = nullptr;
     ScheduleWindow* m_schedule = nullptr;
+    QMessageBox* m_noCashFlows = nullptr;
     CustomColours m_customColours;
     QPointer<HelpViewer> m_helpViewer;
 };
