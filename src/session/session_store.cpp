@@ -51,6 +51,7 @@ struct SessionStore::Impl {
         store.Open(std::string(RecordStore::kInMemory));
         where.clear();
     }
+    std::filesystem::path Open(const StoreLocation& location, StartOutcome& out);
     bool OpenFile(const std::filesystem::path& path, StartOutcome& out) {
         std::string warning;
         OpenStateFile(store, path, warning);
@@ -69,32 +70,34 @@ SessionStore::SessionStore(Session& session) : m_impl(std::make_unique<Impl>(ses
 
 SessionStore::~SessionStore() = default;
 
+// Opens the store at `location`, or one in memory after trouble; answers where a first run looks
+// for the handheld release's export.
+std::filesystem::path SessionStore::Impl::Open(const StoreLocation& location, StartOutcome& out) {
+    switch (location.kind) {
+        case StoreLocation::Kind::Memory: ToMemory(); return {};
+        case StoreLocation::Kind::File: out.trouble = !OpenFile(location.file, out); break;
+        case StoreLocation::Kind::Default: {
+            const std::filesystem::path database = DefaultLocations().database;
+            std::error_code ec;
+            std::filesystem::create_directories(database.parent_path(), ec);
+            if (!ec) {
+                out.trouble = !OpenFile(database, out);
+                break;
+            }
+            Report(TroubleKind::Load,
+                   "cannot create the folder " + database.parent_path().string() + ": " + ec.message() + kInMemoryNow);
+            ToMemory();
+            out.trouble = true;
+            break;
+        }
+    }
+    return DefaultLocations().legacyFile;
+}
+
 StartOutcome SessionStore::Start(const StoreLocation& location) {
     Impl& m = *m_impl;
     StartOutcome out;
-    std::filesystem::path legacy;
-    switch (location.kind) {
-        case StoreLocation::Kind::Memory: m.ToMemory(); break;
-        case StoreLocation::Kind::Default: {
-            const StateLocations defaults = DefaultLocations();
-            std::error_code ec;
-            std::filesystem::create_directories(defaults.database.parent_path(), ec);
-            if (ec) {
-                m.Report(TroubleKind::Load, "cannot create the folder " + defaults.database.parent_path().string() +
-                                                ": " + ec.message() + kInMemoryNow);
-                m.ToMemory();
-                out.trouble = true;
-            } else {
-                out.trouble = !m.OpenFile(defaults.database, out);
-            }
-            legacy = defaults.legacyFile;
-            break;
-        }
-        case StoreLocation::Kind::File:
-            out.trouble = !m.OpenFile(location.file, out);
-            legacy = DefaultLocations().legacyFile;
-            break;
-    }
+    const std::filesystem::path legacy = m.Open(location, out);
     // After trouble the user's calculator may well exist: no migration and no first-run question.
     const auto migrate = [&](RecordStore& into) {
         std::error_code ec;
@@ -104,7 +107,7 @@ StartOutcome SessionStore::Start(const StoreLocation& location) {
         return outcome.imported;
     };
     m.store.ClearFailure();
-    bool loaded = LoadState(m.engine(), m.userKeys(), m.store, migrate);
+    const bool loaded = LoadState(m.engine(), m.userKeys(), m.store, migrate);
     if (m.store.Failed() && !m.where.empty()) {
         m.Report(TroubleKind::Load, "cannot load the calculator from " + m.where + " (" + m.store.LastError() + ")" +
                                         kInMemoryNow);
