@@ -104,6 +104,12 @@ private slots:
         Click(Button(list, QDialogButtonBox::Cancel));
         QCOMPARE(again.engine.X(), x);
         QCOMPARE(again.engine.Y(), y);
+        again.dialogs.Open(dialogs::View::Constants);
+        list->list()->setCurrentRow(12);  // "Planck's constant, h", then Enter
+        QTest::keyClick(list->list(), Qt::Key_Return);
+        QVERIFY(!list->isVisible());
+        QCOMPARE(again.engine.X(), 6.6260755e-34);
+        QCOMPARE(again.engine.XTag(), ValueTag{0});
     }
 };
 
