@@ -7,7 +7,7 @@ FUZZ_JOBS ?= 2
 FUZZ_CXX ?= clang++-14
 FUZZ_PACKAGES = clang-14 libclang-rt-14-dev libfuzzer-14-dev
 FUZZ_CMAKE = cmake -S . -B build-fuzz -DCMAKE_CXX_COMPILER=$(FUZZ_CXX) -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-	-DBRINTO_TESTS=OFF -DBRINTO_FUZZ=ON $(CMAKE_FLAGS)
+	-DBRINTO_TESTS=OFF -DBRINTO_APP=OFF -DBRINTO_FUZZ=ON $(CMAKE_FLAGS)
 
 .PHONY: all deps build run run-cli guide test test-release test-sanitize bench clean fuzz-deps fuzz-build test-fuzz fuzz fuzz-coverage
 
@@ -50,7 +50,7 @@ test-sanitize:
 	  ctest --test-dir build-asan --output-on-failure -j $(JOBS)
 
 bench: deps
-	cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release -DBRINTO_BENCH=ON -DBRINTO_TESTS=OFF $(CMAKE_FLAGS)
+	cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release -DBRINTO_BENCH=ON -DBRINTO_TESTS=OFF -DBRINTO_APP=OFF $(CMAKE_FLAGS)
 	cmake --build build-bench -j $(JOBS)
 	./build-bench/brinto_bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true
 	./build-bench/app_bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true
