@@ -8,7 +8,7 @@
 #include "display/display_text.h"
 #include "display/labels.h"
 #include "engine/engine.h"
-#include "ops/integer_format.h"
+#include "engine/numeric/integer_format.h"
 #include "session/key_grid.h"
 #include "session/key_legends.h"
 
