@@ -14,7 +14,7 @@ int Resolved(int choice, int last, int themeValue) {
     return choice >= 1 && choice <= last ? choice : themeValue;
 }
 
-constexpr std::array<FontSpec, 5> kFontSpecs = {{
+constexpr std::array<FontMetrics, 5> kFonts = {{
     {22, true}, {18, true}, {14, true}, {14, false}, {13, false},
 }};
 
@@ -114,7 +114,7 @@ DisplayLines DisplayLinesOf(const Preferences& prefs, const ThemeSet& themes) {
     return {lines, prefs.BasicAlso() ? lines : 1};
 }
 
-FontSpec FontSpecOf(DisplayFont font) { return kFontSpecs[static_cast<int>(font)]; }
+FontMetrics FontOf(DisplayFont font) { return kFonts[static_cast<int>(font)]; }
 
 DisplayFonts DisplayFontsOf(const Preferences& prefs, const ThemeSet& themes) {
     const int choice = std::clamp(Resolved(prefs.DisplayFont(), 3, themes.styles()[style::Font]), 1, 3);

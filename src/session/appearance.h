@@ -75,11 +75,11 @@ DisplayLines DisplayLinesOf(const Preferences& prefs, const ThemeSet& themes);
 
 // The display's five fonts, created once: 22 bold, 18 bold, 14 bold, 14 normal, 13 normal.
 enum class DisplayFont { Bold22, Bold18, Bold14, Normal14, Normal13 };
-struct FontSpec {
+struct FontMetrics {
     int pixels;  // height in pixels of the 240-wide screen
     bool bold;
 };
-FontSpec FontSpecOf(DisplayFont font);
+FontMetrics FontOf(DisplayFont font);
 
 // "Font:": which font serves which line of the display.
 struct DisplayFonts {

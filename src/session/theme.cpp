@@ -18,6 +18,7 @@ struct PaletteStep {
     Rgb colour;
     int copyOf = -1;
 };
+constexpr PaletteStep Set(u8 slot, Rgb colour) { return {slot, colour}; }
 constexpr PaletteStep Copy(u8 slot, int from) { return {slot, {}, from}; }
 
 struct ValueStep {
@@ -28,50 +29,54 @@ struct ValueStep {
 // Every theme starts from black, with these slots white.
 constexpr std::array<u8, 11> kWhiteBaseSlots = {1, 3, 5, 7, 15, 17, 22, 24, 25, 27, 29};
 
+constexpr Rgb kGray51{51, 51, 51}, kGray102{102, 102, 102}, kGray153{153, 153, 153},
+    kGray170{170, 170, 170}, kGray204{204, 204, 204};
+constexpr Rgb kIndigo{51, 51, 153}, kNavy{0, 0, 153}, kDarkNavy{0, 0, 102}, kDarkRed{153, 0, 0},
+    kBrick{153, 51, 51}, kLightBlue{153, 153, 255}, kYellow{255, 255, 102}, kGreen{102, 255, 102};
+
+// What each slot paints is listed in screen_colours.h.
 constexpr std::array kDefaultColorPalette = {
-    PaletteStep{7, kWhite},        PaletteStep{15, kWhite},       PaletteStep{10, {153, 0, 0}},
-    PaletteStep{9, {0, 0, 153}},   PaletteStep{12, {153, 51, 51}}, PaletteStep{11, {102, 102, 102}},
-    PaletteStep{13, {0, 0, 153}},  PaletteStep{16, {102, 102, 102}}, PaletteStep{17, {51, 51, 153}},
-    PaletteStep{18, kWhite},       PaletteStep{19, {255, 255, 102}}, PaletteStep{20, {102, 255, 102}},
-    Copy(21, 19), Copy(22, 17), Copy(23, 20), Copy(24, 17),
-    PaletteStep{25, {153, 153, 255}}, PaletteStep{26, kBlack},   Copy(27, 17), Copy(28, 18),
-    PaletteStep{29, {153, 51, 51}}, Copy(30, 18),
+    Set(7, kWhite),    Set(15, kWhite),  Set(10, kDarkRed),  Set(9, kNavy),   Set(12, kBrick),
+    Set(11, kGray102), Set(13, kNavy),   Set(16, kGray102),  Set(17, kIndigo), Set(18, kWhite),
+    Set(19, kYellow),  Set(20, kGreen),  Copy(21, 19),       Copy(22, 17),     Copy(23, 20),
+    Copy(24, 17),      Set(25, kLightBlue), Set(26, kBlack), Copy(27, 17),     Copy(28, 18),
+    Set(29, kBrick),   Copy(30, 18),
 };
 constexpr std::array kDefaultGrayscalePalette = {
-    PaletteStep{17, {204, 204, 204}}, PaletteStep{19, {51, 51, 51}}, PaletteStep{20, {51, 51, 51}},
-    Copy(21, 19), Copy(22, 17), Copy(23, 20), Copy(24, 17),
-    PaletteStep{25, {170, 170, 170}}, PaletteStep{27, {204, 204, 204}},
-    PaletteStep{29, {102, 102, 102}}, PaletteStep{30, kWhite},
+    Set(17, kGray204), Set(19, kGray51), Set(20, kGray51), Copy(21, 19),      Copy(22, 17),
+    Copy(23, 20),      Copy(24, 17),     Set(25, kGray170), Set(27, kGray204), Set(29, kGray102),
+    Set(30, kWhite),
 };
 constexpr std::array kOriginalColorPalette = {
-    PaletteStep{17, {51, 51, 153}},  PaletteStep{18, kWhite},       PaletteStep{19, {255, 255, 102}},
-    PaletteStep{20, {102, 255, 102}}, Copy(21, 18), Copy(22, 17), Copy(23, 18), Copy(24, 17),
-    PaletteStep{25, {153, 153, 255}}, PaletteStep{26, {0, 0, 102}}, PaletteStep{27, {51, 51, 153}},
-    PaletteStep{28, kWhite},         PaletteStep{29, {153, 51, 51}}, PaletteStep{30, kWhite},
+    Set(17, kIndigo),    Set(18, kWhite),     Set(19, kYellow),  Set(20, kGreen), Copy(21, 18),
+    Copy(22, 17),        Copy(23, 18),        Copy(24, 17),      Set(25, kLightBlue),
+    Set(26, kDarkNavy),  Set(27, kIndigo),    Set(28, kWhite),   Set(29, kBrick), Set(30, kWhite),
 };
 constexpr std::array kOriginalGrayscalePalette = {
-    PaletteStep{17, {204, 204, 204}}, PaletteStep{19, {51, 51, 51}}, PaletteStep{20, {51, 51, 51}},
-    Copy(21, 18), Copy(22, 17), Copy(23, 18), Copy(24, 17),
-    PaletteStep{25, {170, 170, 170}}, PaletteStep{27, {204, 204, 204}},
-    PaletteStep{29, {102, 102, 102}}, PaletteStep{30, kWhite},
+    Set(17, kGray204), Set(19, kGray51), Set(20, kGray51), Copy(21, 18),      Copy(22, 17),
+    Copy(23, 18),      Copy(24, 17),     Set(25, kGray170), Set(27, kGray204), Set(29, kGray102),
+    Set(30, kWhite),
 };
-constexpr std::array kLightBackgroundPalette = {PaletteStep{15, {204, 204, 204}}};
+constexpr std::array kLightBackgroundPalette = {Set(15, kGray204)};
 // Slots 9 to 13 keep the colours of "Default Color", on which this theme is laid.
 constexpr std::array kDarkBackgroundPalette = {
-    PaletteStep{7, {204, 204, 204}}, PaletteStep{15, {51, 51, 51}},   PaletteStep{16, kBlack},
-    PaletteStep{17, {102, 102, 102}}, PaletteStep{18, {204, 204, 204}}, PaletteStep{19, {204, 204, 0}},
-    PaletteStep{20, {0, 204, 0}},    Copy(21, 19), Copy(22, 17), Copy(23, 20), Copy(24, 17),
-    PaletteStep{25, {153, 153, 153}}, PaletteStep{26, kBlack},       Copy(27, 17), Copy(28, 18),
-    PaletteStep{29, {153, 51, 51}},  Copy(30, 18),
+    Set(7, kGray204),  Set(15, kGray51),  Set(16, kBlack),    Set(17, kGray102), Set(18, kGray204),
+    Set(19, {204, 204, 0}), Set(20, {0, 204, 0}), Copy(21, 19), Copy(22, 17),    Copy(23, 20),
+    Copy(24, 17),      Set(25, kGray153), Set(26, kBlack),    Copy(27, 17),      Copy(28, 18),
+    Set(29, kBrick),   Copy(30, 18),
 };
 
-constexpr std::array kGrayStyles = {ValueStep{5, 3}, ValueStep{8, 1}};
-constexpr std::array kOriginalStyles = {ValueStep{6, 3}, ValueStep{5, 2}, ValueStep{2, 1},
-                                        ValueStep{3, 1}, ValueStep{8, 1}};
-constexpr std::array kLightStyles = {ValueStep{3, 2}, ValueStep{7, 1}, ValueStep{6, 1},
-                                     ValueStep{4, 3}};
-constexpr std::array kDarkStyles = {ValueStep{3, 2}, ValueStep{5, 2}, ValueStep{7, 1},
-                                    ValueStep{6, 1}, ValueStep{4, 1}};
+constexpr std::array kGrayStyles = {ValueStep{style::Font, 3}, ValueStep{style::Keys, 1}};
+constexpr std::array kOriginalStyles = {
+    ValueStep{style::Show, 3}, ValueStep{style::Font, 2}, ValueStep{style::PlainDisplay, 1},
+    ValueStep{style::Lines, 1}, ValueStep{style::Keys, 1}};
+constexpr std::array kLightStyles = {
+    ValueStep{style::Lines, 2}, ValueStep{style::Size, 1}, ValueStep{style::Show, 1},
+    ValueStep{style::Border, 3}};
+constexpr std::array kDarkStyles = {
+    ValueStep{style::Lines, 2}, ValueStep{style::Font, 2}, ValueStep{style::Size, 1},
+    ValueStep{style::Show, 1}, ValueStep{style::Border, 1}};
+// Key style values 0 to 4, in order.
 constexpr std::array kOriginalKeyStyle = {ValueStep{0, 2}, ValueStep{1, 2}, ValueStep{2, 0},
                                           ValueStep{3, 1}, ValueStep{4, 1}};
 constexpr std::array kOriginalBlackWhiteKeyStyle = {ValueStep{0, 2}, ValueStep{1, 2},
@@ -134,7 +139,16 @@ void ApplyValues(std::array<int, N>& values, std::span<const ValueStep> steps) {
 
 }  // namespace
 
-ThemeSet::ThemeSet() { BuildThemes(ColourDisplay::Yes); }
+ThemeSet::ThemeSet() {
+    BuildThemes(ColourDisplay::Yes);
+    ResetToBase();
+}
+
+void ThemeSet::ResetToBase() {
+    m_palette.fill(kBlack);
+    for (const u8 slot : kWhiteBaseSlots) m_palette[slot] = kWhite;
+    m_keyStyle = kDefaultKeyStyle;
+}
 
 void ThemeSet::BuildThemes(ColourDisplay colour) {
     m_themes.clear();
@@ -173,9 +187,7 @@ void ThemeSet::ApplyTheme(Theme& theme) {
     assert(IndexOf(&theme) >= 0 && IndexOf(&theme) < static_cast<int>(m_themes.size()));
     const ThemeRow& row = RowOf(theme.id);
     theme.styles = kDefaultStyles;
-    m_palette.fill(kBlack);
-    for (const u8 slot : kWhiteBaseSlots) m_palette[slot] = kWhite;
-    m_keyStyle = kDefaultKeyStyle;
+    ResetToBase();
 
     ApplyValues(theme.styles, row.styles);
     ApplySteps(m_palette, row.underlay);

@@ -69,7 +69,9 @@ enum class ColourDisplay { No, Yes };
 // until the next BuildThemes; a copied set keeps its own themes and current theme.
 class ThemeSet {
 public:
-    ThemeSet();  // builds the colour list; nothing selected or applied yet (palette all black)
+    // Builds the colour list. Until a theme is applied the palette is the base one every theme
+    // starts from (black, with a few white slots) and the style values are their defaults.
+    ThemeSet();
 
     // Recreates the list: all eight themes, or only the two black-and-white ones ("Default B&W",
     // "Original B&W") for a screen without colour. Forgets the current and applied theme.
@@ -93,6 +95,7 @@ public:
 
 private:
     int IndexOf(const Theme* theme) const;
+    void ResetToBase();
 
     std::vector<Theme> m_themes;
     int m_current = -1;  // indices into m_themes; -1 for none
