@@ -10,6 +10,8 @@ constexpr KeypadKey Plain(FunctionId id) { return {id, id}; }
 // Column 5 holds the operators and column 6 the keys that end or clear an entry, as on a desk
 // calculator. The shifted faces carry what no 12-key block has room for; 4 shifted is in/s, the
 // one speed unit left off the conversion keyboards.
+// Two lines per row of keys, so that the table reads like the keypad.
+// clang-format off
 constexpr std::array<KeypadRow, 5> kSharedKeypad = {{
     {{Plain(fid::Shift), {fid::OpenParen, fid::Rotate3}, {fid::CloseParen, fid::Over},
       {fid::RollDown, fid::RollUp}, {fid::Swap, fid::Fill}, {fid::Backspace, fid::Drop}}},
@@ -22,6 +24,7 @@ constexpr std::array<KeypadRow, 5> kSharedKeypad = {{
     {{Plain(fid::ChangeSign), {fid::Digit0, fid::MacroPlay}, Plain(fid::Point),
       {fid::ClearStack, fid::ClearAll}, Plain(fid::Add), Plain(fid::Equals)}},
 }};
+// clang-format on
 
 // Under RPN the corner key is ENTER; the infix methods complete a calculation with "=".
 constexpr std::array<BasicRow, 5> BasicLayout(FunctionId corner) {

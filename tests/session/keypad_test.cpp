@@ -21,7 +21,7 @@ std::set<FunctionId> AdvancedFaces() {
     const UserKeyMap none = EmptyUserKeyMap();
     for (int keyboard = 0; keyboard < kUserKeyboard; ++keyboard) {
         for (int shift = 0; shift < 2; ++shift) {
-            for (const u32 id : KeyLayout(keyboard, shift, none)) faces.insert(FunctionId{id});
+            for (const u32 id : KeyLayout(keyboard, shift, none)) faces.insert(static_cast<FunctionId>(id));
         }
     }
     for (const KeypadRow& row : SharedKeypad()) {
@@ -48,12 +48,11 @@ TEST(Keypad, EveryKeyCanBeTappedAndHasAFace) {
     // Keys that need no face of their own: second keys of the same function, the second and third
     // shift, and the variants the keyboard sends in place of the key the user taps.
     const std::set<FunctionId> noFaceNeeded = {
-        fid::Point2, fid::ClearAll2, fid::ClearStack2, fid::ClearX2, fid::Enter2, fid::Amortize2,
-        fid::FirstShift, fid::SecondShift,
-        fid::IntegerNegate, fid::ToDefaultFormat, fid::IntegerAdd, fid::IntegerSubtract,
-        fid::IntegerMultiply, fid::IntegerDivide,
-        fid::RecallVariant, fid::RecallLarge, fid::ExchangeVariant, fid::ExchangeLarge,
-        fid::StoreVariant, fid::StoreLarge};
+        fid::Point2,          fid::ClearAll2,       fid::ClearStack2,   fid::ClearX2,
+        fid::Enter2,          fid::Amortize2,       fid::FirstShift,    fid::SecondShift,
+        fid::IntegerNegate,   fid::ToDefaultFormat, fid::IntegerAdd,    fid::IntegerSubtract,
+        fid::IntegerMultiply, fid::IntegerDivide,   fid::RecallVariant, fid::RecallLarge,
+        fid::ExchangeVariant, fid::ExchangeLarge,   fid::StoreVariant,  fid::StoreLarge};
     const std::set<FunctionId> faces = AdvancedFaces();
     for (const KeyInfo& key : kKeyTable) {
         SCOPED_TRACE(std::string(key.name));
@@ -70,7 +69,7 @@ TEST(Keypad, EveryKeyCanBeTappedAndHasAFace) {
     EXPECT_EQ(FindLegend(kNoKey), nullptr);
     EXPECT_EQ(FindLegend(fid::TagDate), nullptr);
     // A key drawn on screen that brinto-cli cannot name would be a key the tests cannot drive.
-    for (const FunctionId id : faces) EXPECT_NE(FindLegend(id), nullptr) << "face " << id;
+    for (const FunctionId id : faces) EXPECT_NE(FindLegend(id), nullptr) << "face " << static_cast<int>(id);
 }
 
 TEST(Keypad, EachFaceAppearsOnceOnTheSharedKeypad) {
@@ -88,21 +87,26 @@ TEST(Keypad, EachFaceAppearsOnceOnTheSharedKeypad) {
 }
 
 TEST(Keypad, BasicKeysEndWithEqualsOrEnterByMethod) {
-    struct Case { InputMethod method; FunctionId completes; FunctionId absent; };
+    struct Case {
+        InputMethod method;
+        FunctionId completes;
+        FunctionId absent;
+    };
     const Case cases[] = {
         {InputMethod::Simple, fid::Equals, fid::Enter},
         {InputMethod::Precedence, fid::Equals, fid::Enter},
         {InputMethod::Rpn, fid::Enter, fid::Equals},
     };
-    const std::vector<FunctionId> required = {
-        fid::Digit0, fid::Digit1, fid::Digit2, fid::Digit3, fid::Digit4, fid::Digit5, fid::Digit6,
-        fid::Digit7, fid::Digit8, fid::Digit9, fid::Point, fid::Add, fid::Subtract, fid::Multiply,
-        fid::Divide, fid::ChangeSign, fid::Backspace, fid::ClearStack, fid::Percent};
+    const std::vector<FunctionId> required = {fid::Digit0,    fid::Digit1,     fid::Digit2, fid::Digit3,
+                                              fid::Digit4,    fid::Digit5,     fid::Digit6, fid::Digit7,
+                                              fid::Digit8,    fid::Digit9,     fid::Point,  fid::Add,
+                                              fid::Subtract,  fid::Multiply,   fid::Divide, fid::ChangeSign,
+                                              fid::Backspace, fid::ClearStack, fid::Percent};
     for (const Case& c : cases) {
         SCOPED_TRACE(static_cast<int>(c.method));
         std::multiset<FunctionId> keys;
         for (const BasicRow& row : BasicKeys(c.method)) keys.insert(row.begin(), row.end());
-        for (const FunctionId id : required) EXPECT_EQ(keys.count(id), 1u) << id;
+        for (const FunctionId id : required) EXPECT_EQ(keys.count(id), 1u) << static_cast<int>(id);
         EXPECT_EQ(keys.count(c.completes), 1u);
         EXPECT_EQ(keys.count(c.absent), 0u);
         EXPECT_EQ(keys.size(), required.size() + 1);
