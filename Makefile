@@ -9,7 +9,7 @@ FUZZ_PACKAGES = clang-14 libclang-rt-14-dev libfuzzer-14-dev
 FUZZ_CMAKE = cmake -S . -B build-fuzz -DCMAKE_CXX_COMPILER=$(FUZZ_CXX) -DCMAKE_BUILD_TYPE=RelWithDebInfo \
 	-DBRINTO_TESTS=OFF -DBRINTO_APP=OFF -DBRINTO_FUZZ=ON $(CMAKE_FLAGS)
 
-.PHONY: all deps build run run-cli guide test test-release test-sanitize bench clean fuzz-deps fuzz-build test-fuzz fuzz fuzz-coverage
+.PHONY: all deps build run run-cli guide screenshots test test-release test-sanitize bench clean fuzz-deps fuzz-build test-fuzz fuzz fuzz-coverage
 
 all: build
 
@@ -35,6 +35,12 @@ run-cli: deps
 guide: deps
 	cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
 	cmake --build build -j $(JOBS) --target guide
+
+# Redraws docs/screenshots/ : every window of the program on a calculator with sample values.
+screenshots: deps
+	cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
+	cmake --build build -j $(JOBS) --target brinto
+	QT_QPA_PLATFORM=offscreen ./build/brinto --screenshot docs/screenshots
 
 test: deps test-release test-sanitize test-fuzz
 

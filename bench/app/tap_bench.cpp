@@ -21,7 +21,7 @@ public:
 void TapToRepaint(benchmark::State& state) {
     QuietHost host;
     Calculator calculator(host);
-    calculator.Start(AppOptions{std::nullopt, true, {}});
+    calculator.Start(AppOptions::InMemory());
     MainWindow window(calculator.session);
     host.window = &window;
     window.resize(360, 480);

@@ -17,6 +17,14 @@ struct AppOptions {
     std::optional<std::string> db;  // --db PATH
     bool memory = false;            // --memory
     std::string keys;               // --keys TEXT, typed once the window is up
+    std::optional<std::string> screenshots;  // --screenshot DIR
+
+    // A calculator from the defaults that saves nothing (tests, pictures).
+    static AppOptions InMemory() {
+        AppOptions o;
+        o.memory = true;
+        return o;
+    }
 };
 
 class Calculator {

@@ -13,6 +13,8 @@
 #include <QHBoxLayout>
 
 #include "app/accessibility.h"
+#include "app/dialogs/colour_dialogs.h"
+#include "app/dialogs/dialogs.h"
 #include "engine/function_ids.h"
 #include "engine/keyboards.h"
 #include "session/keypad.h"
@@ -124,6 +126,11 @@ void MainWindow::BuildMenus() {
     for (const auto& [text, which] : views) {
         add(viewMenu, QString::fromLatin1(text), [this, which = which] { OpenView(which); });
     }
+    // The Date & Time keyboard has no keys for these; they serve every keyboard from here.
+    viewMenu->addSeparator();
+    add(viewMenu, QStringLiteral("Enter Date..."), [this] { Dialogs().OpenEnterDate(); }, QKeySequence(Qt::CTRL | Qt::Key_D));
+    add(viewMenu, QStringLiteral("Enter Time..."), [this] { Dialogs().OpenEnterTime(); }, QKeySequence(Qt::CTRL | Qt::Key_T));
+    add(viewMenu, QStringLiteral("Durations..."), [this] { Dialogs().OpenDurations(); }, QKeySequence(Qt::CTRL | Qt::Key_U));
 
     QMenu* editMenu = menuBar()->addMenu(QStringLiteral("Edit"));
     add(editMenu, QStringLiteral("Undo"), [&s] { s.Undo(); }, QKeySequence(Qt::CTRL | Qt::Key_Z));
@@ -138,7 +145,7 @@ void MainWindow::BuildMenus() {
     add(optionsMenu, QStringLiteral("Preferences..."), [this] { OpenView(View::Preferences); });
     add(optionsMenu, QStringLiteral("Keyboard..."), [this] { OpenView(View::Keyboard); });
     optionsMenu->addSeparator();
-    add(optionsMenu, QStringLiteral("About Brinto..."), [this] { ShowAbout(); });
+    add(optionsMenu, QStringLiteral("About Brinto..."), [this] { Dialogs().OpenAbout(); });
     optionsMenu->addSeparator();
     add(optionsMenu, QStringLiteral("Quit"), [this] { close(); }, QKeySequence(Qt::CTRL | Qt::Key_Q));
 
@@ -150,7 +157,7 @@ void MainWindow::BuildMenus() {
 
 void MainWindow::ApplyTheme() {
     m_themes.ApplyTheme(m_themes.SelectTheme(m_session.engine().prefs.Theme()));
-    m_colours = MakeScreenColours(m_themes, m_session.engine().prefs, DefaultDisplayStyle(m_themes));
+    m_colours = MakeScreenColours(m_themes, m_session.engine().prefs, DefaultDisplayStyle(m_themes), m_customColours);
     QPalette palette = m_pane->palette();
     palette.setColor(QPalette::Window, ToQColor(m_colours.window));
     m_pane->setPalette(palette);
@@ -231,59 +238,83 @@ void MainWindow::KeyTapped(const KeyView* view, int index) {
     const KeyCell& key = view->Key(index);
     if (key.block > 0) {
         m_session.TapBlockKey(key.block);
-        return;
+    } else {
+        const FunctionId id = view->ActiveId(index);
+        m_session.Tap(id == kNoKey ? id : m_session.Remap(id));
     }
-    const FunctionId id = view->ActiveId(index);
-    m_session.Tap(id == kNoKey ? id : m_session.Remap(id));
+    KeyDone();
+}
+
+void MainWindow::KeyDone() {
+    // An open Stack or register view follows every key.
+    if (m_dialogs) m_dialogs->Refresh();
 }
 
 void MainWindow::DisplayTapped(TapArea area) {
-    // The "Tap:" list and the views are in the same order.
-    OpenView(static_cast<View>(static_cast<u16>(m_session.engine().prefs.Tap(area))));
+    static constexpr std::pair<TapTarget, View> kTargets[] = {
+        {TapTarget::Preferences, View::Preferences}, {TapTarget::Keyboard, View::Keyboard},
+        {TapTarget::Stack, View::Stack}, {TapTarget::UserRegisters, View::UserRegisters},
+        {TapTarget::Constants, View::Constants}, {TapTarget::Tvm, View::Tvm},
+        {TapTarget::Amortization, View::Amortization}, {TapTarget::CashFlow, View::CashFlow},
+        {TapTarget::Statistical, View::Statistical}};
+    const TapTarget target = m_session.engine().prefs.Tap(area);
+    for (const auto& [tap, view] : kTargets) {
+        if (tap == target) OpenView(view);
+    }
 }
 
-void MainWindow::OpenView(View view) {
-    // The dialogs and list views are not part of this program yet.
-    Q_UNUSED(view);
+dialogs::DialogHost& MainWindow::Dialogs() {
+    if (m_dialogs) return *m_dialogs;
+    m_dialogs = new dialogs::DialogHost(m_session, this, {}, m_store);
+    connect(m_dialogs, &dialogs::DialogHost::changed, this, [this] { Refresh(); });
+    connect(m_dialogs, &dialogs::DialogHost::preferencesClosed, this, [this] { ApplyTheme(); });
+    connect(m_dialogs, &dialogs::DialogHost::coloursChanged, this, [this](const CustomColours& colours) {
+        m_customColours = colours;
+        ApplyTheme();
+    });
+    return *m_dialogs;
 }
 
-void MainWindow::OpenHelp(const QString& anchor) {
-    // The help viewer and the user guide are not part of this program yet.
-    Q_UNUSED(anchor);
+void MainWindow::UseStore(SessionStore* store) {
+    m_store = store;
+    if (!store) return;
+    if (const auto saved = store->FrontEndSetting(dialogs::kCustomColoursSetting)) {
+        m_customColours = dialogs::UnpackColours(*saved);
+    }
 }
 
-void MainWindow::ShowAbout() {
-    QMessageBox box(this);
-    box.setWindowTitle(QStringLiteral("About Brinto"));
-    box.setIconPixmap(windowIcon().pixmap(64, 64));
-    box.setText(QStringLiteral("Brinto™ for Linux\nVersion %1").arg(QStringLiteral(BRINTO_VERSION)));
-    box.setStandardButtons(QMessageBox::Ok | QMessageBox::Help);
-    if (box.exec() == QMessageBox::Help) OpenHelp(QStringLiteral("about"));
-}
+void MainWindow::OpenView(View view) { Dialogs().Open(view); }
+
+void MainWindow::OpenHelp(const QString& anchor) { Dialogs().OpenHelp(anchor.toStdString()); }
 
 void MainWindow::keyPressEvent(QKeyEvent* event) {
-    const Qt::KeyboardModifiers mods = event->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier);
-    if (mods != Qt::NoModifier) {
+    if (HardwareKey(event)) {
+        KeyDone();
+    } else {
         QMainWindow::keyPressEvent(event);
-        return;
     }
+}
+
+bool MainWindow::HardwareKey(QKeyEvent* event) {
+    const Qt::KeyboardModifiers mods = event->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier);
+    if (mods != Qt::NoModifier) return false;
     switch (event->key()) {
-        case Qt::Key_Backspace: m_session.Special(SpecialKey::Backspace); return;
-        case Qt::Key_Delete: m_session.Special(SpecialKey::Delete); return;
+        case Qt::Key_Backspace: m_session.Special(SpecialKey::Backspace); return true;
+        case Qt::Key_Delete: m_session.Special(SpecialKey::Delete); return true;
         case Qt::Key_Return:
-        case Qt::Key_Enter: m_session.ActionButton(); return;
-        case Qt::Key_Up: m_session.Special(SpecialKey::Up); return;
-        case Qt::Key_Down: m_session.Special(SpecialKey::Down); return;
-        case Qt::Key_Left: m_session.Special(SpecialKey::Left); return;
-        case Qt::Key_Right: m_session.Special(SpecialKey::Right); return;
+        case Qt::Key_Enter: m_session.ActionButton(); return true;
+        case Qt::Key_Up: m_session.Special(SpecialKey::Up); return true;
+        case Qt::Key_Down: m_session.Special(SpecialKey::Down); return true;
+        case Qt::Key_Left: m_session.Special(SpecialKey::Left); return true;
+        case Qt::Key_Right: m_session.Special(SpecialKey::Right); return true;
         default: break;
     }
     const QString text = event->text();
     if (text.size() == 1 && text[0].isPrint()) {
         m_session.CharacterKey(text[0].unicode());
-        return;
+        return true;
     }
-    QMainWindow::keyPressEvent(event);
+    return false;
 }
 
 void MainWindow::changeEvent(QEvent* event) {

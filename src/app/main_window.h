@@ -7,6 +7,7 @@
 #include "app/display_view.h"
 #include "app/key_view.h"
 #include "session/host.h"
+#include "session/screen_colours.h"
 #include "session/theme.h"
 
 class QActionGroup;
@@ -17,6 +18,10 @@ class QToolBar;
 namespace brinto {
 
 class Session;
+class SessionStore;
+namespace dialogs {
+class DialogHost;
+}
 
 class MainWindow : public QMainWindow {
     Q_OBJECT
@@ -33,6 +38,13 @@ public:
     void OpenView(View view);
     // The help viewer at an anchor of the user guide.
     void OpenHelp(const QString& anchor);
+    // Where the user's key colours are kept; they are read now and lie over every theme.
+    void UseStore(SessionStore* store);
+
+    // The secondary windows, made on first use so that start-up does not pay for them.
+    dialogs::DialogHost& Dialogs();
+    // Null until a secondary window was first opened.
+    dialogs::DialogHost* openedDialogs() { return m_dialogs; }
 
     // Run when the calculator should be kept: deactivation, minimising, closing, Quit.
     std::function<void()> onSave;
@@ -56,7 +68,9 @@ private:
     void LayoutViews();
     void KeyTapped(const KeyView* view, int index);
     void DisplayTapped(TapArea area);
-    void ShowAbout();
+    // The keys typed on the hardware keyboard; false for those the window does not take.
+    bool HardwareKey(QKeyEvent* event);
+    void KeyDone();
     void Save();
 
     Session& m_session;
@@ -70,6 +84,9 @@ private:
     QButtonGroup* m_stripButtons = nullptr;
     ThemeSet m_themes;
     ScreenColours m_colours{};
+    CustomColours m_customColours;
+    SessionStore* m_store = nullptr;
+    dialogs::DialogHost* m_dialogs = nullptr;
 };
 
 }  // namespace brinto

@@ -12,6 +12,7 @@
 #include <cstdio>
 
 #include "app/main_window.h"
+#include "app/screenshots.h"
 #include "app/window_host.h"
 
 namespace brinto {
@@ -25,6 +26,9 @@ constexpr const char* kHelp =
     "                (default: $XDG_DATA_HOME/brinto/brinto.db, shared with brinto-cli)\n"
     "  --memory      start from the defaults and save nothing\n"
     "  --keys TEXT   type TEXT on the keyboard once the window is up (for scripts)\n"
+    "  --screenshot DIR\n"
+    "                draw every window, off screen, to DIR/NAME.png on a calculator\n"
+    "                in memory with sample values, and exit\n"
     "  --help        show this help and exit\n"
     "  --version     show the version and exit\n";
 
@@ -83,8 +87,10 @@ std::optional<AppOptions> ParseAppOptions(const std::vector<std::string>& args, 
             o.db = args[++i];
         } else if (a == "--keys" && hasValue) {
             o.keys = args[++i];
+        } else if (a == "--screenshot" && hasValue) {
+            o.screenshots = args[++i];
         } else {
-            message = (a == "--db" || a == "--keys") ? "brinto: " + a + " needs a value\n"
+            message = (a == "--db" || a == "--keys" || a == "--screenshot") ? "brinto: " + a + " needs a value\n"
                                                      : "brinto: unknown option " + a + " (see --help)\n";
             exitCode = 2;
             return std::nullopt;
@@ -102,12 +108,15 @@ int RunApp(int argc, char** argv) {
         return exitCode;
     }
 
+    // Pictures are drawn off screen whatever display there is.
+    if (options->screenshots) qputenv("QT_QPA_PLATFORM", "offscreen");
     // The desktop's platform theme plug-in costs more start-up time than the whole calculator;
     // the window draws its own faces, so Qt's built-in look is enough.
     QGuiApplication::setDesktopSettingsAware(false);
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Brinto"));
     QApplication::setApplicationVersion(QStringLiteral(BRINTO_VERSION));
+    if (options->screenshots) return WriteScreenshots(QString::fromStdString(*options->screenshots));
 
     WindowHost host;
     host.askInputMethod = !options->memory;
@@ -124,6 +133,7 @@ int RunApp(int argc, char** argv) {
         QApplication::quit();
     });
     const StartOutcome outcome = calculator.Start(*options);
+    window.UseStore(&calculator.store);
     for (const std::string& notice : outcome.notices) {
         QMessageBox::information(&window, QStringLiteral("Brinto"), QString::fromStdString(notice));
     }

@@ -32,7 +32,7 @@ public:
 
 struct Desk {
     explicit Desk(QSize size = {360, 480}) : calculator(host), window(calculator.session) {
-        calculator.Start(AppOptions{std::nullopt, true, {}});
+        calculator.Start(AppOptions::InMemory());
         host.window = &window;
         window.resize(size);
         window.show();

@@ -12,6 +12,8 @@
 #include <string>
 #include <thread>
 
+#include <QImage>
+
 namespace {
 
 std::string Output(const std::string& command) {
@@ -48,6 +50,36 @@ TEST(Program, SigtermKeepsWhatWasTypedForBrintoCli) {
 
     // Y holds the sum, X the 7 that was being typed when the signal came.
     EXPECT_EQ(Output(std::string(BRINTO_CLI_PATH) + " --db " + db + " + </dev/null"), "49.\n");
+    std::filesystem::remove_all(dir);
+}
+
+TEST(Program, ScreenshotDrawsEveryWindow) {
+    const std::filesystem::path dir =
+        std::filesystem::temp_directory_path() / ("brinto-shots-" + std::to_string(getpid()));
+    // No display and no database: the pictures need neither.
+    const std::string command = "env -u DISPLAY -u WAYLAND_DISPLAY XDG_DATA_HOME=" + dir.string() + "/data " +
+                                BRINTO_APP_PATH + " --screenshot " + (dir / "shots").string() + "; echo $?";
+    EXPECT_EQ(Output(command), "0\n");
+    EXPECT_FALSE(std::filesystem::exists(dir / "data"));
+    const char* const names[] = {
+        "main-general", "main-financial", "main-scientific", "main-statistical", "main-programmer",
+        "main-conversion-1", "main-conversion-2", "main-date-time", "main-user", "main-basic",
+        "preferences-general", "preferences-display", "preferences-keyboard", "customize-keyboard", "stack",
+        "user-registers", "constants", "tvm", "amortization", "cash-flows", "statistical-registers",
+        "input-method", "enter-date", "enter-time", "about", "customize-colors", "color-chooser", "help"};
+    for (const char* name : names) {
+        const QImage image(QString::fromStdString((dir / "shots" / (std::string(name) + ".png")).string()));
+        ASSERT_FALSE(image.isNull()) << name;
+        EXPECT_GE(image.width(), 100) << name;
+        // Blank means one colour everywhere; a drawn window has text and frames on its background.
+        const QImage small = image.convertToFormat(QImage::Format_RGB32);
+        const QRgb first = small.pixel(0, 0);
+        bool varied = false;
+        for (int y = 0; y < small.height() && !varied; ++y) {
+            for (int x = 0; x < small.width() && !varied; ++x) varied = small.pixel(x, y) != first;
+        }
+        EXPECT_TRUE(varied) << name;
+    }
     std::filesystem::remove_all(dir);
 }
 

@@ -221,7 +221,7 @@ TEST(Window, MenusHoldTheirEntriesInOrder) {
     }
     EXPECT_EQ(seen.join(QLatin1Char('|')).toStdString(),
               "View:|Basic|Advanced|-|Stack...|User Registers...|Constants...|TVM...|Amortization...|"
-              "Cash Flow...|Statistical...|Edit:|Undo|Redo|-|Cut|Copy|Paste|Options:|Preferences...|"
+              "Cash Flow...|Statistical...|-|Enter Date...|Enter Time...|Durations...|Edit:|Undo|Redo|-|Cut|Copy|Paste|Options:|Preferences...|"
               "Keyboard...|-|About Brinto...|-|Quit");
 }
 

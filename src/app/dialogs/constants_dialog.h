@@ -22,7 +22,7 @@ public:
 
     void accept() override;
 
-signals:
+Q_SIGNALS:
     void changed();
 
 private:

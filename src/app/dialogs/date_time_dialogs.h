@@ -57,7 +57,7 @@ public:
     void accept() override;
     QLineEdit* field(int i) const { return m_fields[static_cast<std::size_t>(i)]; }
 
-signals:
+Q_SIGNALS:
     void changed();
 
 private:

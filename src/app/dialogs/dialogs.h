@@ -62,7 +62,7 @@ public:
 
     void Refresh();
 
-signals:
+Q_SIGNALS:
     void changed();
     // The "Preferences" sheet closed: the theme in force is applied again.
     void preferencesClosed();

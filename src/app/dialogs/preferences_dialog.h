@@ -25,7 +25,7 @@ public:
     // The record as the controls have it.
     Preferences Edited() const;
 
-signals:
+Q_SIGNALS:
     void colorsRequested();
 
 private:

@@ -25,7 +25,7 @@ public:
     void Refresh();
     QTableWidget* table() const { return m_table; }
 
-signals:
+Q_SIGNALS:
     // The calculator changed: the main window repaints.
     void changed();
     // The Amortization view's "Schedule..." button.

@@ -19,7 +19,7 @@ public:
     void Refresh();
     QListWidget* lines() const { return m_lines; }
 
-signals:
+Q_SIGNALS:
     void changed();
 
 private:

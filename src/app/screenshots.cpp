@@ -1,0 +1,189 @@
+#include "app/screenshots.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QDir>
+#include <QTabWidget>
+#include <cstdio>
+#include <functional>
+
+#include "app/calculator.h"
+#include "app/dialogs/colour_dialogs.h"
+#include "app/dialogs/date_time_dialogs.h"
+#include "app/dialogs/dialogs.h"
+#include "app/dialogs/help_viewer.h"
+#include "app/input_method_dialog.h"
+#include "app/main_window.h"
+#include "app/window_host.h"
+#include "engine/function_ids.h"
+#include "engine/keyboards.h"
+
+namespace brinto {
+
+namespace {
+
+const char* const kKeyboardShots[kKeyboardCount] = {
+    "main-general",      "main-financial",    "main-scientific", "main-statistical", "main-programmer",
+    "main-conversion-1", "main-conversion-2", "main-date-time",  "main-user"};
+
+const char* const kPreferencePages[] = {"preferences-general", "preferences-display", "preferences-keyboard"};
+
+// The views in the order of their pictures, after the "Customize Keyboard" dialog.
+const std::pair<const char*, View> kViewShots[] = {
+    {"stack", View::Stack},         {"user-registers", View::UserRegisters},
+    {"constants", View::Constants}, {"tvm", View::Tvm},
+    {"amortization", View::Amortization}, {"cash-flows", View::CashFlow},
+    {"statistical-registers", View::Statistical}};
+
+// The same moment on every run, so the date pictures do not change by themselves.
+class ScreenshotHost : public WindowHost {
+public:
+    ScreenshotHost() { askInputMethod = false; }
+    DateFields Now() const override { return {2026, 3, 15, 14, 5, 0, 0}; }
+};
+
+// Enough in every register list that no view is empty: a value on each stack level, a loan in
+// the TVM registers, a few cash flows and data points, two user registers and two user keys.
+void FillSamples(Session& session) {
+    const auto type = [&session](const char* digits) {
+        for (const char* c = digits; *c; ++c) session.CharacterKey(static_cast<char32_t>(*c));
+    };
+    const auto enter = [&](const char* digits, FunctionId key) {
+        type(digits);
+        session.Tap(key);
+    };
+    session.ChooseInputMethod(InputMethod::Rpn);
+    // A 30-year loan of 250 000 at 6.5 %, paid monthly; its payment solved.
+    enter("12", fid::PYr);
+    enter("360", fid::N);
+    enter("6.5", fid::IYr);
+    enter("250000", fid::PV);
+    enter("0", fid::FV);
+    session.Solve(fid::PMT);
+    session.SetAmortizationRange(1, 12);
+    // Cash flows: an outlay and three returns.
+    type("15000");
+    session.Tap(fid::ChangeSign);
+    session.Tap(fid::CashFlow);
+    for (const char* amount : {"4000", "5500", "7000"}) enter(amount, fid::CashFlow);
+    // Statistics: four (x, y) pairs, y typed first.
+    for (const auto& [y, x] : {std::pair{"2.1", "1"}, {"3.9", "2"}, {"6.2", "3"}, {"7.8", "4"}}) {
+        type(y);
+        session.Tap(fid::Enter);
+        enter(x, fid::SigmaPlus);
+    }
+    session.StoreRegister(0, 42.5);
+    session.StoreRegister(1, 1.5e-3);
+    session.AssignUserKey(KeyHalf::Unshifted, 1, fid::Sin);
+    session.AssignUserKey(KeyHalf::Unshifted, 2, fid::Pi);
+    // The stack: four levels filled.
+    for (const char* value : {"1.25", "-8", "365", "3.14159"}) {
+        type(value);
+        session.Tap(fid::Enter);
+    }
+    type("1024");
+}
+
+}  // namespace
+
+const QStringList& ScreenshotNames() {
+    static const QStringList names = [] {
+        QStringList list;
+        for (const char* name : kKeyboardShots) list << QString::fromLatin1(name);
+        list << QStringLiteral("main-basic");
+        for (const char* name : kPreferencePages) list << QString::fromLatin1(name);
+        list << QStringLiteral("customize-keyboard");
+        for (const auto& [name, view] : kViewShots) list << QString::fromLatin1(name);
+        list << QStringLiteral("input-method") << QStringLiteral("enter-date") << QStringLiteral("enter-time")
+             << QStringLiteral("about") << QStringLiteral("customize-colors") << QStringLiteral("color-chooser")
+             << QStringLiteral("help");
+        return list;
+    }();
+    return names;
+}
+
+int WriteScreenshots(const QString& directory) {
+    if (!QDir().mkpath(directory)) {
+        std::fprintf(stderr, "brinto: cannot make the folder %s\n", qPrintable(directory));
+        return 1;
+    }
+    ScreenshotHost host;
+    Calculator calculator(host);
+    calculator.Start(AppOptions::InMemory());
+    MainWindow window(calculator.session);
+    host.window = &window;
+    Session& session = calculator.session;
+    FillSamples(session);
+
+    int failures = 0;
+    const auto shoot = [&](QWidget* widget, const QString& name) {
+        if (!widget->isVisible()) widget->show();
+        QApplication::processEvents();
+        const QString path = QDir(directory).filePath(name + QStringLiteral(".png"));
+        if (!widget->grab().save(path)) {
+            std::fprintf(stderr, "brinto: cannot write %s\n", qPrintable(path));
+            ++failures;
+        }
+    };
+    const auto close = [](QWidget* widget) {
+        if (auto* dialog = qobject_cast<QDialog*>(widget)) {
+            dialog->reject();
+        } else {
+            widget->hide();
+        }
+    };
+
+    window.resize(360, 480);
+    window.ApplyTheme();
+    for (int keyboard = 0; keyboard < kKeyboardCount; ++keyboard) {
+        session.SelectKeyboard(keyboard);
+        shoot(&window, QString::fromLatin1(kKeyboardShots[keyboard]));
+    }
+    session.SelectKeyboard(0);
+    session.Basic();
+    shoot(&window, QStringLiteral("main-basic"));
+    session.Advanced();
+
+    dialogs::DialogHost& windows = window.Dialogs();
+    QWidget* sheet = windows.Open(View::Preferences);
+    auto* pages = sheet->findChild<QTabWidget*>();
+    for (int page = 0; page < static_cast<int>(std::size(kPreferencePages)); ++page) {
+        if (pages) pages->setCurrentIndex(page);
+        shoot(sheet, QString::fromLatin1(kPreferencePages[page]));
+    }
+    close(sheet);
+    QWidget* keyboard = windows.Open(View::Keyboard);
+    shoot(keyboard, QStringLiteral("customize-keyboard"));
+    close(keyboard);
+    for (const auto& [name, view] : kViewShots) {
+        QWidget* shown = windows.Open(view);
+        shoot(shown, QString::fromLatin1(name));
+        close(shown);
+    }
+    {
+        InputMethodDialog dialog(&window);
+        shoot(&dialog, QStringLiteral("input-method"));
+    }
+    const std::pair<const char*, std::function<QWidget*()>> rest[] = {
+        {"enter-date", [&]() -> QWidget* { return windows.OpenEnterDate(); }},
+        {"enter-time", [&]() -> QWidget* { return windows.OpenEnterTime(); }},
+        {"about", [&]() -> QWidget* { return windows.OpenAbout(); }}};
+    for (const auto& [name, open] : rest) {
+        QWidget* shown = open();
+        shoot(shown, QString::fromLatin1(name));
+        close(shown);
+    }
+    dialogs::CustomizeColours* colours = windows.OpenColours();
+    shoot(colours, QStringLiteral("customize-colors"));
+    QWidget* chooser = colours->Choose(0);
+    shoot(chooser, QStringLiteral("color-chooser"));
+    close(chooser);
+    close(colours);
+    QWidget* help = windows.OpenHelp("Main_Contents");
+    help->resize(640, 480);
+    shoot(help, QStringLiteral("help"));
+    close(help);
+    return failures == 0 ? 0 : 1;
+}
+
+}  // namespace brinto

@@ -1,0 +1,130 @@
+// The secondary windows as the main window opens them: menu entries, shortcuts, display taps, the
+// Action button, and the theme the "Preferences" sheet leaves behind.
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDialog>
+#include <QMenuBar>
+
+#include "app/dialogs/preferences_dialog.h"
+#include "app_fixture.h"
+#include "session/session.h"
+
+namespace brinto::test {
+namespace {
+
+QAction* MenuEntry(MainWindow& window, const QString& text) {
+    for (QAction* menu : window.menuBar()->actions()) {
+        for (QAction* entry : menu->menu()->actions()) {
+            if (entry->text() == text) return entry;
+        }
+    }
+    return nullptr;
+}
+
+// The titles of the windows shown besides the main window.
+QStringList OpenWindows(const MainWindow& window) {
+    QStringList titles;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget != &window && widget->isVisible() && !widget->windowTitle().isEmpty()) titles << widget->windowTitle();
+    }
+    return titles;
+}
+
+void CloseWindows(Desk& desk) {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        if (widget != &desk.window && widget->isVisible()) widget->hide();
+    }
+    desk.window.activateWindow();
+    [[maybe_unused]] const bool active = QTest::qWaitForWindowActive(&desk.window);
+}
+
+TEST(Windows, EachOpensFromItsMenuEntryAndShortcut) {
+    struct Row {
+        const char* entry;  // nullptr: only the shortcut reaches it
+        QKeySequence shortcut;
+        const char* title;
+    };
+    const Row rows[] = {
+        {"Stack...", {}, "Stack"},
+        {"User Registers...", {}, "User Registers"},
+        {"Constants...", {}, "Constants"},
+        {"TVM...", {}, "Time Value of Money"},
+        {"Amortization...", {}, "Amortization"},
+        {"Cash Flow...", {}, "No Cash Flow Entries"},  // nothing beyond CF0 yet
+        {"Statistical...", {}, "Statistical Registers"},
+        {"Enter Date...", QKeySequence(Qt::CTRL | Qt::Key_D), "Enter Date"},
+        {"Enter Time...", QKeySequence(Qt::CTRL | Qt::Key_T), "Enter Time"},
+        {"Durations...", QKeySequence(Qt::CTRL | Qt::Key_U), "Durations"},
+        {"Preferences...", {}, "Preferences"},
+        {"Keyboard...", {}, "Customize Keyboard"},
+        {"About Brinto...", {}, "About Brinto"},
+        {nullptr, QKeySequence(Qt::Key_F1), "Brinto Help"},
+    };
+    Desk desk;
+    // Nothing is made before it is first wanted.
+    EXPECT_EQ(desk.window.openedDialogs(), nullptr);
+    for (const Row& row : rows) {
+        if (row.entry) {
+            QAction* entry = MenuEntry(desk.window, QString::fromLatin1(row.entry));
+            ASSERT_NE(entry, nullptr) << row.entry;
+            EXPECT_EQ(entry->shortcut(), row.shortcut) << row.entry;
+            entry->trigger();
+            EXPECT_EQ(OpenWindows(desk.window), QStringList{QString::fromLatin1(row.title)}) << row.entry;
+            CloseWindows(desk);
+        }
+        if (!row.shortcut.isEmpty()) {
+            QTest::keySequence(&desk.window, row.shortcut);
+            EXPECT_EQ(OpenWindows(desk.window), QStringList{QString::fromLatin1(row.title)})
+                << row.shortcut.toString().toStdString();
+            CloseWindows(desk);
+        }
+    }
+}
+
+TEST(Windows, DisplayTapsAndTheActionButtonOpenTheirTarget) {
+    Desk desk;
+    desk.ChangePreferences([](Preferences& p) {
+        p.SetTap(TapArea::Left, TapTarget::Tvm);
+        p.SetTap(TapArea::Center, TapTarget::Stack);
+        p.SetTap(TapArea::Right, TapTarget::Constants);
+        p.SetAction(ActionChoice::OpenLastForm);
+    });
+    const struct {
+        double at;  // across the display
+        const char* title;
+    } taps[] = {{0.1, "Time Value of Money"}, {0.5, "Stack"}, {0.9, "Constants"}};
+    DisplayView* display = desk.window.display();
+    for (const auto& tap : taps) {
+        QTest::mouseClick(display, Qt::LeftButton, {}, QPoint(static_cast<int>(display->width() * tap.at), 10));
+        EXPECT_EQ(OpenWindows(desk.window), QStringList{QString::fromLatin1(tap.title)}) << tap.at;
+        CloseWindows(desk);
+    }
+    // "Open last form" brings back the last one shown.
+    desk.Press(Qt::Key_Return);
+    EXPECT_EQ(OpenWindows(desk.window), QStringList{QStringLiteral("Constants")});
+}
+
+TEST(Windows, PreferencesThemeIsAppliedAfterOk) {
+    Desk desk;
+    const ScreenColours before = desk.window.colours();
+    MenuEntry(desk.window, QStringLiteral("Preferences..."))->trigger();
+    auto* sheet = qobject_cast<dialogs::PreferencesDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(sheet, nullptr);
+    auto* theme = sheet->findChild<QComboBox*>(QStringLiteral("Theme:"));
+    ASSERT_NE(theme, nullptr);
+    theme->setCurrentIndex(theme->findData(theme_id::DarkBackground));
+    sheet->accept();
+
+    EXPECT_EQ(desk.engine().prefs.Theme(), theme_id::DarkBackground);
+    ThemeSet themes;
+    themes.ApplyTheme(themes.SelectTheme(theme_id::DarkBackground));
+    const ScreenColours dark = MakeScreenColours(themes, desk.engine().prefs, DefaultDisplayStyle(themes));
+    EXPECT_EQ(desk.window.colours().window, dark.window);
+    EXPECT_EQ(desk.window.colours().displayBackground, dark.displayBackground);
+    EXPECT_NE(desk.window.colours().window, before.window);
+}
+
+}  // namespace
+}  // namespace brinto::test
