@@ -45,8 +45,11 @@ public:
 // Enough in every register list that no view is empty: a value on each stack level, a loan in
 // the TVM registers, a few cash flows and data points, two user registers and two user keys.
 void FillSamples(Session& session) {
+    // A leading minus is the change-sign key, not a subtraction.
     const auto type = [&session](const char* digits) {
-        for (const char* c = digits; *c; ++c) session.CharacterKey(static_cast<char32_t>(*c));
+        const bool negative = *digits == '-';
+        for (const char* c = digits + negative; *c; ++c) session.CharacterKey(static_cast<char32_t>(*c));
+        if (negative) session.Tap(fid::ChangeSign);
     };
     const auto enter = [&](const char* digits, FunctionId key) {
         type(digits);
@@ -62,9 +65,7 @@ void FillSamples(Session& session) {
     session.Solve(fid::PMT);
     session.SetAmortizationRange(1, 12);
     // Cash flows: an outlay and three returns.
-    type("15000");
-    session.Tap(fid::ChangeSign);
-    session.Tap(fid::CashFlow);
+    enter("-15000", fid::CashFlow);
     for (const char* amount : {"4000", "5500", "7000"}) enter(amount, fid::CashFlow);
     // Statistics: four (x, y) pairs, y typed first.
     for (const auto& [y, x] : {std::pair{"2.1", "1"}, {"3.9", "2"}, {"6.2", "3"}, {"7.8", "4"}}) {
