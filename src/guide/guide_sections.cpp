@@ -6,7 +6,7 @@
 #include "display/labels.h"
 #include "ops/constants.h"
 #include "session/key_legends.h"
-#include "session/keyboards.h"
+#include "engine/keyboards.h"
 #include "session/keypad.h"
 
 namespace brinto {

@@ -20,7 +20,7 @@
 #include "engine/key_table.h"
 #include "guide/guide_sections.h"
 #include "session/key_legends.h"
-#include "session/keyboards.h"
+#include "engine/keyboards.h"
 
 namespace brinto::test {
 namespace {
