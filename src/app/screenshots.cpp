@@ -73,8 +73,9 @@ void FillSamples(Session& session) {
         session.Tap(fid::Enter);
         enter(x, fid::SigmaPlus);
     }
-    session.StoreRegister(0, 42.5);
-    session.StoreRegister(1, 1.5e-3);
+    // The cash flows live in the first user registers; these two stand clear of them.
+    session.StoreRegister(10, 42.5);
+    session.StoreRegister(11, 1.5e-3);
     session.AssignUserKey(KeyHalf::Unshifted, 1, fid::Sin);
     session.AssignUserKey(KeyHalf::Unshifted, 2, fid::Pi);
     // The stack: four levels filled.

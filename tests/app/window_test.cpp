@@ -232,14 +232,14 @@ TEST(Window, SizeAndPositionAreKeptBesideTheCalculator) {
     {
         RecordingHost host;
         Calculator calculator(host);
-        calculator.Start(AppOptions{db, false, {}});
+        calculator.Start(AppOptions{db, false, {}, {}});
         MainWindow window(calculator.session);
         window.resize(500, 620);
         calculator.Save(window.saveGeometry());
     }
     RecordingHost host;
     Calculator calculator(host);
-    calculator.Start(AppOptions{db, false, {}});
+    calculator.Start(AppOptions{db, false, {}, {}});
     MainWindow window(calculator.session);
     ASSERT_TRUE(window.restoreGeometry(calculator.SavedGeometry()));
     EXPECT_EQ(window.size(), QSize(500, 620));

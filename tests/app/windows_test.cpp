@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialog>
+#include <QListWidget>
 #include <QMenuBar>
 
 #include "app/dialogs/preferences_dialog.h"
@@ -104,6 +105,16 @@ TEST(Windows, DisplayTapsAndTheActionButtonOpenTheirTarget) {
     // "Open last form" brings back the last one shown.
     desk.Press(Qt::Key_Return);
     EXPECT_EQ(OpenWindows(desk.window), QStringList{QStringLiteral("Constants")});
+    CloseWindows(desk);
+
+    // An open Stack view follows the keys typed on the main window.
+    MenuEntry(desk.window, QStringLiteral("Stack..."))->trigger();
+    desk.Type("7");
+    QStringList lines;
+    for (QListWidget* list : desk.window.findChildren<QListWidget*>()) {
+        for (int i = 0; i < list->count(); ++i) lines << list->item(i)->text().trimmed();
+    }
+    EXPECT_TRUE(lines.contains(QStringLiteral("7"))) << lines.join(QLatin1Char('|')).toStdString();
 }
 
 TEST(Windows, PreferencesThemeIsAppliedAfterOk) {
