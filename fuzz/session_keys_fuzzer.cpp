@@ -117,8 +117,8 @@ struct Calculator {
     void Run(const Action& a) {
         switch (a.step) {
             case Step::TapKey:
-            case Step::TapRawId: session.Tap(a.value); break;
-            case Step::DispatchKey: engine.Dispatch(a.value); break;
+            case Step::TapRawId: session.Tap(FunctionIdFrom(a.value)); break;
+            case Step::DispatchKey: engine.Dispatch(FunctionIdFrom(a.value)); break;
             case Step::Character: session.CharacterKey(a.value); break;
             case Step::Special: session.Special(static_cast<SpecialKey>(a.value)); break;
             case Step::Action: session.ActionButton(); break;
@@ -133,7 +133,7 @@ struct Calculator {
             case Step::BasicOrAdvanced: a.value ? session.Basic() : session.Advanced(); break;
             case Step::PreferenceWord: engine.prefs.words[a.value] = static_cast<u16>(a.extra); break;
             case Step::PreferenceField: SetPreferenceField(engine.prefs, a.value, a.extra); break;
-            case Step::UserKey: session.userKeys.keys[a.value] = a.extra; break;
+            case Step::UserKey: session.userKeys.keys[a.value] = FunctionIdFrom(a.extra); break;
             case Step::HostAnswers:
                 host.confirm = a.value;
                 host.clipboard = a.text;

@@ -91,19 +91,19 @@ u32 EditEntry(Engine& e, FunctionId id) {
     const bool inExponent = s.status & status::Exponent;
     u8& count = inExponent ? s.exponentDigits : s.entryDigits;
     const int baseLimit = MantissaLimit(s.status);
-    if (id <= 9) {
+    if (IsDecimalDigit(id)) {
         const int limit = inExponent ? kExponentLimit : baseLimit;
         if (count >= limit) {
             accepted = 0;
         } else {
-            Append(s, static_cast<char>('0' + id));
+            Append(s, static_cast<char>('0' + DigitValue(id)));
             ++count;
         }
-    } else if (id <= 15) {
+    } else if (IsHexLetter(id)) {
         if (count >= baseLimit) {
             accepted = 0;
         } else {
-            Append(s, static_cast<char>('A' + (id - 10)));
+            Append(s, static_cast<char>('A' + (DigitValue(id) - 10)));
             ++count;
         }
     } else if (id == fid::Point || id == fid::Point2) {

@@ -6,7 +6,7 @@
 
 #include "display/number_format.h"
 #include "engine/families.h"
-#include "finance/result_labels.h"
+#include "engine/value_tags.h"
 #include "finance/tvm.h"
 
 namespace brinto {

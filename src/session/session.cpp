@@ -40,7 +40,7 @@ bool Session::Tap(FunctionId id) {
 
 FunctionId Session::Remap(FunctionId id) const {
     if (m_engine.IntegerEntryAllowed()) id = IntegerVariant(id);
-    return RegisterVariant(id, m_engine.prefs.HundredRegisters());
+    return RegisterVariant(id, m_engine.prefs.HundredRegisters() ? RegisterSet::Large : RegisterSet::Small);
 }
 
 bool Session::TapBlockKey(int k) {
@@ -55,13 +55,13 @@ bool Session::CharacterKey(char32_t c) {
     FunctionId id = kNoKey;
     const bool integerBase = m_engine.state.status & status::BaseMask;
     if (c >= '0' && c <= '9') {
-        id = c - '0';
+        id = DigitKey(static_cast<int>(c - '0'));
     } else if ((c == 'E' || c == 'e') && !integerBase) {
         id = fid::Exponent;
     } else if (c >= 'A' && c <= 'F') {
-        id = 10 + (c - 'A');
+        id = DigitKey(10 + static_cast<int>(c - 'A'));
     } else if (c >= 'a' && c <= 'f') {
-        id = 10 + (c - 'a');
+        id = DigitKey(10 + static_cast<int>(c - 'a'));
     } else {
         switch (c) {
             case '.': case ',': id = fid::Point; break;
@@ -148,7 +148,7 @@ void Session::AfterRestore() {
 // "Repeat last key" still repeats it.
 bool Session::Restore(bool undo) {
     CalcState& s = m_engine.state;
-    const u32 lastKey = s.lastKey, lastCommand = s.lastCommand;
+    const FunctionId lastKey = s.lastKey, lastCommand = s.lastCommand;
     const bool keepShift = m_engine.prefs.StickyShift();
     const bool restored = undo ? m_engine.history.Undo(m_engine.Records(), keepShift)
                                : m_engine.history.Redo(m_engine.Records(), keepShift);
@@ -201,8 +201,8 @@ void Session::PasteText(std::string_view text) {
     e.RecallLift();
     e.FinishEntry();
     if (base != 0) {
-        const ValueTag format = IntegerFormatOf(e.prefs, 0);
-        e.SetX(Narrow(*value, 1928, format));  // the pasted digits are an unsigned word
+        const ValueTag format = IntegerFormatOf(e.prefs, ValueTag::None);
+        e.SetX(Narrow(*value, ValueTag::U32, format));  // the pasted digits are an unsigned word
         e.SetXTag(format);
     } else {
         e.SetX(*value);

@@ -6,7 +6,7 @@
 
 #include "display/display_text.h"
 #include "finance/cash_flows.h"
-#include "finance/result_labels.h"
+#include "engine/value_tags.h"
 #include "finance_test_support.h"
 
 namespace brinto {

@@ -58,7 +58,7 @@ TEST(Session, ClearAllAsksFirst) {
     Fixture f;
     f.Type("7");
     f.session.Tap(fid::StoreVariant);
-    f.session.Tap(1);
+    f.session.Tap(fid::Digit1);
     f.host.confirm = false;
     f.session.Tap(fid::ClearAll2);
     EXPECT_EQ(f.engine.registers.values[1], 7.0);
@@ -173,7 +173,7 @@ TEST(Session, BlockKeysFollowTheShiftAndRemap) {
     f.Type("9");
     f.session.TapBlockKey(4);  // PMT: with no financial family yet or with one, the key is routed
     f.session.Tap(fid::Shift);
-    EXPECT_EQ(KeyLayout(1, 1, f.session.userKeys)[3], 74u);
+    EXPECT_EQ(KeyLayout(1, 1, f.session.userKeys)[3], fid::PYr);
     f.session.SelectKeyboard(0);
     f.session.Tap(fid::Shift);
     f.session.TapBlockKey(3);  // shifted General key 3: RPN
@@ -222,7 +222,7 @@ TEST(Session, PasteReadsTheCurrentBase) {
     f.session.Tap(fid::BaseHex);
     f.session.PasteText("x1f");  // the text counts from its first decimal digit
     EXPECT_EQ(f.engine.X(), 31.0);
-    EXPECT_EQ(f.engine.XTag(), 1929);  // the default format, s32
+    EXPECT_EQ(f.engine.XTag(), ValueTag::S32);  // the default format, s32
 }
 
 TEST(Session, CopyOfAnErrorCopiesNothing) {
