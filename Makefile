@@ -9,7 +9,7 @@ FUZZ_PACKAGES = clang-14 libclang-rt-14-dev libfuzzer-14-dev
 FUZZ_CMAKE = cmake -S . -B build-fuzz -DCMAKE_CXX_COMPILER=$(FUZZ_CXX) -DCMAKE_BUILD_TYPE=RelWithDebInfo \
 	-DBRINTO_TESTS=OFF -DBRINTO_FUZZ=ON $(CMAKE_FLAGS)
 
-.PHONY: all deps build run test test-release test-sanitize bench clean fuzz-deps fuzz-build test-fuzz fuzz fuzz-coverage
+.PHONY: all deps build run guide test test-release test-sanitize bench clean fuzz-deps fuzz-build test-fuzz fuzz fuzz-coverage
 
 all: build
 
@@ -22,6 +22,11 @@ build: deps
 
 run: build
 	./build/brinto-cli
+
+# Rewrites the generated sections of the user guide (keyboards, keyboard keys, constants, appearance).
+guide: deps
+	cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
+	cmake --build build -j $(JOBS) --target guide
 
 test: deps test-release test-sanitize test-fuzz
 

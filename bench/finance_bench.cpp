@@ -4,6 +4,7 @@
 
 #include "engine/engine.h"
 #include "finance/amortization.h"
+#include "finance/amortization_schedule.h"
 #include "finance/cash_flows.h"
 #include "finance/tvm.h"
 
@@ -43,9 +44,11 @@ void BM_NetPresentValue99Groups(benchmark::State& state) {
 }
 BENCHMARK(BM_NetPresentValue99Groups)->Unit(benchmark::kMicrosecond);
 
+// The argument is the number of decimal places: with more of them, more interest amounts lie
+// near enough to a decimal tie to be rounded by their digit string.
 void BM_Amortize360Payments(benchmark::State& state) {
     Engine e;
-    e.prefs.SetDigitField(3);  // two decimal places
+    e.prefs.SetDigitField(static_cast<int>(state.range(0)) + 1);
     e.registers.values[reg::N] = 360;
     e.registers.values[reg::IYr] = 6;
     e.registers.values[reg::PV] = 100000;
@@ -57,7 +60,19 @@ void BM_Amortize360Payments(benchmark::State& state) {
         benchmark::DoNotOptimize(e.state.amortBalance);
     }
 }
-BENCHMARK(BM_Amortize360Payments)->Unit(benchmark::kMicrosecond);
+BENCHMARK(BM_Amortize360Payments)->Arg(2)->Arg(4)->Unit(benchmark::kMicrosecond);
+
+// Every payment of the same loan listed, each with its interest, principal and balance.
+void BM_AmortizationSchedule360Payments(benchmark::State& state) {
+    Engine e;
+    e.prefs.SetDigitField(3);  // two decimal places
+    e.registers.values[reg::N] = 360;
+    e.registers.values[reg::IYr] = 6;
+    e.registers.values[reg::PV] = 100000;
+    e.registers.values[reg::PMT] = -599.55;
+    for (auto _ : state) benchmark::DoNotOptimize(MakeAmortizationSchedule(e));
+}
+BENCHMARK(BM_AmortizationSchedule360Payments)->Unit(benchmark::kMicrosecond);
 
 // One periodic interest amount rounded to cents: the shortcut, and the digit string it stands for.
 void BM_RoundToCents(benchmark::State& state) {

@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include "display/number_format.h"
+#include "engine/numeric/decimal_digits.h"
 
 namespace brinto {
 namespace {

@@ -22,6 +22,10 @@ public:
     bool Confirm(std::string_view, std::string_view) override { return true; }
     void PutOnClipboard(std::string_view) override {}
     std::optional<std::string> ClipboardText() override { return std::nullopt; }
+    void ReportTrouble(std::string_view) override {}
+    DateFields Now() const override { return DefaultPlatform().Now(); }
+    std::string DateText(const DateFields& d, bool longForm) const override { return DefaultPlatform().DateText(d, longForm); }
+    std::string TimeText(const DateFields& t) const override { return DefaultPlatform().TimeText(t); }
 };
 
 constexpr u16 kBases[] = {0, status::BaseBinary, status::BaseOctal, status::BaseHex};

@@ -90,6 +90,10 @@ public:
     bool Confirm(std::string_view, std::string_view) override { return confirm; }
     void PutOnClipboard(std::string_view text) override { clipboard = std::string(text); }
     std::optional<std::string> ClipboardText() override { return clipboard; }
+    void ReportTrouble(std::string_view) override {}
+    DateFields Now() const override { return DefaultPlatform().Now(); }
+    std::string DateText(const DateFields& d, bool longForm) const override { return DefaultPlatform().DateText(d, longForm); }
+    std::string TimeText(const DateFields& t) const override { return DefaultPlatform().TimeText(t); }
 };
 
 // The fields a user changes through the preference pages, one choice at a time.
@@ -109,8 +113,7 @@ void SetPreferenceField(Preferences& p, std::uint32_t field, std::uint32_t v) {
 }
 
 struct Calculator {
-    FixedPlatform platform;
-    Engine engine{&platform};
+    Engine engine;
     FuzzHost host;
     Session session{engine, host};
 
@@ -133,7 +136,10 @@ struct Calculator {
             case Step::BasicOrAdvanced: a.value ? session.Basic() : session.Advanced(); break;
             case Step::PreferenceWord: engine.prefs.words[a.value] = static_cast<u16>(a.extra); break;
             case Step::PreferenceField: SetPreferenceField(engine.prefs, a.value, a.extra); break;
-            case Step::UserKey: session.userKeys.keys[a.value] = FunctionIdFrom(a.extra); break;
+            case Step::UserKey:
+                session.AssignUserKey(a.value < 12 ? KeyHalf::Unshifted : KeyHalf::Shifted,
+                                      static_cast<int>(a.value % 12) + 1, FunctionIdFrom(a.extra));
+                break;
             case Step::HostAnswers:
                 host.confirm = a.value;
                 host.clipboard = a.text;

@@ -2,6 +2,7 @@
 
 #include <cctype>
 #include <charconv>
+#include <functional>
 #include <iostream>
 #include <iterator>
 #include <optional>
@@ -12,20 +13,31 @@
 #include "cli/tokens.h"
 #include "display/display_text.h"
 #include "engine/key_table.h"
+#include "finance/amortization_schedule.h"
 #include "ops/constants.h"
-#include "session/persistence.h"
-#include "store/legacy_import.h"
-#include "store/state_file.h"
+#include "session/session_store.h"
 
 namespace brinto {
 
 namespace {
 
-// Collects what the session raises, for the report; confirms Clear All without asking.
+// Collects what the session raises, for the report; confirms Clear All without asking, answers
+// the first run's question with "Simple" without a word, and says at once on standard error when
+// the calculator cannot be loaded or saved.
 class CliHost : public Host {
 public:
+    explicit CliHost(std::ostream& err) : m_err(err) {}
+
     Report report;
     std::ostream* echo = nullptr;  // where messages are shown at once, if anywhere
+    LocalePlatform platform;
+
+    DateFields Now() const override { return platform.Now(); }
+    std::string DateText(const DateFields& date, bool longForm) const override {
+        return platform.DateText(date, longForm);
+    }
+    std::string TimeText(const DateFields& time) const override { return platform.TimeText(time); }
+    void ReportTrouble(std::string_view text) override { m_err << "brinto-cli: " << text << '\n'; }
 
     void ShowMessage(std::string_view caption, std::string_view text) override {
         report.messages.push_back({std::string(caption), std::string(text)});
@@ -34,12 +46,16 @@ public:
     bool Confirm(std::string_view, std::string_view) override { return true; }
     void PutOnClipboard(std::string_view text) override { report.clipboard = std::string(text); }
     std::optional<std::string> ClipboardText() override { return report.clipboard; }
+
+private:
+    std::ostream& m_err;
 };
 
 struct Options {
     bool json = false;
     bool memory = false;
     bool listKeys = false;
+    bool schedule = false;
     std::optional<std::string> db;
     std::optional<std::string> importLegacy;
     std::vector<std::pair<int, u16>> prefs;
@@ -72,6 +88,8 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& args, std::s
             o.memory = true;
         } else if (a == "--list-keys") {
             o.listKeys = true;
+        } else if (a == "--schedule") {
+            o.schedule = true;
         } else if (a == "--db" && hasValue) {
             o.db = args[++i];
         } else if (a == "--import-legacy" && hasValue) {
@@ -151,10 +169,11 @@ bool CheckTokens(const Words& words, std::string& error) {
 // Runs one token; false when a key of it was not accepted.
 bool RunToken(Session& session, const Token& t) {
     switch (t.kind) {
-        case TokenKind::Key: return session.Tap(t.id);
+        case TokenKind::Key: return session.TapKey(t.id);
+        case TokenKind::ExactKey: return session.Tap(t.id);
         case TokenKind::Number: {
             bool accepted = true;
-            TypeNumber(t.text, [&](FunctionId id) { accepted = session.Tap(id) && accepted; });
+            TypeNumber(t.text, [&](FunctionId id) { accepted = session.TapKey(id) && accepted; });
             return accepted;
         }
         case TokenKind::Characters: {
@@ -212,34 +231,48 @@ void PrintStack(std::ostream& out, const Engine& e) {
 }
 
 // Opens and loads the calculator this run works on: the database file (--db, else the default one
-// shared with the desktop program), or nothing at all with --memory, unless --import-legacy asks
-// for an import, which then goes into a database in memory. False, after saying why, when an
-// explicit import failed.
-bool LoadCalculator(const Options& o, Session& session, RecordStore& store, std::ostream& err) {
-    std::string warning;
-    const StateLocations where = DefaultLocations();
-    if (o.memory) {
-        if (!o.importLegacy) return true;
-        store.Open(std::string(RecordStore::kInMemory));
-    } else {
-        OpenStateFile(store, o.db ? std::filesystem::path(*o.db) : where.database, warning);
-        if (!warning.empty()) err << "brinto-cli: " << warning << '\n';
+// shared with the desktop program), or one in memory with --memory; then an --import-legacy.
+// False, after saying why, when that import failed.
+bool LoadCalculator(const Options& o, SessionStore& store, std::ostream& err) {
+    const StoreLocation where = o.memory ? StoreLocation::Memory()
+                                : o.db   ? StoreLocation::File(*o.db)
+                                         : StoreLocation::Default();
+    for (const std::string& notice : store.Start(where).notices) err << "brinto-cli: " << notice << '\n';
+    if (!o.importLegacy) return true;
+    if (const auto failure = store.ImportLegacy(*o.importLegacy)) {
+        err << "brinto-cli: " << *failure << '\n';
+        return false;
     }
-    if (o.importLegacy) {
-        const LegacyImport outcome = ImportLegacyFile(store, *o.importLegacy);
-        if (!outcome.imported) {
-            err << "brinto-cli: " << outcome.reason << '\n';
-            return false;
-        }
-    }
-    // A first run needs no question here: the CLI simply starts on the defaults.
-    LoadSession(session, store, o.memory ? std::filesystem::path() : where.legacyFile, warning);
-    if (!warning.empty()) err << "brinto-cli: " << warning << '\n';
     return true;
 }
 
-int Interactive(Session& session, CliHost& host, std::istream& in, std::ostream& out, std::ostream& err,
-                RecordStore* store) {
+// Preferences given with --pref hold for the run and are not saved, unless a key or a command
+// changes the preferences during the run: then the live record is saved, given words and all.
+class PreferenceOverrides {
+public:
+    PreferenceOverrides(Session& session, const std::vector<std::pair<int, u16>>& words)
+        : m_session(session), m_loaded(session.engine().prefs) {
+        Preferences given = m_loaded;
+        for (const auto& [word, value] : words) given.words[word] = value;
+        m_given = given;
+        if (!words.empty()) m_session.OverridePreferences(given);
+    }
+    bool Save(SessionStore& store) {
+        if (m_session.engine().prefs.words != m_given.words) return store.Save();
+        m_session.OverridePreferences(m_loaded);
+        const bool saved = store.Save();
+        m_session.OverridePreferences(m_given);
+        return saved;
+    }
+
+private:
+    Session& m_session;
+    Preferences m_loaded;
+    Preferences m_given{};
+};
+
+void Interactive(Session& session, CliHost& host, std::istream& in, std::ostream& out, std::ostream& err,
+                 const std::function<void()>& save) {
     host.echo = &out;
     out << "Brinto. Type keys (2 enter 3 +), \"quit\" to leave.\n";
     PrintStack(out, session.engine());
@@ -258,11 +291,10 @@ int Interactive(Session& session, CliHost& host, std::istream& in, std::ostream&
         RunTokens(session, words, rejected, error);
         // Each line is as far as the desktop program's deactivation: an interrupted session
         // loses at most the line being typed.
-        if (store) SaveSession(session, *store);
+        save();
         PrintStack(out, session.engine());
     }
-    if (store) SaveSession(session, *store);
-    return 0;
+    save();
 }
 
 }  // namespace
@@ -280,7 +312,7 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
         for (int i = 0; i < kConstantCount; ++i) out << "const:" << i << ' ' << ConstantName(i) << '\n';
         return 0;
     }
-    const bool interactive = options->tokens.empty() && inIsTerminal && !options->json;
+    const bool interactive = options->tokens.empty() && inIsTerminal && !options->json && !options->schedule;
     std::string script;
     if (options->tokens.empty() && !inIsTerminal) {
         script.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
@@ -296,41 +328,37 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
         }
     };
 
-    LocalePlatform platform;
-    platform.pinnedNow = options->now;
-    Engine engine(&platform);
-    CliHost host;
+    CliHost host(err);
+    host.platform.pinnedNow = options->now;
+    Engine engine;
     Session session(engine, host);
-    RecordStore store;
-    if (!LoadCalculator(*options, session, store, err)) return 1;
-    RecordStore* const saveTo = options->memory ? nullptr : &store;
-    // Preferences given on the command line are raw settings for this run: unless a key changes
-    // the preferences too, the saved record keeps the loaded ones.
-    const Preferences loadedPrefs = engine.prefs;
-    for (const auto& [word, value] : options->prefs) engine.prefs.words[word] = value;
-    const Preferences givenPrefs = engine.prefs;
-    const auto save = [&] {
-        if (!saveTo) return;
-        const Preferences live = engine.prefs;
-        if (live.words == givenPrefs.words) engine.prefs = loadedPrefs;
-        SaveSession(session, *saveTo);
-        engine.prefs = live;
-    };
-    if (options->seed) engine.state.randomSeed = *options->seed;
+    SessionStore store(session);
+    if (!LoadCalculator(*options, store, err)) return 1;
+    PreferenceOverrides overrides(session, options->prefs);
+    const auto save = [&] { overrides.Save(store); };
+    if (options->seed) session.SetRandomSeed(*options->seed);
 
-    if (interactive) return Interactive(session, host, in, out, err, saveTo);
+    if (interactive) {
+        Interactive(session, host, in, out, err, save);
+        return store.HadTrouble() ? 1 : 0;
+    }
     if (!RunTokens(session, words, host.report.rejected, error)) {
         err << "brinto-cli: " << error << '\n';
         return 2;  // nothing is saved: the run ends as if it had not started
     }
     save();
-    if (options->json) {
+    if (options->json && !options->schedule) {
         out << JsonReport(session, host.report);
     } else {
         for (const ReportMessage& m : host.report.messages) err << m.caption << ": " << m.text << '\n';
-        PrintLine(out, engine, 0, "");
+        if (options->schedule) {
+            out << ScheduleCsv(MakeAmortizationSchedule(engine));
+        } else {
+            PrintLine(out, engine, 0, "");
+        }
     }
-    return 0;
+    // The calculator could not be loaded or saved: said on standard error when it happened.
+    return store.HadTrouble() ? 1 : 0;
 }
 
 }  // namespace brinto

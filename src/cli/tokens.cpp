@@ -52,7 +52,7 @@ std::optional<Token> ParseToken(std::string_view text) {
     if (text[0] == '#') {
         const auto id = WholeNumber(text.substr(1), 0, 65535);
         if (!id) return std::nullopt;
-        return Token{TokenKind::Key, FunctionIdFrom(static_cast<u32>(*id)), {}, 0};
+        return Token{TokenKind::ExactKey, FunctionIdFrom(static_cast<u32>(*id)), {}, 0};
     }
     if (IsNumberToken(text)) return Token{TokenKind::Number, kNoKey, text, 0};
     if (StartsWith(text, "keys:")) return Token{TokenKind::Characters, kNoKey, text.substr(5), 0};

@@ -8,12 +8,13 @@
 
 namespace brinto {
 
-enum class TokenKind { Key, Number, Characters, Keyboard, BlockKey, Undo, Redo, Copy, Cut, Paste, Basic,
-                       Advanced, Constant };
+// Key: a named key, remapped as the keyboard remaps it; ExactKey: `#N`, dispatched as it is.
+enum class TokenKind { Key, ExactKey, Number, Characters, Keyboard, BlockKey, Undo, Redo, Copy, Cut, Paste,
+                       Basic, Advanced, Constant };
 
 struct Token {
     TokenKind kind;
-    FunctionId id = kNoKey;  // Key
+    FunctionId id = kNoKey;  // Key and ExactKey
     std::string_view text;  // Number, Characters and Paste
     int number = 0;         // Keyboard, BlockKey, Constant
 };

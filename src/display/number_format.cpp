@@ -8,59 +8,13 @@
 
 #include "engine/engine.h"
 #include "engine/function_ids.h"
-#include "ops/date_fields.h"
-#include "ops/integer_format.h"
+#include "engine/numeric/date_fields.h"
+#include "engine/numeric/decimal_digits.h"
+#include "engine/numeric/integer_format.h"
 
 namespace brinto {
 
 namespace {
-
-constexpr int kMostShownDigits = 12;  // the display never shows more significant digits
-constexpr int kCleanDigits = 14;      // RoundTo14
-
-// A decimal digit string without point or sign: value = 0.d1d2... x 10^decpt. The buffer holds
-// the 17 digits of a shortest form with room for padding to a fixed count.
-struct DigitString {
-    char digits[48] = {};
-    int decpt = 0;
-    bool negative = false;
-
-    int Length() const { return static_cast<int>(std::strlen(digits)); }
-    void PadTo(int count) {
-        const int length = Length();
-        const int target = std::min(count, static_cast<int>(sizeof digits) - 1);
-        if (length >= target) return;
-        std::memset(digits + length, '0', static_cast<std::size_t>(target - length));
-        digits[target] = '\0';
-    }
-};
-
-// The shortest digit string that reads back as `value` (which must be finite). Zero is "0" with
-// decpt 1.
-DigitString ShortestDigits(double value) {
-    char text[32];
-    const auto result = std::to_chars(text, text + sizeof text, value, std::chars_format::scientific);
-    DigitString s;
-    const char* p = text;
-    if (*p == '-') {
-        s.negative = value != 0;  // -0 shows as 0
-        ++p;
-    }
-    int count = 0;
-    for (; p < result.ptr && *p != 'e'; ++p) {
-        if (*p != '.') s.digits[count++] = *p;
-    }
-    s.digits[count] = '\0';
-    // The exponent is "e+dd" or "e-ddd".
-    int exponent = 0;
-    if (p + 2 <= result.ptr) {
-        const bool negativeExponent = p[1] == '-';
-        std::from_chars(p + 2, result.ptr, exponent);
-        if (negativeExponent) exponent = -exponent;
-    }
-    s.decpt = exponent + 1;
-    return s;
-}
 
 // Appends text to a FormattedText, never past its buffer.
 class TextWriter {
@@ -205,54 +159,6 @@ double OutOfRangeValue(std::string_view text) {
 
 }  // namespace
 
-u32 RoundDigits(char* digits, int& decpt, int n) {
-    n = std::max(n, 0);
-    const int length = static_cast<int>(std::strlen(digits));
-    if (length <= n) return 0;
-
-    const bool roundUp = digits[n] >= '5';
-    digits[n] = '\0';
-    if (roundUp) {
-        int i = n - 1;
-        for (; i >= 0 && digits[i] == '9'; --i) digits[i] = '0';
-        if (i >= 0) {
-            ++digits[i];
-        } else {
-            // 999 -> 1000: a new leading digit; the kept digits are all zeros now.
-            std::memmove(digits + 1, digits, static_cast<std::size_t>(n) + 1);
-            digits[0] = '1';
-            ++decpt;
-        }
-    }
-    int kept = static_cast<int>(std::strlen(digits));
-    while (kept > 1 && digits[kept - 1] == '0') digits[--kept] = '\0';
-    if (kept == 0) {
-        // Nothing kept and nothing carried: the value rounds to zero.
-        digits[0] = '0';
-        digits[1] = '\0';
-    }
-    return roundUp ? 1 : 0;
-}
-
-double RoundTo14(double value) {
-    if (!std::isfinite(value)) return value;
-    DigitString s = ShortestDigits(value);
-    if (s.Length() <= kCleanDigits) return value;  // the shortest form already reads back exactly
-    RoundDigits(s.digits, s.decpt, kCleanDigits);
-
-    char text[48];
-    char* p = text;
-    if (s.negative) *p++ = '-';
-    const int length = s.Length();
-    std::memcpy(p, s.digits, static_cast<std::size_t>(length));
-    p += length;
-    *p++ = 'e';
-    p = std::to_chars(p, text + sizeof text, s.decpt - length).ptr;
-    double rounded = value;
-    std::from_chars(text, p, rounded);
-    return rounded;
-}
-
 u32 FormatDecimal(double value, NumberFormat format, int digitField, FormattedText& out) {
     if (!std::isfinite(value)) {
         const auto result = std::to_chars(out.text, out.text + sizeof out.text - 1, value);
@@ -282,7 +188,7 @@ u32 FormatDecimal(double value, NumberFormat format, int digitField, FormattedTe
 
 u32 FormatValue(const Engine& e, double value, ValueTag tag, bool noPoint, FormattedText& out) {
     const bool fullDisplay = e.state.status & status::FullDisplay;
-    if (CategoryOf(tag) == TagCategory::Calendar) {
+    if (TagCategory(tag) == Category::Calendar) {
         if (fullDisplay) return FormatDecimal(value, e.prefs.Format(), 0, out);
         return FormatDateTime(e, value, tag, out);
     }

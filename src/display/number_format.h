@@ -19,14 +19,6 @@ struct FormattedText {
     std::string_view View() const { return {text, static_cast<std::size_t>(length)}; }
 };
 
-// Rounds the digit string `digits` (NUL-terminated, no point, value = 0.d1d2... x 10^decpt) to n
-// significant digits, half up on the decimal digits; the buffer must have room for one more
-// digit. Returns 1 when the cut digit rounded up.
-u32 RoundDigits(char* digits, int& decpt, int n);
-
-// The value rounded to 14 significant decimal digits; a value that is not finite is unchanged.
-double RoundTo14(double value);
-
 // The decimal forms. digitField: 0 for no fixed count, else digits + 1. Nonzero when the value
 // is not finite (out then holds "inf" or "nan").
 u32 FormatDecimal(double value, NumberFormat format, int digitField, FormattedText& out);

@@ -8,9 +8,9 @@
 #include "engine/families.h"
 #include "engine/macro.h"
 #include "engine/number_entry.h"
+#include "engine/numeric/integer_format.h"
 #include "engine/register_clears.h"
 #include "engine/register_keys.h"
-#include "ops/integer_format.h"
 
 namespace brinto {
 
@@ -69,9 +69,9 @@ u32 HexDigit(Engine& e, FunctionId id) {
 
 // Change sign outside a decimal entry: a unit or date keeps its tag, any other tag is dropped.
 void NegateX(Engine& e) {
-    const TagCategory category = CategoryOf(e.XTag());
+    const Category category = TagCategory(e.XTag());
     e.state.stack[0] = -e.state.stack[0];
-    if (category == TagCategory::None || category == TagCategory::IntegerFormat) {
+    if (category == Category::None || category == Category::IntegerFormat) {
         e.state.tags[0] = ValueTag::None;
         e.state.aux[0] = kNoAux;
     }

@@ -105,6 +105,11 @@ public:
     // Ends the number being typed; its value is already in X.
     void FinishEntry() { state.status &= static_cast<u16>(~(status::Entry | status::Exponent | status::KeepEntry)); }
     void DisableLift() { state.status |= status::NoLift; }
+    // Lift on for the next entry, as after a recalled value.
+    void EnableLift() {
+        state.status |= status::LiftEnabled;
+        state.status &= static_cast<u16>(~(status::NoLift | status::KeepLift));
+    }
     void KeepLiftState() { state.status |= status::KeepLift; }
     void RequestRedraw() { state.engineFlags |= flags::Redraw; }
 

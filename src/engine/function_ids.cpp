@@ -9,25 +9,25 @@ namespace {
 struct CategoryRun {
     ValueTag first;
     ValueTag last;
-    TagCategory category;
+    Category category;
 };
 // Runs of tags with a category; every tag outside them has none.
 constexpr std::array kCategoryRuns = {
-    CategoryRun{ValueTag::Hms, ValueTag::Hms, TagCategory::Duration},
-    CategoryRun{ValueTag::Date, ValueTag::DateTime, TagCategory::Calendar},
-    CategoryRun{ValueTag::Years, ValueTag::Frames, TagCategory::Duration},
-    CategoryRun{ValueTag::Inches, ValueTag::Meters, TagCategory::Length},
-    CategoryRun{ValueTag::Pounds, ValueTag::Grams, TagCategory::Mass},
-    CategoryRun{ValueTag::InchesPerSecond, ValueTag::CmPerSecond, TagCategory::Speed},
-    CategoryRun{ValueTag::SqInches, ValueTag::SqMeters, TagCategory::Area},
-    CategoryRun{ValueTag::Gallons, ValueTag::FluidOunces, TagCategory::Volume},
-    CategoryRun{ValueTag::DegC, ValueTag::DegF, TagCategory::Temperature},
-    CategoryRun{ValueTag::U8, ValueTag::S32, TagCategory::IntegerFormat},
-    CategoryRun{ValueTag::Centimeters, ValueTag::NauticalMiles, TagCategory::Length},
-    CategoryRun{ValueTag::SqMillimeters, ValueTag::Acres, TagCategory::Area},
-    CategoryRun{ValueTag::Tons, ValueTag::Milligrams, TagCategory::Mass},
-    CategoryRun{ValueTag::Knots, ValueTag::Knots, TagCategory::Speed},
-    CategoryRun{ValueTag::CubicMeters, ValueTag::FluidOuncesUk, TagCategory::Volume},
+    CategoryRun{ValueTag::Hms, ValueTag::Hms, Category::Duration},
+    CategoryRun{ValueTag::Date, ValueTag::DateTime, Category::Calendar},
+    CategoryRun{ValueTag::Years, ValueTag::Frames, Category::Duration},
+    CategoryRun{ValueTag::Inches, ValueTag::Meters, Category::Length},
+    CategoryRun{ValueTag::Pounds, ValueTag::Grams, Category::Mass},
+    CategoryRun{ValueTag::InchesPerSecond, ValueTag::CentimetersPerSecond, Category::Speed},
+    CategoryRun{ValueTag::SquareInches, ValueTag::SquareMeters, Category::Area},
+    CategoryRun{ValueTag::Gallons, ValueTag::FluidOunces, Category::Volume},
+    CategoryRun{ValueTag::DegC, ValueTag::DegF, Category::Temperature},
+    CategoryRun{ValueTag::U8, ValueTag::S32, Category::IntegerFormat},
+    CategoryRun{ValueTag::Centimeters, ValueTag::NauticalMiles, Category::Length},
+    CategoryRun{ValueTag::SquareMillimeters, ValueTag::Acres, Category::Area},
+    CategoryRun{ValueTag::Tons, ValueTag::Milligrams, Category::Mass},
+    CategoryRun{ValueTag::Knots, ValueTag::Knots, Category::Speed},
+    CategoryRun{ValueTag::CubicMeters, ValueTag::FluidOuncesUk, Category::Volume},
 };
 
 consteval bool RunsAscendAndDoNotOverlap() {
@@ -64,11 +64,11 @@ constexpr std::array kRegisterKeys = {
 
 }  // namespace
 
-TagCategory CategoryOf(ValueTag tag) {
+Category TagCategory(ValueTag tag) {
     for (const CategoryRun& run : kCategoryRuns) {
         if (tag >= run.first && tag <= run.last) return run.category;
     }
-    return TagCategory::None;
+    return Category::None;
 }
 
 bool IsArithmeticOperator(FunctionId id) {

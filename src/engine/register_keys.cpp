@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "display/number_format.h"
 #include "engine/families.h"
+#include "engine/numeric/decimal_digits.h"
 
 namespace brinto {
 

@@ -84,12 +84,12 @@ enum class ValueTag : u16 {
     FeetPerSecond = 1909,
     MetersPerSecond = 1910,
     MilesPerHour = 1911,
-    KmPerHour = 1912,
-    CmPerSecond = 1913,
-    SqInches = 1914,
-    SqFeet = 1915,
-    SqMiles = 1916,
-    SqMeters = 1917,
+    KilometersPerHour = 1912,
+    CentimetersPerSecond = 1913,
+    SquareInches = 1914,
+    SquareFeet = 1915,
+    SquareMiles = 1916,
+    SquareMeters = 1917,
     Gallons = 1918,
     Milliliters = 1919,
     Liters = 1920,
@@ -109,10 +109,10 @@ enum class ValueTag : u16 {
     Yards = 1932,
     Kilometers = 1933,
     NauticalMiles = 1934,
-    SqMillimeters = 1935,
-    SqCentimeters = 1936,
-    SqKilometers = 1937,
-    SqYards = 1938,
+    SquareMillimeters = 1935,
+    SquareCentimeters = 1936,
+    SquareKilometers = 1937,
+    SquareYards = 1938,
     Acres = 1939,
     Tons = 1940,
     Milligrams = 1941,
@@ -176,8 +176,10 @@ enum class ValueTag : u16 {
 constexpr u16 ToNumber(ValueTag tag) { return static_cast<u16>(tag); }
 constexpr ValueTag ValueTagFrom(u16 number) { return static_cast<ValueTag>(number); }
 
-// What kind of quantity a tag names; None for plain numbers and result labels.
-enum class TagCategory : u8 {
+// The category of a tag: what kind of quantity it names; None for plain numbers and result
+// labels. (The lookup is the function TagCategory, so that a call can never be mistaken for a
+// conversion between the two enumerations.)
+enum class Category : u8 {
     None,
     Length,
     Area,
@@ -190,10 +192,10 @@ enum class TagCategory : u8 {
     Calendar,  // date, time, date and time
 };
 
-TagCategory CategoryOf(ValueTag tag);
+Category TagCategory(ValueTag tag);
 
 // A value that carries a unit, a duration, a date or an integer format.
-inline bool HasCategory(ValueTag tag) { return CategoryOf(tag) != TagCategory::None; }
+inline bool HasCategory(ValueTag tag) { return TagCategory(tag) != Category::None; }
 
 }  // namespace brinto
 

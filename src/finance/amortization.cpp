@@ -1,10 +1,7 @@
 #include "finance/amortization.h"
 
-#include <charconv>
 #include <cmath>
-#include <cstring>
 
-#include "display/number_format.h"
 #include "engine/families.h"
 #include "engine/value_tags.h"
 #include "finance/tvm.h"
@@ -12,14 +9,6 @@
 namespace brinto {
 
 namespace {
-
-constexpr double kPowersOfTen[] = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                   1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-constexpr int kMostPlaces = 15;  // a four-bit digit field less one
-// Below this the scaled value keeps a binary fraction fine enough (2^-10) to tell the rounding.
-constexpr double kShortcutLimit = 1099511627776.0;  // 2^40
-// How far the scaled fraction must be from one half for the shortcut to decide as the digits do.
-constexpr double kShortcutMargin = 1e-3;
 
 // A payment number typed for Start or End: truncated, then taken as an unsigned 16-bit number
 // (modulo 65536) and stored in the signed field, where anything below 1 becomes 1.
@@ -39,55 +28,6 @@ void Show(Engine& e, double value, ValueTag tag) {
 }
 
 }  // namespace
-
-double RoundToPlacesByDigits(double value, int places) {
-    if (places < 0 || !std::isfinite(value)) return value;
-    char text[40];
-    const auto written = std::to_chars(text, text + sizeof text, std::fabs(value), std::chars_format::scientific);
-    // "d.ddde+x": the digits without the point, and the exponent.
-    char digits[48] = {};
-    int count = 0;
-    const char* p = text;
-    for (; p < written.ptr && *p != 'e'; ++p) {
-        if (*p != '.') digits[count++] = *p;
-    }
-    int exponent = 0;
-    std::from_chars(p + (p[1] == '+' ? 2 : 1), written.ptr, exponent);
-    int decpt = exponent + 1;
-    const int significant = decpt + places;
-    if (significant < 0) return std::copysign(0.0, value);  // below half a unit of the last place
-    RoundDigits(digits, decpt, significant);
-
-    char rounded[64];
-    const int length = static_cast<int>(std::strlen(digits));
-    std::memcpy(rounded, digits, static_cast<std::size_t>(length));
-    char* end = rounded + length;
-    *end++ = 'e';
-    end = std::to_chars(end, rounded + sizeof rounded, decpt - length).ptr;
-    double result = 0.0;
-    std::from_chars(rounded, end, result);
-    return std::copysign(result, value);
-}
-
-double RoundToPlaces(double value, int places) {
-    if (places < 0 || !std::isfinite(value)) return value;
-    if (places <= kMostPlaces) {
-        // k / 10^places, both exact, divides to the double nearest the decimal k x 10^-places,
-        // which is what reading the rounded digits gives.
-        const double scale = kPowersOfTen[places];
-        const double scaled = std::fabs(value) * scale;
-        if (scaled < kShortcutLimit) {
-            // Truncation is the floor of a positive value, without a library call.
-            const double whole = static_cast<double>(static_cast<long long>(scaled));
-            const double fraction = scaled - whole;
-            if (std::fabs(fraction - 0.5) > kShortcutMargin) {
-                const double k = fraction > 0.5 ? whole + 1.0 : whole;
-                return std::copysign(k / scale, value);
-            }
-        }
-    }
-    return RoundToPlacesByDigits(value, places);
-}
 
 int AmortizationPlaces(const Preferences& prefs) { return prefs.DigitField() - 1; }
 
@@ -121,43 +61,49 @@ void ShowResults(Engine& e) {
 
 }  // namespace
 
-void Amortize(Engine& e, Continuation continuation) {
-    CalcState& s = e.state;
+AmortizationTerms TermsInForce(const Engine& e) {
     const double* r = e.registers.values;
-    const bool next = ClampRange(
-        s, r[reg::N], continuation == Continuation::NextBlock && s.amortStart >= 1 && s.amortBalance > 0.0);
     const int places = AmortizationPlaces(e.prefs);
-    const double i = PeriodicRate(r[reg::IYr], r[reg::PYr]);
-    const double payment = RoundToPlaces(r[reg::PMT], places);
-    const bool begin = s.engineFlags & flags::Begin;
-    if (!next) s.amortBalance = RoundToPlaces(r[reg::PV], places);
-    s.amortInterest = 0.0;
-    s.amortPrincipal = 0.0;
+    return {PeriodicRate(r[reg::IYr], r[reg::PYr]), RoundToPlaces(r[reg::PV], places),
+            RoundToPlaces(r[reg::PMT], places), places, (e.state.engineFlags & flags::Begin) != 0};
+}
 
+PaymentSplit AmortizePayment(const AmortizationTerms& t, double balance, bool firstOfLoan) {
     // Sums of amounts already at the display's places are rounded again only to shed the binary
     // residue of the addition: the balance reads 99900.45, not 99900.450000000012.
-    const auto add = [places](double a, double b) { return RoundToPlaces(a + b, places); };
+    const auto add = [&t](double a, double b) { return RoundToPlaces(a + b, t.places); };
+    // In Begin mode the loan's first payment falls before any interest is due.
+    const double interest = firstOfLoan && t.begin ? 0.0 : RoundToPlaces(balance * t.rate, t.places);
+    const double principal = add(interest, t.payment);  // the change of the balance, with its sign
+    // Interest is reported with the sign of the payment.
+    const double shown = t.payment < 0.0 ? -std::fabs(interest) : std::fabs(interest);
+    // The same sum as balance + principal (every term is a whole number of the last place),
+    // without waiting for the principal's rounding.
+    return {shown, principal, add(balance + interest, t.payment)};
+}
+
+void Amortize(Engine& e, Continuation continuation) {
+    CalcState& s = e.state;
+    const bool next = ClampRange(s, e.registers.values[reg::N],
+                                 continuation == Continuation::NextBlock && s.amortStart >= 1 && s.amortBalance > 0.0);
+    const AmortizationTerms terms = TermsInForce(e);
+    if (!next) s.amortBalance = terms.presentValue;
+    double interest = 0.0, principal = 0.0;
+    // From payment 1 the payments before Start only move the balance; a block continued from a
+    // balance is never the loan's first payment.
     for (int k = next ? s.amortStart - 1 : 0; k < s.amortEnd;) {
-        double interest = RoundToPlaces(s.amortBalance * i, places);
-        // In Begin mode the loan's first payment falls before any interest is due; a block
-        // continued from a balance is never the loan's first.
-        if (k == 0 && begin && !next) interest = 0.0;
-        const double principal = add(interest, payment);  // the change of the balance, with its sign
-        // Interest is reported with the sign of the payment.
-        const double shown = payment < 0.0 ? -std::fabs(interest) : std::fabs(interest);
-        // The same sum as balance + principal (every term is a whole number of the last place),
-        // without waiting for the principal's rounding.
-        s.amortBalance = add(s.amortBalance + interest, payment);
+        const PaymentSplit payment = AmortizePayment(terms, s.amortBalance, k == 0 && !next);
+        s.amortBalance = payment.balance;
         ++k;
         if (s.amortStart <= k && k <= s.amortEnd) {
-            s.amortInterest += shown;
-            s.amortPrincipal += principal;
+            interest += payment.interest;
+            principal += payment.principal;
         }
     }
     // The totals' residue is far below half a unit of the last place: one rounding at the end
     // gives what rounding every partial sum would.
-    s.amortInterest = RoundToPlaces(s.amortInterest, places);
-    s.amortPrincipal = RoundToPlaces(s.amortPrincipal, places);
+    s.amortInterest = RoundToPlaces(interest, terms.places);
+    s.amortPrincipal = RoundToPlaces(principal, terms.places);
     ShowResults(e);
 }
 

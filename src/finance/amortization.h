@@ -4,20 +4,34 @@
 // display's decimal places, so that the figures add up as on a printed schedule. The results
 // go onto the stack as Int (X), Prin (Y) and Bal (Z); "=" then steps through them.
 #include "engine/engine.h"
+#include "engine/numeric/decimal_digits.h"  // RoundToPlaces
 
 namespace brinto {
-
-// `value` rounded half-up to `places` decimals on its shortest decimal digits (the digits the
-// display would start from), so 0.125 goes to 0.13 although its double lies just below it.
-// A negative `places`, or a value that is not finite, leaves it unchanged.
-double RoundToPlaces(double value, int places);
-// The same by way of the digit string every time; RoundToPlaces takes a shortcut where the
-// decision is clear from the double alone.
-double RoundToPlacesByDigits(double value, int places);
 
 // The decimal places amounts are rounded to: the display's digit field less one, or -1 (no
 // rounding) while the display shows all digits.
 int AmortizationPlaces(const Preferences& prefs);
+
+// The loan as amortization reads it from the TVM registers, the payment timing and the display.
+struct AmortizationTerms {
+    double rate;          // per payment period: I/YR / P/YR / 100
+    double presentValue;  // PV at the display's places: the balance before payment 1
+    double payment;       // PMT at the display's places
+    int places;           // AmortizationPlaces
+    bool begin;           // payments at the start of each period
+};
+AmortizationTerms TermsInForce(const Engine& e);
+
+// One payment split into interest and principal, each at the display's places: interest with
+// the payment's sign, principal with the sign of the balance's change, and the balance after it.
+struct PaymentSplit {
+    double interest;
+    double principal;
+    double balance;
+};
+// The payment made on `balance`. On the loan's first payment (`firstOfLoan`) in Begin mode no
+// interest is due yet.
+PaymentSplit AmortizePayment(const AmortizationTerms& terms, double balance, bool firstOfLoan);
 
 enum class Continuation { FromStart, NextBlock };
 

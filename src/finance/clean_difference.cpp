@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "display/number_format.h"
+#include "engine/numeric/decimal_digits.h"
 
 namespace brinto {
 

@@ -6,9 +6,9 @@
 #include <array>
 #include <cmath>
 
-#include "display/number_format.h"
 #include "engine/families.h"
-#include "ops/date_fields.h"
+#include "engine/numeric/date_fields.h"
+#include "engine/numeric/decimal_digits.h"
 #include "ops/units.h"
 
 namespace brinto {
@@ -17,7 +17,7 @@ namespace {
 
 constexpr double kSecondsPerHour = 3600.0;
 
-bool IsDateKind(ValueTag t) { return CategoryOf(t) == TagCategory::Calendar; }
+bool IsDateKind(ValueTag t) { return TagCategory(t) == Category::Calendar; }
 
 TaggedValue Error() { return {kErrorValue, ValueTag::None}; }
 
@@ -39,7 +39,7 @@ Packed Unpack(double v) {
 // the date kind implies.
 double DurationSeconds(TaggedValue d, ValueTag defaultUnit) {
     if (d.tag == ValueTag::Hms) return HmsToHours(d.value) * SecondsPerTimeUnit(ValueTag::Hours);
-    const ValueTag unit = CategoryOf(d.tag) == TagCategory::Duration ? d.tag : defaultUnit;
+    const ValueTag unit = TagCategory(d.tag) == Category::Duration ? d.tag : defaultUnit;
     return d.value * SecondsPerTimeUnit(unit);
 }
 
@@ -106,14 +106,14 @@ void ToHmsKey(Engine& e) {
     e.SaveLastX();
     double hours = e.X();
     const ValueTag t = e.XTag();
-    if (CategoryOf(t) == TagCategory::Duration && t != ValueTag::Hours) hours = ConvertDuration(hours, t, ValueTag::Hours, DurationSettingsOf(e));
+    if (TagCategory(t) == Category::Duration && t != ValueTag::Hours) hours = ConvertDuration(hours, t, ValueTag::Hours, DurationSettingsOf(e));
     SetResult(e, HoursToHms(hours), ValueTag::Hms);
 }
 
 void FractionKey(Engine& e) {
     e.SaveLastX();
     const ValueTag t = e.XTag();
-    if (CategoryOf(t) != TagCategory::Duration) {
+    if (TagCategory(t) != Category::Duration) {
         e.SetXError();
         return;
     }

@@ -6,7 +6,7 @@
 #include <cstdint>
 
 #include "engine/families.h"
-#include "ops/integer_format.h"
+#include "engine/numeric/integer_format.h"
 
 namespace brinto {
 
@@ -138,7 +138,7 @@ void RederiveIntegerTag(Engine& e) {
     // format; it becomes that number, so that what is stored is what is shown. Units, dates and
     // values already in a format keep theirs, and decimal changes nothing.
     if (e.EntryBase() == 0 || !e.IntegerEntryAllowed()) return;
-    if (CategoryOf(e.XTag()) != TagCategory::None) return;
+    if (TagCategory(e.XTag()) != Category::None) return;
     SetFormat(e, IntegerFormatOf(e.prefs, e.XTag()));
 }
 

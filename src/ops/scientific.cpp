@@ -8,6 +8,7 @@
 
 #include "display/number_format.h"
 #include "engine/families.h"
+#include "engine/numeric/decimal_digits.h"
 #include "ops/two_operand.h"
 #include "ops/units.h"
 
@@ -215,13 +216,13 @@ void RandomKey(Engine& e) {
 // sqrt of sq feet is feet and the square of feet is sq feet; other tags give a plain number.
 void SquareRootKey(Engine& e) {
     e.SaveLastX();
-    const ValueTag tag = CategoryOf(e.XTag()) == TagCategory::Area ? ToLength(e.XTag()) : ValueTag::None;
+    const ValueTag tag = TagCategory(e.XTag()) == Category::Area ? ToLength(e.XTag()) : ValueTag::None;
     StoreResult(e, std::sqrt(e.X()), tag);
 }
 
 void SquareKey(Engine& e) {
     e.SaveLastX();
-    const ValueTag tag = CategoryOf(e.XTag()) == TagCategory::Length ? LengthToArea(e.XTag()) : ValueTag::None;
+    const ValueTag tag = TagCategory(e.XTag()) == Category::Length ? LengthToArea(e.XTag()) : ValueTag::None;
     StoreResult(e, e.X() * e.X(), tag);
 }
 

@@ -3,8 +3,8 @@
 #include <cmath>
 #include <optional>
 
-#include "display/number_format.h"
 #include "engine/families.h"
+#include "engine/numeric/decimal_digits.h"
 #include "ops/date_time.h"
 #include "ops/integer_ops.h"
 #include "ops/units.h"
@@ -20,19 +20,28 @@ double Factorial(double x) {
 
 namespace {
 
+// The factorial of Y - X for combinations and permutations. With whole Y below X there is no
+// way to choose more items than there are: the formula's (Y - X)! of a negative number is the
+// error value, infinity, and dividing by it gives 0, which is also the count. Any argument that
+// is no factorial argument itself (negative, fractional, over 170) stays an error.
+double FactorialOfDifference(double y, double x) {
+    const double difference = RoundTo14(y - x);
+    return difference < 0.0 ? kErrorValue : Factorial(difference);
+}
+
 double Combinations(double y, double x) {
-    const double top = Factorial(y), bottom = Factorial(x), rest = Factorial(RoundTo14(y - x));
-    if (IsErrorValue(top) || IsErrorValue(bottom) || IsErrorValue(rest)) return kErrorValue;
-    return top / (bottom * rest);
+    const double top = Factorial(y), bottom = Factorial(x);
+    if (IsErrorValue(top) || IsErrorValue(bottom)) return kErrorValue;
+    return top / (bottom * FactorialOfDifference(y, x));
 }
 
 double Permutations(double y, double x) {
-    const double top = Factorial(y), rest = Factorial(RoundTo14(y - x));
-    if (IsErrorValue(top) || IsErrorValue(rest)) return kErrorValue;
-    return top / rest;
+    const double top = Factorial(y);
+    if (IsErrorValue(top) || IsErrorValue(Factorial(x))) return kErrorValue;
+    return top / FactorialOfDifference(y, x);
 }
 
-bool IsDateKind(const TaggedValue& v) { return CategoryOf(v.tag) == TagCategory::Calendar; }
+bool IsDateKind(const TaggedValue& v) { return TagCategory(v.tag) == Category::Calendar; }
 
 // Add and subtract (plain or integer) of a date, time or date-time follow the date rules;
 // multiply and divide have no meaning for them.
@@ -51,7 +60,7 @@ TaggedValue BasicArithmetic(const Engine& e, FunctionId op, TaggedValue y, Tagge
     y = HmsAsHours(y);
     x = HmsAsHours(x);
     ValueTag tag = ArithmeticResultTag(op, y, x, DurationSettingsOf(e));
-    if (CategoryOf(tag) == TagCategory::IntegerFormat) tag = ValueTag::None;
+    if (TagCategory(tag) == Category::IntegerFormat) tag = ValueTag::None;
     switch (op) {
         case fid::Add: return {y.value + x.value, tag};
         case fid::Subtract: return {RoundTo14(y.value - x.value), tag};  // so that 0.3 - 0.1 is 0.2

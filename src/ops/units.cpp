@@ -6,9 +6,9 @@
 #include <initializer_list>
 #include <span>
 
-#include "display/number_format.h"
 #include "engine/families.h"
-#include "ops/date_fields.h"
+#include "engine/numeric/date_fields.h"
+#include "engine/numeric/decimal_digits.h"
 #include "ops/date_time.h"
 
 namespace brinto {
@@ -34,14 +34,14 @@ constexpr std::array kLength = {
     UnitRow{fid::NauticalMiles, ValueTag::NauticalMiles, 1852.0},
 };
 constexpr std::array kArea = {
-    UnitRow{fid::SqInches, ValueTag::SqInches, 0.00064516},
-    UnitRow{fid::SqFeet, ValueTag::SqFeet, 0.09290304},
-    UnitRow{fid::SqMiles, ValueTag::SqMiles, 2589988.11034},
-    UnitRow{fid::SqMeters, ValueTag::SqMeters, 1.0},  // the base
-    UnitRow{fid::SqMillimeters, ValueTag::SqMillimeters, 1e-06},
-    UnitRow{fid::SqCentimeters, ValueTag::SqCentimeters, 0.0001},
-    UnitRow{fid::SqKilometers, ValueTag::SqKilometers, 1000000.0},
-    UnitRow{fid::SqYards, ValueTag::SqYards, 0.83612736},
+    UnitRow{fid::SquareInches, ValueTag::SquareInches, 0.00064516},
+    UnitRow{fid::SquareFeet, ValueTag::SquareFeet, 0.09290304},
+    UnitRow{fid::SquareMiles, ValueTag::SquareMiles, 2589988.11034},
+    UnitRow{fid::SquareMeters, ValueTag::SquareMeters, 1.0},  // the base
+    UnitRow{fid::SquareMillimeters, ValueTag::SquareMillimeters, 1e-06},
+    UnitRow{fid::SquareCentimeters, ValueTag::SquareCentimeters, 0.0001},
+    UnitRow{fid::SquareKilometers, ValueTag::SquareKilometers, 1000000.0},
+    UnitRow{fid::SquareYards, ValueTag::SquareYards, 0.83612736},
     UnitRow{fid::Acres, ValueTag::Acres, 4046.87260987},
 };
 constexpr std::array kVolume = {
@@ -67,8 +67,8 @@ constexpr std::array kSpeed = {
     UnitRow{fid::FeetPerSecond, ValueTag::FeetPerSecond, 0.3048},
     UnitRow{fid::MilesPerHour, ValueTag::MilesPerHour, 0.44704},  // stored before m/s
     UnitRow{fid::MetersPerSecond, ValueTag::MetersPerSecond, 1.0},  // m/s: the base
-    UnitRow{fid::KmPerHour, ValueTag::KmPerHour, 0.277777777778},
-    UnitRow{fid::CmPerSecond, ValueTag::CmPerSecond, 0.01},
+    UnitRow{fid::KilometersPerHour, ValueTag::KilometersPerHour, 0.277777777778},
+    UnitRow{fid::CentimetersPerSecond, ValueTag::CentimetersPerSecond, 0.01},
     UnitRow{fid::Knots, ValueTag::Knots, 0.514444444444},
 };
 constexpr std::array kMass = {
@@ -96,18 +96,18 @@ static_assert(kLength.size() == 9 && kArea.size() == 9 && kVolume.size() == 16 &
               kMass.size() == 6 && kTime.size() == 8);
 
 // The table of a category; empty for the categories without conversion factors.
-constexpr std::span<const UnitRow> TableOfCategory(TagCategory category) {
+constexpr std::span<const UnitRow> TableOfCategory(Category category) {
     switch (category) {
-        case TagCategory::Length: return kLength;
-        case TagCategory::Area: return kArea;
-        case TagCategory::Volume: return kVolume;
-        case TagCategory::Speed: return kSpeed;
-        case TagCategory::Mass: return kMass;
-        case TagCategory::Duration: return kTime;
-        case TagCategory::None:
-        case TagCategory::Temperature:
-        case TagCategory::IntegerFormat:
-        case TagCategory::Calendar: return {};
+        case Category::Length: return kLength;
+        case Category::Area: return kArea;
+        case Category::Volume: return kVolume;
+        case Category::Speed: return kSpeed;
+        case Category::Mass: return kMass;
+        case Category::Duration: return kTime;
+        case Category::None:
+        case Category::Temperature:
+        case Category::IntegerFormat:
+        case Category::Calendar: return {};
     }
     return {};
 }
@@ -115,8 +115,8 @@ constexpr std::span<const UnitRow> TableOfCategory(TagCategory category) {
 // Each key and each tag in one row only, and each row in the table of its tag's category.
 consteval bool UnitRowsAreConsistent() {
     const std::span<const UnitRow> tables[] = {kLength, kArea, kVolume, kSpeed, kMass, kTime};
-    const TagCategory categories[] = {TagCategory::Length, TagCategory::Area, TagCategory::Volume,
-                                      TagCategory::Speed,  TagCategory::Mass, TagCategory::Duration};
+    const Category categories[] = {Category::Length, Category::Area, Category::Volume,
+                                      Category::Speed,  Category::Mass, Category::Duration};
     for (std::size_t t = 0; t < std::size(tables); ++t) {
         for (const UnitRow& row : tables[t]) {
             if (TableOfCategory(categories[t]).data() != tables[t].data()) return false;
@@ -160,37 +160,37 @@ struct TagPair {
 };
 
 constexpr std::array kLengthToArea = {
-    TagPair{ValueTag::Inches, ValueTag::SqInches}, TagPair{ValueTag::Feet, ValueTag::SqFeet}, TagPair{ValueTag::Miles, ValueTag::SqMiles}, TagPair{ValueTag::Meters, ValueTag::SqMeters},  // in ft mi m
-    TagPair{ValueTag::Centimeters, ValueTag::SqCentimeters}, TagPair{ValueTag::Millimeters, ValueTag::SqMillimeters}, TagPair{ValueTag::Yards, ValueTag::SqYards}, TagPair{ValueTag::Kilometers, ValueTag::SqKilometers},  // cm mm yd km
-    TagPair{ValueTag::CubicMeters, ValueTag::SqMeters}, TagPair{ValueTag::CubicCentimeters, ValueTag::SqCentimeters}, TagPair{ValueTag::CubicYards, ValueTag::SqYards}, TagPair{ValueTag::CubicFeet, ValueTag::SqFeet},  // cubic m cm yd ft
-    TagPair{ValueTag::CubicInches, ValueTag::SqInches},                                                                 // cubic in
+    TagPair{ValueTag::Inches, ValueTag::SquareInches}, TagPair{ValueTag::Feet, ValueTag::SquareFeet}, TagPair{ValueTag::Miles, ValueTag::SquareMiles}, TagPair{ValueTag::Meters, ValueTag::SquareMeters},  // in ft mi m
+    TagPair{ValueTag::Centimeters, ValueTag::SquareCentimeters}, TagPair{ValueTag::Millimeters, ValueTag::SquareMillimeters}, TagPair{ValueTag::Yards, ValueTag::SquareYards}, TagPair{ValueTag::Kilometers, ValueTag::SquareKilometers},  // cm mm yd km
+    TagPair{ValueTag::CubicMeters, ValueTag::SquareMeters}, TagPair{ValueTag::CubicCentimeters, ValueTag::SquareCentimeters}, TagPair{ValueTag::CubicYards, ValueTag::SquareYards}, TagPair{ValueTag::CubicFeet, ValueTag::SquareFeet},  // cubic m cm yd ft
+    TagPair{ValueTag::CubicInches, ValueTag::SquareInches},                                                                 // cubic in
 };
 constexpr std::array kToLength = {
-    TagPair{ValueTag::SqInches, ValueTag::Inches}, TagPair{ValueTag::SqFeet, ValueTag::Feet}, TagPair{ValueTag::SqMiles, ValueTag::Miles}, TagPair{ValueTag::SqMeters, ValueTag::Meters},  // square units
-    TagPair{ValueTag::SqMillimeters, ValueTag::Millimeters}, TagPair{ValueTag::SqCentimeters, ValueTag::Centimeters}, TagPair{ValueTag::SqKilometers, ValueTag::Kilometers}, TagPair{ValueTag::SqYards, ValueTag::Yards},  //
+    TagPair{ValueTag::SquareInches, ValueTag::Inches}, TagPair{ValueTag::SquareFeet, ValueTag::Feet}, TagPair{ValueTag::SquareMiles, ValueTag::Miles}, TagPair{ValueTag::SquareMeters, ValueTag::Meters},  // square units
+    TagPair{ValueTag::SquareMillimeters, ValueTag::Millimeters}, TagPair{ValueTag::SquareCentimeters, ValueTag::Centimeters}, TagPair{ValueTag::SquareKilometers, ValueTag::Kilometers}, TagPair{ValueTag::SquareYards, ValueTag::Yards},  //
     TagPair{ValueTag::InchesPerSecond, ValueTag::Inches}, TagPair{ValueTag::FeetPerSecond, ValueTag::Feet}, TagPair{ValueTag::MetersPerSecond, ValueTag::Meters}, TagPair{ValueTag::MilesPerHour, ValueTag::Miles},  // speeds
-    TagPair{ValueTag::KmPerHour, ValueTag::Kilometers}, TagPair{ValueTag::CmPerSecond, ValueTag::Centimeters}, TagPair{ValueTag::Knots, ValueTag::NauticalMiles},                       //
+    TagPair{ValueTag::KilometersPerHour, ValueTag::Kilometers}, TagPair{ValueTag::CentimetersPerSecond, ValueTag::Centimeters}, TagPair{ValueTag::Knots, ValueTag::NauticalMiles},                       //
     TagPair{ValueTag::CubicMeters, ValueTag::Meters}, TagPair{ValueTag::CubicCentimeters, ValueTag::Centimeters}, TagPair{ValueTag::CubicYards, ValueTag::Yards}, TagPair{ValueTag::CubicFeet, ValueTag::Feet},  // cubic units
     TagPair{ValueTag::CubicInches, ValueTag::Inches},                                                                 // (acres: none)
 };
 constexpr std::array kToVolume = {
-    TagPair{ValueTag::Inches, ValueTag::CubicInches}, TagPair{ValueTag::SqInches, ValueTag::CubicInches}, TagPair{ValueTag::Feet, ValueTag::CubicFeet}, TagPair{ValueTag::SqFeet, ValueTag::CubicFeet},  // in, ft
-    TagPair{ValueTag::Meters, ValueTag::CubicMeters}, TagPair{ValueTag::SqMeters, ValueTag::CubicMeters}, TagPair{ValueTag::Centimeters, ValueTag::CubicCentimeters}, TagPair{ValueTag::SqCentimeters, ValueTag::CubicCentimeters},  // m, cm
-    TagPair{ValueTag::Yards, ValueTag::CubicYards}, TagPair{ValueTag::SqYards, ValueTag::CubicYards},                                            // yd
+    TagPair{ValueTag::Inches, ValueTag::CubicInches}, TagPair{ValueTag::SquareInches, ValueTag::CubicInches}, TagPair{ValueTag::Feet, ValueTag::CubicFeet}, TagPair{ValueTag::SquareFeet, ValueTag::CubicFeet},  // in, ft
+    TagPair{ValueTag::Meters, ValueTag::CubicMeters}, TagPair{ValueTag::SquareMeters, ValueTag::CubicMeters}, TagPair{ValueTag::Centimeters, ValueTag::CubicCentimeters}, TagPair{ValueTag::SquareCentimeters, ValueTag::CubicCentimeters},  // m, cm
+    TagPair{ValueTag::Yards, ValueTag::CubicYards}, TagPair{ValueTag::SquareYards, ValueTag::CubicYards},                                            // yd
 };
 constexpr std::array kLengthToSpeed = {
     TagPair{ValueTag::Inches, ValueTag::InchesPerSecond}, TagPair{ValueTag::Feet, ValueTag::FeetPerSecond}, TagPair{ValueTag::Miles, ValueTag::MilesPerHour}, TagPair{ValueTag::Meters, ValueTag::MetersPerSecond},
-    TagPair{ValueTag::Centimeters, ValueTag::CmPerSecond}, TagPair{ValueTag::Kilometers, ValueTag::KmPerHour}, TagPair{ValueTag::NauticalMiles, ValueTag::Knots},
+    TagPair{ValueTag::Centimeters, ValueTag::CentimetersPerSecond}, TagPair{ValueTag::Kilometers, ValueTag::KilometersPerHour}, TagPair{ValueTag::NauticalMiles, ValueTag::Knots},
 };
 constexpr std::array kSpeedTimeBase = {
     TagPair{ValueTag::InchesPerSecond, ValueTag::Seconds}, TagPair{ValueTag::FeetPerSecond, ValueTag::Seconds}, TagPair{ValueTag::MetersPerSecond, ValueTag::Seconds},
-    TagPair{ValueTag::CmPerSecond, ValueTag::Seconds}, TagPair{ValueTag::MilesPerHour, ValueTag::Hours}, TagPair{ValueTag::KmPerHour, ValueTag::Hours},
+    TagPair{ValueTag::CentimetersPerSecond, ValueTag::Seconds}, TagPair{ValueTag::MilesPerHour, ValueTag::Hours}, TagPair{ValueTag::KilometersPerHour, ValueTag::Hours},
     TagPair{ValueTag::Knots, ValueTag::Hours},
 };
 
 // A category's own units map to themselves; the others through the pairs.
-ValueTag Map(std::span<const TagPair> pairs, TagCategory selfCategory, ValueTag t) {
-    if (t != ValueTag::None && CategoryOf(t) == selfCategory) return t;
+ValueTag Map(std::span<const TagPair> pairs, Category selfCategory, ValueTag t) {
+    if (t != ValueTag::None && TagCategory(t) == selfCategory) return t;
     for (const TagPair& p : pairs) {
         if (p.from == t) return p.to;
     }
@@ -206,12 +206,12 @@ bool IsOneOf(ValueTag t, std::initializer_list<ValueTag> tags) {
 
 // Converts X into Y's unit for add and subtract: durations through the chain, the rest by table.
 double ConvertLike(double v, ValueTag from, ValueTag to, const DurationSettings& settings) {
-    return CategoryOf(to) == TagCategory::Duration ? ConvertDuration(v, from, to, settings) : ConvertUnit(v, from, to);
+    return TagCategory(to) == Category::Duration ? ConvertDuration(v, from, to, settings) : ConvertUnit(v, from, to);
 }
 
 ValueTag AdditiveTag(TaggedValue& y, TaggedValue& x, const DurationSettings& settings) {
-    const TagCategory category = CategoryOf(y.tag);
-    if (category != CategoryOf(x.tag) || category == TagCategory::Temperature) return ValueTag::None;  // temperatures never add
+    const Category category = TagCategory(y.tag);
+    if (category != TagCategory(x.tag) || category == Category::Temperature) return ValueTag::None;  // temperatures never add
     if (y.tag != x.tag) x.value = ConvertLike(x.value, x.tag, y.tag, settings);
     return y.tag;
 }
@@ -223,29 +223,29 @@ void ConvertUnlessIn(TaggedValue& operand, ValueTag unit) {
 
 // A product or quotient whose unit does not exist (sq miles x feet) is untagged and unconverted.
 ValueTag MultiplyTag(TaggedValue& y, TaggedValue& x) {
-    const TagCategory cy = CategoryOf(y.tag), cx = CategoryOf(x.tag);
-    if (cy == TagCategory::Length && cx == TagCategory::Length) {
+    const Category cy = TagCategory(y.tag), cx = TagCategory(x.tag);
+    if (cy == Category::Length && cx == Category::Length) {
         const ValueTag area = LengthToArea(y.tag);
         if (area != ValueTag::None) ConvertUnlessIn(x, y.tag);
         return area;
     }
-    if (cy == TagCategory::Area && cx == TagCategory::Length) {
+    if (cy == Category::Area && cx == Category::Length) {
         const ValueTag volume = ToVolume(y.tag);
         if (volume != ValueTag::None) ConvertUnlessIn(x, ToLength(volume));
         return volume;
     }
-    if (cy == TagCategory::Length && cx == TagCategory::Area) {
+    if (cy == Category::Length && cx == Category::Area) {
         const ValueTag volume = ToVolume(y.tag);
         // X is an area but is converted with the length table: only the division by the length's
         // factor applies. This is how products of a length and an area have always come out.
         if (volume != ValueTag::None && x.tag != LengthToArea(volume)) x.value = ConvertUnit(x.value, x.tag, ToLength(volume));
         return volume;
     }
-    if (cy == TagCategory::Speed && cx == TagCategory::Duration) {
+    if (cy == Category::Speed && cx == Category::Duration) {
         ConvertUnlessIn(x, SpeedTimeBase(y.tag));
         return ToLength(y.tag);
     }
-    if (cy == TagCategory::Duration && cx == TagCategory::Speed) {
+    if (cy == Category::Duration && cx == Category::Speed) {
         ConvertUnlessIn(y, SpeedTimeBase(x.tag));
         return ToLength(x.tag);
     }
@@ -253,28 +253,28 @@ ValueTag MultiplyTag(TaggedValue& y, TaggedValue& x) {
 }
 
 ValueTag DivideTag(TaggedValue& y, TaggedValue& x) {
-    const TagCategory cy = CategoryOf(y.tag), cx = CategoryOf(x.tag);
-    if (cy == TagCategory::Area && cx == TagCategory::Length) {
+    const Category cy = TagCategory(y.tag), cx = TagCategory(x.tag);
+    if (cy == Category::Area && cx == Category::Length) {
         const ValueTag length = ToLength(y.tag);
         if (length != ValueTag::None) ConvertUnlessIn(x, length);
         return length;
     }
-    if (cy == TagCategory::Volume && cx == TagCategory::Length) {
+    if (cy == Category::Volume && cx == Category::Length) {
         const ValueTag area = LengthToArea(y.tag);
         if (area != ValueTag::None) ConvertUnlessIn(x, ToLength(area));
         return area;
     }
-    if (cy == TagCategory::Volume && cx == TagCategory::Area) {
+    if (cy == Category::Volume && cx == Category::Area) {
         const ValueTag length = ToLength(y.tag);
         if (length != ValueTag::None) ConvertUnlessIn(x, LengthToArea(length));
         return length;
     }
-    if (cy == TagCategory::Length && cx == TagCategory::Duration) {
+    if (cy == Category::Length && cx == Category::Duration) {
         const ValueTag speed = LengthToSpeed(y.tag);
         if (speed != ValueTag::None) ConvertUnlessIn(x, SpeedTimeBase(speed));
         return speed;
     }
-    if (cy == TagCategory::Length && cx == TagCategory::Speed) {
+    if (cy == Category::Length && cx == Category::Speed) {
         // 100 km / 50 mi/h: the speed's miles are turned into km, so the quotient is in hours.
         x.value = ConvertUnit(x.value, ToLength(x.tag), y.tag);
         return SpeedTimeBase(x.tag);
@@ -301,13 +301,13 @@ double DateField(double value, ValueTag kind, FunctionId key) {
 
 void TimeKey(Engine& e, const UnitRow& key) {
     const ValueTag xTag = e.XTag();
-    if (CategoryOf(xTag) == TagCategory::Calendar) {
+    if (TagCategory(xTag) == Category::Calendar) {
         e.SaveLastX();
         e.SetX(DateField(e.X(), xTag, key.key));
         return;
     }
     const ValueTag target = key.tag;
-    if (CategoryOf(xTag) == TagCategory::Duration) e.SetX(ConvertDuration(e.X(), xTag, target, DurationSettingsOf(e)));
+    if (TagCategory(xTag) == Category::Duration) e.SetX(ConvertDuration(e.X(), xTag, target, DurationSettingsOf(e)));
     e.SetXTag(target);
 }
 
@@ -337,7 +337,7 @@ DurationSettings DurationSettingsOf(const Engine& e) {
 }
 
 double ConvertUnit(double v, ValueTag from, ValueTag to) {
-    const std::span<const UnitRow> table = TableOfCategory(CategoryOf(to));
+    const std::span<const UnitRow> table = TableOfCategory(TagCategory(to));
     if (const UnitRow* source = FindTag(table, from)) v *= source->factor;
     if (const UnitRow* target = FindTag(table, to)) v /= target->factor;
     return v;
@@ -420,11 +420,11 @@ double SecondsPerTimeUnit(ValueTag t) {
     return row ? row->factor * 86400.0 : 0.0;
 }
 
-ValueTag LengthToArea(ValueTag t) { return Map(kLengthToArea, TagCategory::Area, t); }
-ValueTag ToLength(ValueTag t) { return Map(kToLength, TagCategory::Length, t); }
-ValueTag ToVolume(ValueTag t) { return Map(kToVolume, TagCategory::Volume, t); }
-ValueTag LengthToSpeed(ValueTag t) { return Map(kLengthToSpeed, TagCategory::Speed, t); }
-ValueTag SpeedTimeBase(ValueTag t) { return t != ValueTag::Hms ? Map(kSpeedTimeBase, TagCategory::Duration, t) : ValueTag::None; }
+ValueTag LengthToArea(ValueTag t) { return Map(kLengthToArea, Category::Area, t); }
+ValueTag ToLength(ValueTag t) { return Map(kToLength, Category::Length, t); }
+ValueTag ToVolume(ValueTag t) { return Map(kToVolume, Category::Volume, t); }
+ValueTag LengthToSpeed(ValueTag t) { return Map(kLengthToSpeed, Category::Speed, t); }
+ValueTag SpeedTimeBase(ValueTag t) { return t != ValueTag::Hms ? Map(kSpeedTimeBase, Category::Duration, t) : ValueTag::None; }
 
 ValueTag ArithmeticResultTag(FunctionId op, TaggedValue& y, TaggedValue& x, const DurationSettings& settings) {
     const bool yTagged = HasCategory(y.tag), xTagged = HasCategory(x.tag);

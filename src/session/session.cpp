@@ -1,15 +1,18 @@
 #include "session/session.h"
 
+#include <algorithm>
+
 #include "display/display_text.h"
 #include "engine/function_ids.h"
+#include "engine/keyboards.h"
+#include "engine/numeric/date_fields.h"
+#include "engine/numeric/integer_format.h"
 #include "ops/constants.h"
-#include "ops/integer_format.h"
-#include "session/keyboards.h"
 #include "session/paste.h"
 
 namespace brinto {
 
-Session::Session(Engine& engine, Host& host) : m_engine(engine), m_host(host) {}
+Session::Session(Engine& engine, Host& host) : m_engine(engine), m_host(host) { m_engine.SetPlatform(&host); }
 
 bool Session::Execute(FunctionId id) {
     const bool wasRecording = m_engine.state.engineFlags & flags::Recording;
@@ -46,10 +49,11 @@ FunctionId Session::Remap(FunctionId id) const {
 bool Session::TapBlockKey(int k) {
     if (k < 1 || k > kBlockKeys) return false;
     const bool shifted = m_engine.state.status & status::FirstShift;
-    const KeyBlock block = KeyLayout(m_engine.Keyboard(), shifted ? 1 : 0, userKeys);
-    const FunctionId id = block[k - 1];
-    return Tap(id == kNoKey ? id : Remap(id));
+    const KeyBlock block = KeyLayout(m_engine.Keyboard(), shifted ? 1 : 0, m_userKeys);
+    return TapKey(block[k - 1]);
 }
+
+bool Session::TapKey(FunctionId id) { return Tap(Remap(id)); }
 
 bool Session::CharacterKey(char32_t c) {
     FunctionId id = kNoKey;
@@ -90,7 +94,8 @@ bool Session::CharacterKey(char32_t c) {
         m_host.Beep();
         return false;
     }
-    const bool accepted = Execute(id);
+    // Typed keys are remapped as tapped ones: "+" on the Programmer keyboard is the integer add.
+    const bool accepted = Execute(Remap(id));
     if (!accepted) m_host.Beep();
     return accepted;
 }
@@ -130,7 +135,11 @@ void Session::ActionButton() {
         case ActionChoice::RepeatLastKey:
             if (s.lastCommand != kNoKey) Execute(s.lastCommand);
             break;
-        case ActionChoice::OpenLastForm: m_host.OpenView(s.lastView); break;
+        case ActionChoice::OpenLastForm:
+            // A stored number that names no view (a damaged or foreign record) opens the first one.
+            m_host.OpenView(s.lastView <= static_cast<u16>(View::Statistical) ? static_cast<View>(s.lastView)
+                                                                              : View::Preferences);
+            break;
         case ActionChoice::PlayMacro: Execute(fid::MacroPlay); break;
     }
 }
@@ -191,28 +200,142 @@ bool Session::RecallConstant(int index, u16 topRow) {
     return true;
 }
 
-void Session::PasteText(std::string_view text) {
+void Session::EnterValue(double value, ValueTag tag) {
     Engine& e = m_engine;
-    const u16 base = e.EntryBase();
-    const auto value = ParsePasted(PasteSpan(text), base);
-    if (!value) return;
     e.history.TakeSnapshot(e.Records());
-    // A number being typed is completed first, then the pasted number arrives like a recall.
+    // A number being typed is completed first, then the value arrives like a recall, and the next
+    // digit lifts it.
     e.RecallLift();
     e.FinishEntry();
-    if (base != 0) {
-        const ValueTag format = IntegerFormatOf(e.prefs, ValueTag::None);
-        e.SetX(Narrow(*value, ValueTag::U32, format));  // the pasted digits are an unsigned word
-        e.SetXTag(format);
-    } else {
-        e.SetX(*value);
-    }
-    e.state.status |= status::LiftEnabled;
-    e.state.status &= static_cast<u16>(~(status::NoLift | status::KeepLift));
+    e.SetX(value);
+    e.SetXTag(tag);
+    e.EnableLift();
     e.dirty.state = true;
     e.RequestRedraw();
     e.history.Commit(e.Records());
     m_host.Repaint();
+}
+
+void Session::PasteText(std::string_view text) {
+    const u16 base = m_engine.EntryBase();
+    const auto value = ParsePasted(PasteSpan(text), base);
+    if (!value) return;
+    if (base == 0) {
+        EnterValue(*value, ValueTag::None);
+        return;
+    }
+    const ValueTag format = IntegerFormatOf(m_engine.prefs, ValueTag::None);
+    EnterValue(Narrow(*value, ValueTag::U32, format), format);  // the pasted digits are an unsigned word
+}
+
+bool Session::EnterDate(int year, int month, int day) {
+    if (month < 1 || month > 12 || day < 1 || day > 31) return false;
+    DateFields fields;
+    fields.year = year;
+    fields.month = month;
+    fields.day = day;
+    const double value = ComposeDate(fields);
+    if (!IsDateInRange(value) || SplitDate(value).day != day) return false;  // 31 April is no date
+    EnterValue(value, fid::TagDate);
+    return true;
+}
+
+bool Session::EnterTime(int hour, int minute) {
+    if (hour < 0 || hour > 23 || minute < 0 || minute > 59) return false;
+    EnterValue(hour * 3600.0 + minute * 60.0, fid::TagTime);
+    return true;
+}
+
+void Session::ChooseInputMethod(InputMethod method) {
+    m_engine.prefs.SetMethod(method);
+    const u16 bits = method == InputMethod::Rpn ? flags::Rpn : method == InputMethod::Precedence ? flags::Precedence : 0;
+    CalcState& s = m_engine.state;
+    s.engineFlags = static_cast<u16>((s.engineFlags & ~flags::MethodMask) | bits);
+    m_engine.dirty.preferences = true;
+    m_engine.dirty.state = true;
+    m_engine.RequestRedraw();
+    m_host.Repaint();
+}
+
+void Session::SetPreferences(const Preferences& prefs) {
+    m_engine.prefs = prefs;
+    m_engine.prefs.words[0] = kPreferencesVersion;
+    m_engine.dirty.preferences = true;
+    // The full-display toggle is dropped, so the display lays itself out afresh.
+    m_engine.state.status &= static_cast<u16>(~status::FullDisplay);
+    m_engine.dirty.state = true;
+    Execute(m_engine.prefs.Method() == InputMethod::Rpn          ? fid::MethodRpn
+            : m_engine.prefs.Method() == InputMethod::Precedence ? fid::MethodPrecedence
+                                                                 : fid::MethodSimple);
+}
+
+void Session::OverridePreferences(const Preferences& prefs) {
+    m_engine.prefs = prefs;
+    m_host.Repaint();
+}
+
+void Session::SelectTheme(u16 themeId) {
+    m_engine.prefs.SetTheme(themeId);
+    m_engine.dirty.preferences = true;
+    m_host.Repaint();
+}
+
+FunctionId* Session::Half(KeyHalf half) { return m_userKeys.keys + (half == KeyHalf::Shifted ? kBlockKeys : 0); }
+
+bool Session::AssignUserKey(KeyHalf half, int key, FunctionId id) {
+    if (key < 1 || key > kBlockKeys) return false;
+    Half(half)[key - 1] = id;
+    m_engine.dirty.userKeys = true;
+    m_host.Repaint();
+    return true;
+}
+
+void Session::ClearUserKeys(KeyHalf half) {
+    std::fill_n(Half(half), kBlockKeys, kNoKey);
+    m_engine.dirty.userKeys = true;
+    m_host.Repaint();
+}
+
+bool Session::CopyUserKeys(KeyHalf into, int keyboard, KeyHalf from) {
+    if (keyboard < 0 || keyboard >= kUserKeyboard) return false;
+    const KeyBlock block = KeyLayout(keyboard, from == KeyHalf::Shifted ? 1 : 0, m_userKeys);
+    std::copy(block.begin(), block.end(), Half(into));
+    m_engine.dirty.userKeys = true;
+    m_host.Repaint();
+    return true;
+}
+
+void Session::SetIntegerUserKeys(bool on) {
+    if (m_engine.prefs.IntegerUserKeys() == on) return;
+    m_engine.prefs.SetIntegerUserKeys(on);
+    m_engine.dirty.preferences = true;
+    m_host.Repaint();
+}
+
+bool Session::StoreRegister(int number, double value) {
+    if (number < 0 || number >= kRegisterCount) return false;
+    Engine& e = m_engine;
+    e.history.TakeSnapshot(e.Records());
+    e.registers.values[number] = value;
+    e.dirty.registers = true;
+    e.history.Commit(e.Records());
+    m_host.Repaint();
+    return true;
+}
+
+void Session::SetConstantsTopRow(u16 row) {
+    m_engine.state.constantsTopRow = row;
+    m_engine.dirty.state = true;
+}
+
+void Session::SetLastView(View view) {
+    m_engine.state.lastView = static_cast<u16>(view);
+    m_engine.dirty.state = true;
+}
+
+void Session::SetRandomSeed(u32 seed) {
+    m_engine.state.randomSeed = seed;
+    m_engine.dirty.state = true;
 }
 
 void Session::SelectKeyboard(int index) {

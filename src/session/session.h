@@ -15,21 +15,31 @@ namespace brinto {
 // Hardware keys that are not characters.
 enum class SpecialKey { Backspace, Delete, Enter, Up, Down, Left, Right };
 
+// The two halves of the User keyboard: the keys shown without and with the shift latch.
+enum class KeyHalf { Unshifted, Shifted };
+
+// Every change a front end makes goes through a command here, which marks the changed record
+// for the next save and asks the host for a repaint; front ends read the records through const
+// references only.
 class Session {
 public:
+    // Points the engine at the host for its clock and date texts.
     Session(Engine& engine, Host& host);
 
-    Engine& engine() { return m_engine; }
     const Engine& engine() const { return m_engine; }
-    UserKeyMap userKeys = EmptyUserKeyMap();
+    const UserKeyMap& userKeys() const { return m_userKeys; }
+    Host& host() { return m_host; }
 
     // A tap on an on-screen key carrying this FunctionId: 255 raises "No Function", 29 and 32 ask
-    // first. True when the dispatcher accepted the key.
+    // first. True when the dispatcher accepted the key. The id is dispatched as it is.
     bool Tap(FunctionId id);
+    // A tap on a key of the keypad: the id remapped as the keyboard does (integer variants on the
+    // Programmer keyboard, register variants), then as Tap.
+    bool TapKey(FunctionId id);
     // Key k (1..12) of the current keyboard's variable block, shifted while the shift latch is set,
     // remapped as the keyboard does (integer variants, register variants).
     bool TapBlockKey(int k);
-    // The keyboard's remapping of a key before it is dispatched.
+    // The keyboard's remapping of a key before it is dispatched; 255 stays 255.
     FunctionId Remap(FunctionId id) const;
 
     // Hardware keys of the main window. Characters that are no key beep.
@@ -51,14 +61,52 @@ public:
     void Basic();
     void Advanced();
 
+    // The first run's "Input Method" dialog's OK: the preferences and the engine switch at once.
+    void ChooseInputMethod(InputMethod method);
+    // The "Preferences" sheet's OK: the record as the pages left it. The input method of the
+    // "General" page is then sent through the dispatcher as its key (also when it did not
+    // change), and the display recomputes its layout.
+    void SetPreferences(const Preferences& prefs);
+    // Preferences given for this run only (brinto-cli's --pref): not marked changed, so they are
+    // saved only along with a later change.
+    void OverridePreferences(const Preferences& prefs);
+    void SelectTheme(u16 themeId);
+
+    // The "Customize Keyboard" dialog. `key` is 1..12 of the half; false for a key outside it.
+    bool AssignUserKey(KeyHalf half, int key, FunctionId id);
+    void ClearUserKeys(KeyHalf half);
+    // The 12 keys of built-in keyboard `keyboard` (0..7) in state `from` into the User half `into`.
+    bool CopyUserKeys(KeyHalf into, int keyboard, KeyHalf from);
+    void SetIntegerUserKeys(bool on);
+
+    // A value typed into a register of a dialog (user registers, TVM, cash flows): one undoable
+    // step. False for a register number outside 0..123.
+    bool StoreRegister(int number, double value);
+    // Where the "Constants" list was scrolled to, and the last dialog view shown.
+    void SetConstantsTopRow(u16 row);
+    void SetLastView(View view);
+    // The "Enter Date" and "Enter Time" dialogs' results entering X as a date (midnight) or a clock
+    // time, like a recalled value: one undoable step. False for fields outside the date range or
+    // a clock time outside 0:00..23:59; X is then unchanged.
+    bool EnterDate(int year, int month, int day);
+    bool EnterTime(int hour, int minute);
+    // The stored random seed (brinto-cli's --seed).
+    void SetRandomSeed(u32 seed);
+
 private:
+    friend class SessionStore;  // loading replaces the records wholesale
+
     // Dispatches one key and raises the macro messages that the key caused.
     bool Execute(FunctionId id);
     bool Restore(bool undo);
     void AfterRestore();
+    // Enters a value into X as a recall does, as one undoable step.
+    void EnterValue(double value, ValueTag tag);
+    FunctionId* Half(KeyHalf half);
 
     Engine& m_engine;
     Host& m_host;
+    UserKeyMap m_userKeys = EmptyUserKeyMap();
 };
 
 // Message texts.

@@ -16,6 +16,7 @@ inline constexpr u32 CalcState = 2;
 inline constexpr u32 Registers = 3;
 inline constexpr u32 Macro = 4;
 inline constexpr u32 UserKeys = 5;
+inline constexpr u32 FrontEndSetting = 6;  // keyed by name: a front end's own setting, e.g. window geometry
 }  // namespace kind
 
 inline constexpr u16 kHeaderSize = 80;

@@ -1,11 +1,13 @@
 #include "store/record_store.h"
 
+#include <fcntl.h>
 #include <sqlite3.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <system_error>
 
 namespace brinto {
@@ -15,8 +17,8 @@ namespace {
 // Marks the file as ours, so that another program's SQLite database is never taken for one.
 constexpr int kApplicationId = 0x42726E74;  // "Brnt"
 constexpr int kSchemaVersion = 1;
-// How long a save waits for another process's save to finish before giving up.
-constexpr int kBusyTimeoutMs = 2000;
+// How long a load or a save waits for another process's save to finish before giving up.
+constexpr int kBusyTimeoutMs = 3000;
 
 constexpr const char* kTableNames[2] = {"BrintoConfig", "BrintoState"};
 
@@ -99,6 +101,7 @@ struct RecordStore::Found {
 RecordStore::~RecordStore() { Close(); }
 
 void RecordStore::Fail(std::string_view what) {
+    m_failed = true;
     m_error = std::string(what);
     if (m_db) {
         m_error += ": ";
@@ -109,6 +112,7 @@ void RecordStore::Fail(std::string_view what) {
 OpenResult RecordStore::Open(const std::string& path) {
     Close();
     m_error.clear();
+    m_failed = false;
     if (path == kInMemory) {
         if (!OpenExisting(path, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE | SQLITE_OPEN_MEMORY) ||
             sqlite3_exec(m_db, kCreateSchema, nullptr, nullptr, nullptr) != SQLITE_OK ||
@@ -119,8 +123,7 @@ OpenResult RecordStore::Open(const std::string& path) {
         }
         return OpenResult::Opened;
     }
-    std::error_code ec;
-    if (!std::filesystem::exists(path, ec) && !ec && !CreateFresh(path)) return OpenResult::Unavailable;
+    if (const OpenResult kind = CheckPath(path); kind != OpenResult::Opened) return kind;
     if (const OpenResult header = CheckFileHeader(path); header != OpenResult::Opened) return header;
     if (!OpenExisting(path, SQLITE_OPEN_READWRITE)) {
         Close();
@@ -131,26 +134,71 @@ OpenResult RecordStore::Open(const std::string& path) {
     return result;
 }
 
+// Decides from what the path names, before anything opens it: a regular file (or a link to one)
+// goes on to the header check, a missing name is created when its folder exists, and anything
+// else is refused. A folder must not be renamed, a device not replaced and a pipe not waited on.
+OpenResult RecordStore::CheckPath(const std::string& path) {
+    struct stat info {};
+    if (lstat(path.c_str(), &info) != 0) {
+        if (errno != ENOENT) {
+            m_error = "cannot look at " + path + ": " + std::strerror(errno);
+            return OpenResult::Unavailable;
+        }
+        const std::filesystem::path folder = std::filesystem::path(path).parent_path();
+        struct stat folderInfo {};
+        if (stat(folder.empty() ? "." : folder.c_str(), &folderInfo) != 0 || !S_ISDIR(folderInfo.st_mode)) {
+            m_error = "cannot create " + path + ": its folder does not exist";
+            return OpenResult::Unavailable;
+        }
+        return CreateFresh(path) ? OpenResult::Opened : OpenResult::Unavailable;
+    }
+    // A link is followed once; one that leads nowhere is not created through.
+    if (S_ISLNK(info.st_mode) && stat(path.c_str(), &info) != 0) {
+        m_error = "cannot follow the link " + path + ": " + std::strerror(errno);
+        return OpenResult::Unavailable;
+    }
+    if (!S_ISREG(info.st_mode)) {
+        m_error = path + " is not a regular file";
+        return OpenResult::Refused;
+    }
+    return OpenResult::Opened;
+}
+
 // Looks at the file's first bytes before SQLite does: opening a foreign or garbage file would let
 // SQLite act on a journal lying beside it (replay it, or delete it on closing), and that journal
-// belongs to whatever the user had there.
+// belongs to whatever the user had there. The look never blocks: should the name have been
+// replaced by a pipe or a device since CheckPath, it is refused here.
 OpenResult RecordStore::CheckFileHeader(const std::string& path) {
     constexpr std::size_t kHeaderBytes = 100;
-    std::ifstream file(path, std::ios::binary);
-    char header[kHeaderBytes] = {};
-    if (!file) {
-        m_error = "cannot open " + path;
+    const int fd = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    if (fd < 0) {
+        m_error = "cannot open " + path + ": " + std::strerror(errno);
         return OpenResult::Unavailable;
     }
-    file.read(header, kHeaderBytes);
-    if (file.bad()) {
-        m_error = "cannot read " + path;
-        return OpenResult::Unavailable;
+    struct stat info {};
+    if (fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) {
+        close(fd);
+        m_error = path + " is not a regular file";
+        return OpenResult::Refused;
     }
+    unsigned char header[kHeaderBytes] = {};
+    std::size_t got = 0;
+    while (got < kHeaderBytes) {
+        const ssize_t n = read(fd, header + got, kHeaderBytes - got);
+        if (n < 0 && errno == EINTR) continue;
+        if (n < 0) {
+            m_error = "cannot read " + path + ": " + std::strerror(errno);
+            close(fd);
+            return OpenResult::Unavailable;
+        }
+        if (n == 0) break;
+        got += static_cast<std::size_t>(n);
+    }
+    close(fd);
     // The format mark, then the application id as a big-endian word at offset 68.
-    const auto byte = [&](int i) { return static_cast<unsigned>(static_cast<unsigned char>(header[i])); };
+    const auto byte = [&](int i) { return static_cast<unsigned>(header[i]); };
     const unsigned applicationId = byte(68) << 24 | byte(69) << 16 | byte(70) << 8 | byte(71);
-    if (file.gcount() != kHeaderBytes || std::memcmp(header, "SQLite format 3", 16) != 0 ||
+    if (got != kHeaderBytes || std::memcmp(header, "SQLite format 3", 16) != 0 ||
         applicationId != static_cast<unsigned>(kApplicationId)) {
         m_error = "not a Brinto database";
         return OpenResult::NotBrinto;
@@ -226,8 +274,10 @@ OpenResult RecordStore::CheckBrinto() {
         return OpenResult::NotBrinto;
     }
     if (!Prepare()) {
+        // A missing table or column is damage; a lock or an I/O error while reading the schema is not.
+        const int prepareCode = sqlite3_extended_errcode(m_db);
         Fail("not a Brinto database");
-        return OpenResult::NotBrinto;
+        return Judge(prepareCode);
     }
     for (int table = 0; table < 2; ++table) {
         sqlite3_stmt* scan = m_scan[table];
@@ -306,7 +356,8 @@ bool RecordStore::Execute(sqlite3_stmt* statement) {
 // name wanted (an empty name when none is wanted) wins. Headers that are not 80 bytes never match.
 bool RecordStore::Find(u32 kind, u16 index, std::u16string_view name, Found& found) {
     sqlite3_stmt* scan = m_scan[TableOf(kind)];
-    while (sqlite3_step(scan) == SQLITE_ROW) {
+    int code = SQLITE_OK;
+    while ((code = sqlite3_step(scan)) == SQLITE_ROW) {
         if (sqlite3_column_bytes(scan, 1) != kHeaderSize) continue;
         RecordHeader header;
         std::memcpy(&header, sqlite3_column_blob(scan, 1), sizeof header);
@@ -316,6 +367,7 @@ bool RecordStore::Find(u32 kind, u16 index, std::u16string_view name, Found& fou
             return true;
         }
     }
+    if (code != SQLITE_DONE) Fail("cannot read the database");
     sqlite3_reset(scan);
     return false;
 }
@@ -375,6 +427,8 @@ bool RecordStore::Write(u32 kind, const void* buffer, std::size_t size, u16 inde
     }
     return transaction.Commit();
 }
+
+bool RecordStore::ReadOnly() const { return m_db && sqlite3_db_readonly(m_db, "main") == 1; }
 
 int RecordStore::CountRecords() {
     if (!m_db) return 0;

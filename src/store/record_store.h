@@ -20,11 +20,14 @@ struct sqlite3_stmt;
 
 namespace brinto {
 
+// Damage is the file's own fault and only NotBrinto says so; every other failure is trouble
+// around a file that may well be sound, and the file must then be left exactly as it is.
 enum class OpenResult {
     Opened,       // a Brinto database, created first if the file did not exist
     NotBrinto,    // the file is damaged or holds something else; it was left untouched
     Busy,         // another process kept the file locked for longer than the store waits
-    Unavailable,  // the file could not be opened or created at all (rights, a missing folder)
+    Unavailable,  // the file could not be read or created (rights, a missing folder, I/O, a full disk)
+    Refused,      // the path names no regular file (a folder, a device, a pipe): never opened
 };
 
 class RecordStore {
@@ -39,12 +42,20 @@ public:
 
     // Opens the database at `path`. A missing file is created complete (both tables) under a
     // temporary name and then moved into place, so no other process ever sees a half-made one.
-    // A file that exists but is not a Brinto database is not changed in any way.
+    // A file that exists but is not a Brinto database is not changed in any way. Only a regular
+    // file (or a link to one) is handed to SQLite; anything else is refused without being opened
+    // for more than a non-blocking look, so a folder, a device or a pipe is never touched.
     OpenResult Open(const std::string& path);
     void Close();
     bool IsOpen() const { return m_db != nullptr; }
     // What went wrong last, in words, for a warning line.
     const std::string& LastError() const { return m_error; }
+    // Whether anything failed (a read, a write, a transaction) since the last ClearFailure: a load
+    // that failed half-way must not be taken for a file without records.
+    bool Failed() const { return m_failed; }
+    void ClearFailure() { m_failed = false; }
+    // An open database that SQLite could only open for reading (a write-protected file).
+    bool ReadOnly() const;
 
     // Finds the first record (in insertion order) with this kind and index and an empty name,
     // copies min(stored size, size) payload bytes into `buffer` and sets `size` to that count.
@@ -64,6 +75,7 @@ private:
     friend class StoreTransaction;
     struct Found;
 
+    OpenResult CheckPath(const std::string& path);
     OpenResult CheckFileHeader(const std::string& path);
     bool OpenExisting(const std::string& path, int flags);
     bool CreateFresh(const std::string& path);
@@ -90,6 +102,7 @@ private:
     sqlite3_stmt* m_rollback = nullptr;
     int m_transactionDepth = 0;
     bool m_rollbackOnly = false;  // an inner transaction gave up: the outer one must not commit
+    bool m_failed = false;
     std::string m_error;
 };
 

@@ -14,7 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kCompanions[] = {"-wal", "-journal", "-shm"};
-constexpr const char* kNothingSaved = "; running on defaults, nothing will be saved";
+constexpr const char* kNothingSaved = "; the calculator runs in memory and nothing will be saved";
 
 fs::path HomeFolder(const char* home) {
     if (home && *home) return home;
@@ -71,24 +71,16 @@ fs::path MoveAside(const fs::path& path) {
 
 OpenResult OpenStateFile(RecordStore& store, const fs::path& path, std::string& warning) {
     warning.clear();
-    std::error_code ec;
-    if (path.has_parent_path()) fs::create_directories(path.parent_path(), ec);
-    if (ec) {
-        warning = "cannot create the folder " + path.parent_path().string() + ": " + ec.message() + kNothingSaved;
-        return OpenResult::Unavailable;
-    }
     const OpenResult result = store.Open(path.string());
     switch (result) {
         case OpenResult::Opened: return result;
         case OpenResult::Busy:
-            warning = path.string() + " is in use by another program" + kNothingSaved;
+            warning = path.string() + " is locked by another program" + kNothingSaved;
             return result;
         case OpenResult::Unavailable:
-            if (!Exists(path)) {
-                warning = store.LastError() + kNothingSaved;
-                return result;
-            }
-            break;  // a file is there but cannot be opened: keep it aside and start afresh
+        case OpenResult::Refused:
+            warning = store.LastError() + kNothingSaved;
+            return result;
         case OpenResult::NotBrinto: break;
     }
     const std::string reason = store.LastError();
@@ -98,9 +90,7 @@ OpenResult OpenStateFile(RecordStore& store, const fs::path& path, std::string& 
         return result;
     }
     const OpenResult fresh = store.Open(path.string());
-    const char* what = result == OpenResult::NotBrinto ? " was damaged or not a Brinto database ("
-                                                       : " could not be opened (";
-    warning = path.string() + what + reason + "); kept it as " +
+    warning = path.string() + " was damaged or not a Brinto database (" + reason + "); kept it as " +
               aside.string() + (fresh == OpenResult::Opened ? "; starting on defaults" : kNothingSaved);
     return fresh;
 }

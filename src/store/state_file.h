@@ -19,11 +19,13 @@ StateLocations LocationsFrom(const char* xdgDataHome, const char* xdgConfigHome,
 // From this process's environment.
 StateLocations DefaultLocations();
 
-// Opens the database at `path`, creating its folder and the file when missing. A file that is
-// damaged or not a Brinto database is renamed aside in the same folder (with ".damaged-" and the
-// time in its name, so nothing the user had is destroyed) and a fresh database takes its place.
-// `warning` gets one line when something was wrong; the store stays closed when nothing could be
-// opened, and the program then runs on defaults without saving.
+// Opens the database at `path`, creating the file when missing (its folder must exist). A file
+// that is damaged or not a Brinto database is renamed aside in the same folder (with ".damaged-"
+// and the time in its name, so nothing the user had is destroyed) and a fresh database takes its
+// place. Trouble (no right to read, an I/O error, a lock held too long, a path that names no
+// regular file) never moves nor changes anything: the store stays closed. A write-protected file
+// opens for reading only (RecordStore::ReadOnly). `warning`
+// gets one line when something was wrong; whether the store is open tells damage from trouble.
 OpenResult OpenStateFile(RecordStore& store, const std::filesystem::path& path, std::string& warning);
 
 // Renames `path` (and SQLite's companion files beside it) to a free name with ".damaged-" and the

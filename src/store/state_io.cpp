@@ -113,7 +113,8 @@ bool LoadState(Engine& e, UserKeyMap& userKeys, RecordStore& store, const Legacy
     snapshot.emplace(store, StoreTransaction::Kind::Read);
     Preferences probe;
     std::size_t size = sizeof probe;
-    if (!store.ReadRecord(kind::Preferences, &probe, size)) {
+    // A store that could not be read is no first run: nothing may be migrated into it.
+    if (!store.ReadRecord(kind::Preferences, &probe, size) && !store.Failed()) {
         // The migration writes, so it runs outside the read snapshot; the load then starts afresh.
         snapshot.reset();
         result = migrate && migrate(store);
@@ -133,29 +134,25 @@ bool SaveState(Engine& e, const UserKeyMap& userKeys, RecordStore& store) {
     StoreTransaction transaction(store, StoreTransaction::Kind::Write);
     // Without the transaction each record would be written on its own: a save is all or nothing.
     bool saved = transaction.Started();
-    if (e.dirty.preferences) {
+    if (saved && e.dirty.preferences) {
         e.prefs.words[0] = kPreferencesVersion;
-        saved = saved && store.WriteRecord(kind::Preferences, &e.prefs, sizeof e.prefs);
-        e.dirty.preferences = false;
+        saved = store.WriteRecord(kind::Preferences, &e.prefs, sizeof e.prefs);
     }
-    if (e.dirty.registers) {
+    if (saved && e.dirty.registers) {
         e.registers.version = kRegisterBankVersion;
-        saved = saved && store.WriteRecord(kind::Registers, &e.registers, sizeof e.registers);
-        e.dirty.registers = false;
+        saved = store.WriteRecord(kind::Registers, &e.registers, sizeof e.registers);
     }
-    if (e.dirty.userKeys) {
-        saved = saved && store.WriteRecord(kind::UserKeys, &userKeys, sizeof userKeys);
-        e.dirty.userKeys = false;
-    }
-    if (e.dirty.macro) {
+    if (saved && e.dirty.userKeys) saved = store.WriteRecord(kind::UserKeys, &userKeys, sizeof userKeys);
+    if (saved && e.dirty.macro) {
         e.macro.macroVersion = kMacroVersion;
-        saved = saved && store.WriteRecord(kind::Macro, &e.macro, sizeof e.macro);
-        e.dirty.macro = false;
+        saved = store.WriteRecord(kind::Macro, &e.macro, sizeof e.macro);
     }
     e.state.version = kCalcStateVersion;
     saved = saved && store.WriteRecord(kind::CalcState, &e.state, sizeof e.state);
-    e.dirty.state = false;
-    return saved && transaction.Commit();
+    saved = saved && transaction.Commit();
+    // A save that did not reach the file keeps its flags, so the next save tries those records again.
+    if (saved) e.dirty = DirtyFlags{};
+    return saved;
 }
 
 }  // namespace brinto

@@ -22,7 +22,7 @@ bool LoadState(Engine& e, UserKeyMap& userKeys, RecordStore& store, const Legacy
 
 // Writes the changed records (preferences, registers, user keys, macro, in that order) and then
 // always CalcState, as one transaction: the file gets all of them or none. The changed flags are
-// cleared either way, as a failed save is not retried. False when the save did not reach the file.
+// cleared once the save is in the file; a failed save keeps them. False when it did not get there.
 bool SaveState(Engine& e, const UserKeyMap& userKeys, RecordStore& store);
 
 }  // namespace brinto

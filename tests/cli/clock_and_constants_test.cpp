@@ -2,6 +2,7 @@
 // transcripts cannot hold).
 #include <gtest/gtest.h>
 
+#include "cli/tokens.h"
 #include "cli_runner.h"
 
 namespace brinto::test {
@@ -25,6 +26,10 @@ TEST(Cli, ListKeysNamesTheConstants) {
     ASSERT_EQ(r.exitCode, 0);
     EXPECT_NE(r.out.find("\nconst:0 Avogadro's number, NA\n"), std::string::npos);
     EXPECT_NE(r.out.find("\nconst:32 Reference intensity, I0\n"), std::string::npos);
+    EXPECT_FALSE(ParseToken("const:-1").has_value());
+    EXPECT_FALSE(ParseToken("const:").has_value());
+    EXPECT_FALSE(ParseToken("const:33").has_value());
+    EXPECT_EQ(ParseToken("const:32").value().number, 32);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 //   exit = N           the exit status (default 0)
 //   stderr ~ TEXT      standard error contains TEXT
 //   stdout = TEXT      standard output, without its last newline
+//   stdout ~ TEXT      standard output contains TEXT
 //   PATH = VALUE       a field of the JSON report ("stack.0.text = 5."), arrays as [1,2]
 #include <gtest/gtest.h>
 
@@ -73,6 +74,8 @@ void RunCase(const Case& c) {
             expectedExit = std::stoi(value);
         } else if (path == "stderr~") {
             EXPECT_NE(r.err.find(value), std::string::npos) << "stderr: " << r.err;
+        } else if (path == "stdout~") {
+            EXPECT_NE(r.out.find(value), std::string::npos) << "stdout: " << r.out;
         } else if (path == "stdout") {
             EXPECT_EQ(r.out.substr(0, r.out.empty() ? 0 : r.out.size() - 1), value);
         } else {

@@ -13,7 +13,7 @@
 #include "display/number_format.h"
 #include "engine/engine.h"
 #include "engine/engine_test_support.h"
-#include "ops/date_fields.h"
+#include "engine/numeric/date_fields.h"
 
 namespace brinto {
 namespace {

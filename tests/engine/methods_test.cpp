@@ -36,9 +36,6 @@ TEST(InputMethods, KeySequencesLeaveExpectedX) {
         {"power binds tightest", InputMethod::Precedence, {2, Times, 3, fid::Power, 2, Eq}, 18},
         {"percent of total", InputMethod::Simple, {5, 0, fid::PercentTotal, 2, 0, 0, Eq}, 400},
         {"percent change", InputMethod::Rpn, {5, 0, fid::Enter, 7, 5, fid::PercentChange}, 50},
-        {"combinations", InputMethod::Rpn, {5, fid::Enter, 2, fid::Combinations}, 10},
-        {"permutations", InputMethod::Rpn, {5, fid::Enter, 2, fid::Permutations}, 20},
-        {"combinations with Y < X", InputMethod::Rpn, {2, fid::Enter, 5, fid::Combinations}, kErrorValue},
         {"x-th root", InputMethod::Rpn, {2, 7, fid::Enter, 3, fid::XRoot}, 3},
         {"modulo", InputMethod::Rpn, {7, fid::Enter, 3, fid::Modulo}, 1},
     };

@@ -1,10 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
-#include <random>
-#include <string>
 #include <tuple>
 
 #include "finance/amortization.h"
@@ -15,27 +12,6 @@ namespace brinto {
 namespace {
 
 using namespace test;
-
-TEST(RoundToPlaces, RoundsTheShortestDigitsHalfUp) {
-    const struct { double value; int places; double rounded; } cases[] = {
-        {0.125, 2, 0.13}, {1.005, 2, 1.01}, {-1.005, 2, -1.01},  // the double lies below 1.005; its digits do not
-        {0.0049, 2, 0.0}, {0.005, 2, 0.01}, {999.995, 2, 1000},  {0.5, 0, 1.0}, {1e20, 2, 1e20}, {45.5, -1, 45.5}};
-    for (const auto& c : cases) {
-        EXPECT_EQ(RoundToPlaces(c.value, c.places), c.rounded) << c.value;
-        EXPECT_EQ(RoundToPlacesByDigits(c.value, c.places), c.rounded) << c.value;
-    }
-    // The shortcut decides as the digits do, decimal ties (k.5 units of the last place) included.
-    std::mt19937_64 random(20240607);
-    for (int n = 0; n < 200000; ++n) {
-        const int places = static_cast<int>(random() % 15);
-        double value = std::pow(10.0, std::uniform_real_distribution<double>(-6, 13)(random)) * (n % 2 ? -1 : 1);
-        if (n % 3 == 0) {
-            const std::string tie = std::to_string(random() % 100000000000) + "5e-" + std::to_string(places + 1);
-            std::from_chars(tie.data(), tie.data() + tie.size(), value);
-        }
-        ASSERT_EQ(RoundToPlaces(value, places), RoundToPlacesByDigits(value, places)) << value << " " << places;
-    }
-}
 
 class Amortization : public ::testing::Test {
 protected:
@@ -97,6 +73,16 @@ TEST_F(Amortization, RangeIsCutToNAndRoundedToTheDisplay) {
     e.prefs.SetDigitField(0);                      // all digits: nothing is rounded
     Store(e, "-599.550525", fid::PMT);
     EXPECT_EQ(Range("1", "1").principal, 500.0 + -599.550525);
+}
+
+TEST_F(Amortization, RoundsEachInterestAsTheDisplayShowsIt) {
+    for (const auto& [number, key] : {std::pair{"219", fid::N}, {"8.2", fid::IYr}, {"393543", fid::PV}, {"-3470.2", fid::PMT}}) {
+        Store(e, number, key);
+    }
+    Press(e, {fid::FormatFixed, 3});
+    // 393543 x 0.082 / 12 = 2689.2105, whose double reads 2689.2104999999998.
+    EXPECT_EQ(Range("1", "1").interest, -2689.211);
+    EXPECT_EQ(Range("55", "57").balance, 339336.074);
 }
 
 TEST_F(Amortization, NextBlockRestartsWithoutAPositiveBalance) {

@@ -9,7 +9,7 @@
 
 #include "display/display_text.h"
 #include "finance_test_support.h"
-#include "session/keyboards.h"
+#include "engine/keyboards.h"
 
 namespace brinto {
 namespace {

@@ -7,7 +7,7 @@
 #include <limits>
 #include <tuple>
 
-#include "ops/date_fields.h"
+#include "engine/numeric/date_fields.h"
 #include "ops_test_support.h"
 
 namespace brinto {

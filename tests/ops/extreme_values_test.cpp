@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "engine/algebraic.h"
-#include "ops/integer_format.h"
+#include "engine/numeric/integer_format.h"
 #include "ops_test_support.h"
-#include "session/keyboards.h"
+#include "engine/keyboards.h"
 
 namespace brinto {
 namespace {
@@ -48,7 +48,7 @@ TEST(ExtremeValues, EveryKeyOnEveryKindOfValue) {
     const double inf = std::numeric_limits<double>::infinity();
     const double values[] = {std::nan(""), inf, -inf, std::numeric_limits<double>::denorm_min(), -0.0,
                              1e300, -1e300, 4294967296.0 * 3 + 5, -2147483649.0, 4039372800.0, 0.5, 170.0};
-    const ValueTag tags[] = {ValueTag::None, ValueTag::Meters, ValueTag::SqFeet, ValueTag::Gallons, ValueTag::MetersPerSecond, ValueTag::Pounds, ValueTag::DegC, ValueTag::U8, ValueTag::S8, ValueTag::U32, ValueTag::S32,
+    const ValueTag tags[] = {ValueTag::None, ValueTag::Meters, ValueTag::SquareFeet, ValueTag::Gallons, ValueTag::MetersPerSecond, ValueTag::Pounds, ValueTag::DegC, ValueTag::U8, ValueTag::S8, ValueTag::U32, ValueTag::S32,
                              ValueTag::Hms, ValueTag::Date, ValueTag::Time, ValueTag::DateTime, ValueTag::Years, ValueTag::Hours, ValueTag::Frames, ValueTag::PerYear};
     const FunctionId angles[] = {fid::Degrees, fid::Radians, fid::Grads};
     const std::vector<FunctionId> keys = KeysUnderTest();

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "ops/integer_format.h"
+#include "engine/numeric/integer_format.h"
 #include "ops_test_support.h"
 
 namespace brinto {

@@ -24,7 +24,7 @@ TEST(UnitKeys, ConvertWithinTheirTableAndOnlyLabelOtherValues) {
     e.Dispatch(kFeetKey);
     EXPECT_EQ(Tagged(e.state.lastX, e.state.lastXTag), Tagged(12, Inches));
     CheckKeys({
-        {kMetersPerSKey, {100, KmPerHour}, {27.7777777778, MetersPerSecond}}, {fid::DegC, {212, DegF}, {100, DegC}},
+        {kMetersPerSKey, {100, KilometersPerHour}, {27.7777777778, MetersPerSecond}}, {fid::DegC, {212, DegF}, {100, DegC}},
         {fid::DegC, {-40, DegF}, {-40, DegC}},   {fid::DegF, {5, Meters}, {5, DegF}},
         {kMinutesKey, {1.3, Hms}, {90, Minutes}}, {kHoursKey, {90, None}, {90, Hours}}, {kHoursKey, {90, Meters}, {90, Hours}},
     });
@@ -33,10 +33,10 @@ TEST(UnitKeys, ConvertWithinTheirTableAndOnlyLabelOtherValues) {
 TEST(UnitKeys, EveryUnitKeyConvertsBackToItsStart) {
     // Each key attaches its unit to 7, then converts into its table's base and back: a key mapped
     // to another table's row would not come back to 7.
-    struct Base { TagCategory category; FunctionId key; };
-    const Base bases[] = {{TagCategory::Length, fid::Meters},         {TagCategory::Area, fid::SqMeters},
-                          {TagCategory::Volume, fid::CubicMeters},    {TagCategory::Speed, fid::MetersPerSecond},
-                          {TagCategory::Mass, fid::Kilograms}};
+    struct Base { Category category; FunctionId key; };
+    const Base bases[] = {{Category::Length, fid::Meters},         {Category::Area, fid::SquareMeters},
+                          {Category::Volume, fid::CubicMeters},    {Category::Speed, fid::MetersPerSecond},
+                          {Category::Mass, fid::Kilograms}};
     int unitKeys = 0;
     for (const KeyInfo& row : kKeyTable) {
         const FunctionId key = row.id;
@@ -45,7 +45,7 @@ TEST(UnitKeys, EveryUnitKeyConvertsBackToItsStart) {
         const ValueTag tag = e.XTag();
         const Base* base = nullptr;
         for (const Base& b : bases) {
-            if (b.category == CategoryOf(tag)) base = &b;
+            if (b.category == TagCategory(tag)) base = &b;
         }
         if (!base) continue;  // not a unit key
         ++unitKeys;
@@ -68,20 +68,20 @@ TEST(UnitRules, AddSubtractMultiplyAndDivide) {
         {Sub, {1, Gallons}, {1, Liters}, {0.73582794764185, Gallons}},  // 1 - 1 / 3.785411784, in 14 digits
         {Add, {1, Hours}, {30, Minutes}, {1.5, Hours}}, {Sub, {1, Days}, {12, Hours}, {0.5, Days}},
         {Add, {1.3, Hms}, {30, Minutes}, {2, Hours}},   {Add, {30, Minutes}, {1.3, Hms}, {120, Minutes}},
-        {Mul, {1, Meters}, {50, Centimeters}, {0.5, SqMeters}},  {Mul, {5, Feet}, {3, None}, {15, Feet}},
-        {Mul, {2, NauticalMiles}, {3, NauticalMiles}, {6, None}},              {Mul, {2, SqFeet}, {6, Inches}, {1, CubicFeet}},
-        {Mul, {2, SqFeet}, {1, Feet}, {2, CubicFeet}},    {Mul, {2, SqMiles}, {3, Feet}, {6, None}},
+        {Mul, {1, Meters}, {50, Centimeters}, {0.5, SquareMeters}},  {Mul, {5, Feet}, {3, None}, {15, Feet}},
+        {Mul, {2, NauticalMiles}, {3, NauticalMiles}, {6, None}},              {Mul, {2, SquareFeet}, {6, Inches}, {1, CubicFeet}},
+        {Mul, {2, SquareFeet}, {1, Feet}, {2, CubicFeet}},    {Mul, {2, SquareMiles}, {3, Feet}, {6, None}},
         // The length's factor alone divides the area: 1 sq meter counts as 1 / 0.3048 feet.
-        {Mul, {2, Feet}, {1, SqMeters}, {2 / 0.3048, CubicFeet}},  {Mul, {2, Feet}, {3, SqFeet}, {6, CubicFeet}},
+        {Mul, {2, Feet}, {1, SquareMeters}, {2 / 0.3048, CubicFeet}},  {Mul, {2, Feet}, {3, SquareFeet}, {6, CubicFeet}},
         {Mul, {60, MilesPerHour}, {30, Minutes}, {30, Miles}}, {Mul, {60, MilesPerHour}, {2, Hours}, {120, Miles}},
         {Mul, {2, Hours}, {3, MetersPerSecond}, {21600, Meters}},  {Mul, {1.3, Hms}, {10, MilesPerHour}, {15, Miles}},
         {Mul, {2, Kilograms}, {3, Kilograms}, {6, None}},                 {Div, {100, Miles}, {50, MilesPerHour}, {2, Hours}},
-        {Div, {1, Meters}, {1, InchesPerSecond}, {1 / 0.0254, Seconds}}, {Div, {10, SqFeet}, {2, Feet}, {5, Feet}},
-        {Div, {10, SqFeet}, {24, Inches}, {5, Feet}},    {Div, {10, Acres}, {2, Feet}, {5, None}},
-        {Div, {1, CubicFeet}, {12, Inches}, {1, SqFeet}},  {Div, {1, Liters}, {2, Meters}, {0.5, None}},
-        {Div, {1, CubicMeters}, {2, SqMeters}, {0.5, Meters}}, {Div, {144, CubicInches}, {1, SqFeet}, {1, Inches}},
+        {Div, {1, Meters}, {1, InchesPerSecond}, {1 / 0.0254, Seconds}}, {Div, {10, SquareFeet}, {2, Feet}, {5, Feet}},
+        {Div, {10, SquareFeet}, {24, Inches}, {5, Feet}},    {Div, {10, Acres}, {2, Feet}, {5, None}},
+        {Div, {1, CubicFeet}, {12, Inches}, {1, SquareFeet}},  {Div, {1, Liters}, {2, Meters}, {0.5, None}},
+        {Div, {1, CubicMeters}, {2, SquareMeters}, {0.5, Meters}}, {Div, {144, CubicInches}, {1, SquareFeet}, {1, Inches}},
         {Div, {100, Meters}, {10, Seconds}, {10, MetersPerSecond}}, {Div, {100, Meters}, {1, Minutes}, {100.0 / 60, MetersPerSecond}},
-        {Div, {10, Kilometers}, {30, Minutes}, {20, KmPerHour}},    {Div, {10, Yards}, {2, Hours}, {5, None}},
+        {Div, {10, Kilometers}, {30, Minutes}, {20, KilometersPerHour}},    {Div, {10, Yards}, {2, Hours}, {5, None}},
         {Div, {6, None}, {2, Feet}, {3, Feet}},             {Div, {6, Feet}, {2, Feet}, {3, None}},
     });
 }

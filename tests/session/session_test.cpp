@@ -5,31 +5,12 @@
 #include <string>
 #include <vector>
 
-#include "session/keyboards.h"
+#include "engine/keyboards.h"
+#include "engine/numeric/date_fields.h"
+#include "session/recording_host.h"
 
 namespace brinto {
 namespace {
-
-struct Message {
-    std::string caption;
-    std::string text;
-};
-
-class RecordingHost : public Host {
-public:
-    std::vector<Message> messages;
-    std::optional<std::string> clipboard;
-    bool confirm = true;
-    int beeps = 0;
-
-    void ShowMessage(std::string_view caption, std::string_view text) override {
-        messages.push_back({std::string(caption), std::string(text)});
-    }
-    bool Confirm(std::string_view, std::string_view) override { return confirm; }
-    void PutOnClipboard(std::string_view text) override { clipboard = std::string(text); }
-    std::optional<std::string> ClipboardText() override { return clipboard; }
-    void Beep() override { ++beeps; }
-};
 
 struct Fixture {
     Engine engine;
@@ -173,7 +154,7 @@ TEST(Session, BlockKeysFollowTheShiftAndRemap) {
     f.Type("9");
     f.session.TapBlockKey(4);  // PMT: with no financial family yet or with one, the key is routed
     f.session.Tap(fid::Shift);
-    EXPECT_EQ(KeyLayout(1, 1, f.session.userKeys)[3], fid::PYr);
+    EXPECT_EQ(KeyLayout(1, 1, f.session.userKeys())[3], fid::PYr);
     f.session.SelectKeyboard(0);
     f.session.Tap(fid::Shift);
     f.session.TapBlockKey(3);  // shifted General key 3: RPN
@@ -233,6 +214,110 @@ TEST(Session, CopyOfAnErrorCopiesNothing) {
     ASSERT_TRUE(IsErrorValue(f.engine.X()));
     f.session.Copy();
     EXPECT_FALSE(f.host.clipboard.has_value());
+}
+
+// The "Preferences" sheet's OK sends the input method's key exactly once, changed or not: a
+// macro being recorded shows every key the dispatcher saw.
+TEST(SessionCommands, PreferencesSendTheMethodKeyOnce) {
+    const std::tuple<InputMethod, FunctionId> cases[] = {
+        {InputMethod::Rpn, fid::MethodRpn},  // unchanged: the fixture runs in RPN
+        {InputMethod::Precedence, fid::MethodPrecedence},
+        {InputMethod::Simple, fid::MethodSimple},
+    };
+    for (const auto& [method, key] : cases) {
+        SCOPED_TRACE(static_cast<int>(method));
+        Fixture f;
+        f.session.Tap(fid::MacroRecord);
+        const int recorded = f.engine.macro.macroLength;  // the macro opens with the method in force
+        Preferences prefs = f.engine.prefs;
+        prefs.SetMethod(method);
+        prefs.SetTheme(4);
+        f.engine.dirty = {};
+        f.session.SetPreferences(prefs);
+        ASSERT_EQ(f.engine.macro.macroLength, recorded + 1);
+        EXPECT_EQ(f.engine.macro.macroKeys[recorded], key);
+        EXPECT_EQ(f.engine.Method(), method);
+        EXPECT_EQ(f.engine.prefs.Theme(), 4);
+        EXPECT_TRUE(f.engine.dirty.preferences);
+    }
+}
+
+// Each dialog's change marks the record it changed, and only that one.
+TEST(SessionCommands, EachChangeMarksItsRecord) {
+    using Command = void (*)(Session&);
+    const std::tuple<const char*, Command, DirtyFlags> cases[] = {  // preferences, state, registers, macro, keys
+        {"theme", [](Session& s) { s.SelectTheme(3); }, {true, false, false, false, false}},
+        {"integer user keys", [](Session& s) { s.SetIntegerUserKeys(true); }, {true, false, false, false, false}},
+        {"assign a user key", [](Session& s) { s.AssignUserKey(KeyHalf::Shifted, 12, fid::Add); },
+         {false, false, false, false, true}},
+        {"clear user keys", [](Session& s) { s.ClearUserKeys(KeyHalf::Unshifted); }, {false, false, false, false, true}},
+        {"store a register", [](Session& s) { s.StoreRegister(123, 2.5); }, {false, false, true, false, false}},
+        {"constants list", [](Session& s) { s.SetConstantsTopRow(9); }, {false, true, false, false, false}},
+        {"last view", [](Session& s) { s.SetLastView(View::CashFlow); }, {false, true, false, false, false}},
+        {"override", [](Session& s) { s.OverridePreferences(DefaultPreferences()); }, {}},
+    };
+    for (const auto& [name, command, marked] : cases) {
+        SCOPED_TRACE(name);
+        Fixture f;
+        f.engine.dirty = {};
+        command(f.session);
+        const DirtyFlags& d = f.engine.dirty;
+        EXPECT_EQ(std::tuple(d.preferences, d.state, d.registers, d.macro, d.userKeys),
+                  std::tuple(marked.preferences, marked.state, marked.registers, marked.macro, marked.userKeys));
+    }
+}
+
+TEST(SessionCommands, UserKeysAreAssignedClearedAndCopiedByHalf) {
+    Fixture f;
+    EXPECT_TRUE(f.session.AssignUserKey(KeyHalf::Shifted, 12, fid::Add));
+    EXPECT_FALSE(f.session.AssignUserKey(KeyHalf::Shifted, 13, fid::Add));
+    EXPECT_FALSE(f.session.AssignUserKey(KeyHalf::Unshifted, 0, fid::Add));
+    EXPECT_EQ(f.session.userKeys().keys[23], fid::Add);
+    EXPECT_TRUE(f.session.CopyUserKeys(KeyHalf::Unshifted, 1, KeyHalf::Shifted));
+    EXPECT_FALSE(f.session.CopyUserKeys(KeyHalf::Unshifted, kUserKeyboard, KeyHalf::Shifted));
+    const KeyBlock financialShifted = KeyLayout(1, 1, f.session.userKeys());
+    EXPECT_TRUE(KeyLayout(kUserKeyboard, 0, f.session.userKeys()) == financialShifted);
+    f.session.ClearUserKeys(KeyHalf::Shifted);
+    for (const FunctionId key : KeyLayout(kUserKeyboard, 1, f.session.userKeys())) EXPECT_EQ(key, kNoKey);
+    EXPECT_TRUE(KeyLayout(kUserKeyboard, 0, f.session.userKeys()) == financialShifted);  // the other half stays
+}
+
+// Values from dialogs enter as one undoable step each; what is no date or time changes nothing.
+TEST(SessionCommands, DialogValuesAreUndoableSteps) {
+    Fixture f;
+    f.Type("5");
+    f.session.Tap(fid::Enter);
+    EXPECT_TRUE(f.session.StoreRegister(7, 42.0));
+    EXPECT_FALSE(f.session.StoreRegister(124, 1.0));
+    EXPECT_TRUE(f.session.EnterDate(2024, 2, 29));
+    EXPECT_EQ(f.engine.XTag(), fid::TagDate);
+    EXPECT_EQ(SplitDate(f.engine.X()).day, 29);
+    EXPECT_EQ(f.engine.Y(), 5.0);  // the date was lifted onto the stack like a recall
+    for (const auto& [y, m, d] : {std::tuple(2023, 2, 29), std::tuple(1903, 12, 31), std::tuple(2032, 1, 1),
+                                  std::tuple(2024, 13, 1), std::tuple(2024, 4, 31)}) {
+        EXPECT_FALSE(f.session.EnterDate(y, m, d)) << y << "-" << m << "-" << d;
+    }
+    EXPECT_FALSE(f.session.EnterTime(24, 0));
+    EXPECT_FALSE(f.session.EnterTime(0, 60));
+    EXPECT_TRUE(f.session.EnterTime(0, 5));
+    EXPECT_EQ(std::pair(f.engine.X(), f.engine.XTag()), std::pair(300.0, fid::TagTime));
+    f.session.Undo();  // the time
+    f.session.Undo();  // the date
+    EXPECT_EQ(f.engine.X(), 5.0);
+    EXPECT_EQ(f.engine.registers.values[7], 42.0);
+    f.session.Undo();  // the register
+    EXPECT_EQ(f.engine.registers.values[7], 0.0);
+    EXPECT_TRUE(f.host.messages.empty());
+}
+
+TEST(SessionCommands, OpenLastFormOpensTheRememberedView) {
+    Fixture f;
+    f.engine.prefs.SetAction(ActionChoice::OpenLastForm);
+    f.session.SetLastView(View::Amortization);
+    f.session.ActionButton();
+    f.engine.state.lastView = 99;  // a damaged record names no view
+    f.session.ActionButton();
+    EXPECT_EQ(f.host.opened, (std::vector<View>{View::Amortization, View::Preferences}));
 }
 
 }  // namespace

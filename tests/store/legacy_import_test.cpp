@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <cstring>
 
-#include "session/persistence.h"
+#include <filesystem>
 #include "store_test_support.h"
 
 namespace brinto::test {
@@ -198,14 +198,6 @@ void ExpectImported(const Engine& e, const UserKeyMap& keys) {
     EXPECT_EQ(e.macro.macroKeys[1], fid::Enter);
 }
 
-class NoHost : public Host {
-public:
-    void ShowMessage(std::string_view, std::string_view) override {}
-    bool Confirm(std::string_view, std::string_view) override { return true; }
-    void PutOnClipboard(std::string_view) override {}
-    std::optional<std::string> ClipboardText() override { return std::nullopt; }
-};
-
 // A first run imports the export beside the settings whole or not at all, and says why not in
 // one line.
 TEST(LegacyImport, AnExportBecomesTheRecordsOrNothingAtAll) {
@@ -237,25 +229,32 @@ TEST(LegacyImport, AnExportBecomesTheRecordsOrNothingAtAll) {
         std::filesystem::remove(legacy);
         if (file) WriteFile(legacy, *file);
         const bool imported = file && reason.empty();
+        // The first-run migration as the session runs it.
+        std::string warning;
+        const auto migrate = [&](RecordStore& into) {
+            if (!std::filesystem::exists(legacy)) return false;
+            const LegacyImport outcome = ImportLegacyFile(into, legacy);
+            warning = outcome.reason;
+            return outcome.imported;
+        };
         Engine e;
-        NoHost host;
-        Session session(e, host);
+        UserKeyMap keys = EmptyUserKeyMap();
         RecordStore store;
         ASSERT_EQ(store.Open(std::string(RecordStore::kInMemory)), OpenResult::Opened);
-        std::string warning;
-        EXPECT_EQ(LoadSession(session, store, legacy, warning), imported);
+        EXPECT_EQ(LoadState(e, keys, store, migrate), imported);
         EXPECT_EQ(store.CountRecords(), imported ? 4 : 0);  // the old release kept no CalcState
         EXPECT_NE(warning.find(reason), std::string::npos) << warning;
         EXPECT_EQ(warning.find('\n'), std::string::npos);
         EXPECT_EQ(warning.empty(), reason.empty());
         if (imported) {
-            ExpectImported(e, session.userKeys);
+            ExpectImported(e, keys);
             EXPECT_FALSE(e.dirty.preferences || e.dirty.registers || e.dirty.userKeys || e.dirty.macro);
         }
         // Once the preferences exist the export is never read again.
-        SaveSession(session, store);
+        SaveState(e, keys, store);
         WriteFile(legacy, "garbage");
-        EXPECT_TRUE(LoadSession(session, store, legacy, warning));
+        warning.clear();
+        EXPECT_TRUE(LoadState(e, keys, store, migrate));
         EXPECT_TRUE(warning.empty());
     }
 }

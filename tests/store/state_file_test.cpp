@@ -4,6 +4,7 @@
 #include "store/state_file.h"
 
 #include <signal.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -40,6 +41,20 @@ void SaveStamped(const std::filesystem::path& path, u32 stamp) {
     UserKeyMap keys{};
     StampRecords(e, keys, stamp);
     ASSERT_TRUE(SaveAll(e, keys, store));
+}
+
+// Loads the file the way the program does at start-up: the stamp every record carries, or nothing
+// when they disagree.
+std::optional<u32> LoadedStamp(const std::filesystem::path& path) {
+    RecordStore store;
+    EXPECT_EQ(store.Open(path), OpenResult::Opened);
+    Engine e;
+    UserKeyMap keys{};
+    LoadState(e, keys, store);
+    const u32 s = e.state.randomSeed;
+    const bool same = e.prefs.words[1] == static_cast<u16>(s) && e.macro.macroKeys[kMacroSlots - 1] == FunctionIdFrom(s) &&
+                      e.registers.values[kRegisterCount - 1] == s && keys.keys[23] == FunctionIdFrom(s);
+    return same ? std::optional<u32>(s) : std::nullopt;
 }
 
 std::vector<std::string> AsideNames(const TempFolder& folder) {
@@ -126,21 +141,110 @@ TEST(DamagedFile, EachGoesAsideWithItsJournal) {
                                                 RandomBytes(5000, 6) + RandomBytes(5000, 7)}));
 }
 
-TEST(StateFile, AnImpossibleFolderMeansRunningWithoutSaving) {
+// What the folder holds, every file with its bytes, and what each other entry is.
+std::string Snapshot(const std::filesystem::path& folder) {
+    std::string all;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+        all += entry.path().string();
+        if (entry.is_regular_file()) {
+            all.append(1, '=').append(ReadFile(entry.path()));
+        } else {
+            all += entry.is_directory() ? '/' : '*';
+        }
+        all += '\n';
+    }
+    return all;
+}
+
+// Trouble is not damage: a path that is no regular file, a missing folder, a lock held beyond the
+// wait. The store stays closed, nothing is moved, created or changed, and the warning is one line.
+TEST(StateFile, TroubleLeavesEverythingAsItWas) {
     TempFolder home;
-    WriteFile(home / "file", "x");
+    std::filesystem::create_directories(home / "folder" / "inside");
+    WriteFile(home / "folder" / "inside" / "keep", "the user's file");
+    ASSERT_EQ(mkfifo((home / "pipe").c_str(), 0600), 0);
+    WriteFile(home / "plain", "x");
+    SaveStamped(home / "locked.db", 5);
+    const std::tuple<const char*, std::filesystem::path, OpenResult> cases[] = {
+        {"a folder", home / "folder", OpenResult::Refused},
+        {"a pipe, which must not block", home / "pipe", OpenResult::Refused},
+        {"a device", "/dev/null", OpenResult::Refused},
+        {"below a plain file", home / "plain" / "brinto.db", OpenResult::Unavailable},
+        {"in a missing folder", home / "missing" / "brinto.db", OpenResult::Unavailable},
+        {"locked beyond the wait", home / "locked.db", OpenResult::Busy},
+    };
+    // Another program holds the file locked: it can be neither read nor written.
+    sqlite3* holder = nullptr;
+    ASSERT_EQ(sqlite3_open((home / "locked.db").c_str(), &holder), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(holder, "PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE; DELETE FROM BrintoConfig;",
+                           nullptr, nullptr, nullptr),
+              SQLITE_OK);
+    const std::string before = Snapshot(home.path());
+    for (const auto& [name, path, result] : cases) {
+        SCOPED_TRACE(name);
+        RecordStore store;
+        std::string warning;
+        EXPECT_EQ(OpenStateFile(store, path, warning), result);
+        EXPECT_FALSE(store.IsOpen());
+        EXPECT_NE(warning.find("nothing will be saved"), std::string::npos) << warning;
+        EXPECT_EQ(warning.find('\n'), std::string::npos);
+        EXPECT_EQ(Snapshot(home.path()), before);
+    }
+    EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
+    sqlite3_exec(holder, "ROLLBACK", nullptr, nullptr, nullptr);
+    sqlite3_close(holder);
+    EXPECT_EQ(LoadedStamp(home / "locked.db"), 5u);
+}
+
+// Another program's write holds the file beyond the wait: the save changes nothing, and the
+// records stay marked, so the next save writes them.
+TEST(StateFile, ASaveThatMeetsALockChangesNothingAndIsTriedAgain) {
+    TempFolder home;
+    const auto path = home / "brinto.db";
+    SaveStamped(path, 3);
     RecordStore store;
-    std::string warning;
-    EXPECT_EQ(OpenStateFile(store, home / "file" / "brinto.db", warning), OpenResult::Unavailable);
-    EXPECT_NE(warning.find("nothing will be saved"), std::string::npos) << warning;
+    ASSERT_EQ(store.Open(path), OpenResult::Opened);
     Engine e;
     UserKeyMap keys{};
-    EXPECT_FALSE(LoadState(e, keys, store));
-    EXPECT_FALSE(SaveAll(e, keys, store));
-    // A failed save is not retried: its flags are cleared all the same.
-    EXPECT_FALSE(e.dirty.preferences || e.dirty.registers || e.dirty.userKeys || e.dirty.macro ||
-                 e.dirty.state);
-    EXPECT_EQ(ReadFile(home / "file"), "x");
+    LoadState(e, keys, store);
+    StampRecords(e, keys, 4);
+    e.dirty = {true, true, true, true, true};
+    sqlite3* holder = nullptr;
+    ASSERT_EQ(sqlite3_open(path.c_str(), &holder), SQLITE_OK);
+    ASSERT_EQ(sqlite3_exec(holder, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+    EXPECT_FALSE(SaveState(e, keys, store));
+    EXPECT_TRUE(e.dirty.preferences && e.dirty.registers && e.dirty.userKeys && e.dirty.macro);
+    EXPECT_EQ(LoadedStamp(path), 3u);
+    sqlite3_exec(holder, "ROLLBACK", nullptr, nullptr, nullptr);
+    sqlite3_close(holder);
+    EXPECT_TRUE(SaveState(e, keys, store));
+    EXPECT_EQ(LoadedStamp(path), 4u);
+}
+
+// A file the user may not read is trouble too. Mode bits do not stop root, so as root the check
+// runs in a child that has given up its rights.
+TEST(StateFile, AFileThatMayNotBeReadIsNotDamaged) {
+    TempFolder home;
+    SaveStamped(home / "brinto.db", 9);
+    std::filesystem::permissions(home.path(), std::filesystem::perms(0755));
+    std::filesystem::permissions(home / "brinto.db", std::filesystem::perms::none);
+    const std::string before = Snapshot(home.path());
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        if (geteuid() == 0 && (setgid(65534) != 0 || setuid(65534) != 0)) _exit(2);
+        RecordStore store;
+        std::string warning;
+        const OpenResult result = OpenStateFile(store, home / "brinto.db", warning);
+        _exit(result == OpenResult::Unavailable && !store.IsOpen() ? 0 : 1);
+    }
+    int status = 0;
+    ASSERT_EQ(waitpid(child, &status, 0), child);
+    if (WIFEXITED(status) && WEXITSTATUS(status) == 2) GTEST_SKIP() << "cannot give up root's rights here";
+    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+    EXPECT_EQ(Snapshot(home.path()), before);
+    std::filesystem::permissions(home / "brinto.db", std::filesystem::perms(0600));
+    EXPECT_EQ(LoadedStamp(home / "brinto.db"), 9u);
 }
 
 TEST(StateFile, LocationsFollowTheXdgVariables) {
@@ -166,20 +270,6 @@ constexpr int kKills = 120;
 #else
 constexpr int kKills = 300;
 #endif
-
-// Loads the file the way the program does at start-up: the stamp every record carries, or nothing
-// when they disagree.
-std::optional<u32> LoadedStamp(const std::filesystem::path& path) {
-    RecordStore store;
-    EXPECT_EQ(store.Open(path), OpenResult::Opened);
-    Engine e;
-    UserKeyMap keys{};
-    LoadState(e, keys, store);
-    const u32 s = e.state.randomSeed;
-    const bool same = e.prefs.words[1] == static_cast<u16>(s) && e.macro.macroKeys[kMacroSlots - 1] == FunctionIdFrom(s) &&
-                      e.registers.values[kRegisterCount - 1] == s && keys.keys[23] == FunctionIdFrom(s);
-    return same ? std::optional<u32>(s) : std::nullopt;
-}
 
 // The child's work: load, then save ever newer stamps until killed (or `saves` are done),
 // reporting on `report` that it has loaded (0) and then each stamp once its save is in the file.

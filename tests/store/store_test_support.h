@@ -1,6 +1,6 @@
 #pragma once
-// Helpers for the store tests: a temporary folder that cleans up after itself, whole-file reads
-// and writes, plain SQL on a file, and a save of every record.
+// Helpers for the store tests: plain SQL on a file, a save of every record, and a store open on a
+// fresh file.
 #include <gtest/gtest.h>
 #include <sqlite3.h>
 
@@ -14,48 +14,9 @@
 #include <vector>
 
 #include "store/state_io.h"
+#include "temp_folder.h"
 
 namespace brinto::test {
-
-class TempFolder {
-public:
-    TempFolder() {
-        std::string pattern = (std::filesystem::temp_directory_path() / "brinto-store-XXXXXX").string();
-        if (mkdtemp(pattern.data()) == nullptr) ADD_FAILURE() << "cannot make a temporary folder";
-        m_path = pattern;
-    }
-    ~TempFolder() {
-        std::error_code ec;
-        std::filesystem::remove_all(m_path, ec);
-    }
-    TempFolder(const TempFolder&) = delete;
-    TempFolder& operator=(const TempFolder&) = delete;
-
-    const std::filesystem::path& path() const { return m_path; }
-    std::filesystem::path operator/(const std::string& name) const { return m_path / name; }
-    // Names of the entries in the folder, sorted.
-    std::vector<std::string> Entries() const {
-        std::vector<std::string> names;
-        std::error_code ec;
-        for (const auto& entry : std::filesystem::directory_iterator(m_path, ec)) {
-            names.push_back(entry.path().filename().string());
-        }
-        std::sort(names.begin(), names.end());
-        return names;
-    }
-
-private:
-    std::filesystem::path m_path;
-};
-
-inline void WriteFile(const std::filesystem::path& path, const std::string& bytes) {
-    std::ofstream(path, std::ios::binary | std::ios::trunc) << bytes;
-}
-
-inline std::string ReadFile(const std::filesystem::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
 
 // Runs SQL statements on a file with plain SQLite; returns the first column of the first row.
 inline std::string Sql(const std::filesystem::path& path, const std::string& sql) {

@@ -1,4 +1,4 @@
-#include "ops/date_fields.h"
+#include "engine/numeric/date_fields.h"
 
 #include <algorithm>
 #include <cstdint>

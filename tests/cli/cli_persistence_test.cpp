@@ -1,11 +1,15 @@
 // brinto-cli keeps its calculator in the database file between runs: --db, the default file under
 // the XDG folders, --memory, --import-legacy, and damaged files. Every run gets its own temporary
 // home and XDG folders, so the real home directory is never touched.
+#include <sys/stat.h>
 #include <sys/wait.h>
 
 #include <algorithm>
+#include <sstream>
 
-#include "store_test_support.h"
+#include "cli/cli.h"
+
+#include "temp_folder.h"
 
 namespace brinto::test {
 namespace {
@@ -22,9 +26,10 @@ const std::string kRpnPrefs = "\"prefs\":[7,0,33,0,0,0,0]";  // RPN, stack depth
 
 class CliPersistence : public ::testing::Test {
 protected:
-    // Runs brinto-cli with `args` in the scratch world, on an empty standard input.
-    CliRun Cli(const std::vector<std::string>& args) const {
-        std::string command = "HOME='" + (folder / "home").string() + "' XDG_DATA_HOME='" +
+    // Runs brinto-cli with `args` in the scratch world, on an empty standard input; `limits` are
+    // shell commands run first (a ulimit).
+    CliRun Cli(const std::vector<std::string>& args, const std::string& limits = "") const {
+        std::string command = limits + "HOME='" + (folder / "home").string() + "' XDG_DATA_HOME='" +
                               (folder / "data").string() + "' XDG_CONFIG_HOME='" +
                               (folder / "config").string() + "' '" BRINTO_CLI_PATH "'";
         for (const std::string& arg : args) command += " '" + arg + "'";
@@ -108,6 +113,49 @@ TEST_F(CliPersistence, ADamagedFileIsKeptAsideWithOneWarning) {
     EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
     EXPECT_NE(run.err.find(".damaged-"), std::string::npos) << run.err;
     EXPECT_EQ(Cli({"--db", Db(), "1", "="}).out, "7.\n");
+}
+
+// A --db that names no regular file, or a file that cannot be read or written, is trouble: the
+// run goes on in memory, one line says so, the exit status is 1, and nothing is touched.
+TEST_F(CliPersistence, TroubleSaysOneLineExitsOneAndTouchesNothing) {
+    std::filesystem::create_directories(folder / "folder");
+    WriteFile(folder / "folder" / "keep", "the user's file");
+    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+    Cli({"--db", Db(), "9", "+"});
+    const std::tuple<const char*, std::string, std::string> cases[] = {  // name, --db, shell limits
+        {"a folder", (folder / "folder").string(), ""},
+        {"a pipe", (folder / "pipe").string(), ""},
+        {"a device", "/dev/null", ""},
+        {"a missing folder", (folder / "none" / "calc.db").string(), ""},
+        {"a full disk", Db(), "ulimit -f 1; "},
+    };
+    for (const auto& [name, db, limits] : cases) {
+        SCOPED_TRACE(name);
+        const std::string before = ReadFile(Db()) + ReadFile(folder / "folder" / "keep");
+        const CliRun run = Cli({"--db", db, "6", "+"}, limits);
+        EXPECT_EQ(run.status, 1);
+        EXPECT_EQ(run.out, "6.\n");
+        EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
+        EXPECT_NE(run.err.find("nothing will be saved"), std::string::npos) << run.err;
+        EXPECT_TRUE(ReadFile(Db()) + ReadFile(folder / "folder" / "keep") == before);
+    }
+    EXPECT_TRUE(std::filesystem::is_fifo(folder / "pipe"));
+    EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
+    EXPECT_EQ(Cli({"--db", Db(), "1", "="}).out, "10.\n");
+}
+
+// --pref holds for the run in both modes; the saved preferences keep what they were.
+TEST_F(CliPersistence, GivenPreferencesAreNotSavedInEitherMode) {
+    for (const bool interactive : {false, true}) {
+        SCOPED_TRACE(interactive ? "interactive" : "script");
+        const std::string db = Db() + (interactive ? "i" : "s");
+        std::istringstream in("1 +\n");
+        std::ostringstream out, err;
+        const std::vector<std::string> args = {"--db", db, "--pref", "6=1"};
+        EXPECT_EQ(brinto::RunCli(args, in, interactive, out, err), 0) << err.str();
+        const std::string saved = Cli({"--db", db, "--json"}).out;
+        EXPECT_NE(saved.find("\"prefs\":[7,0,656,2,0,0,0]"), std::string::npos) << saved.substr(0, 80);
+    }
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "ops/integer_format.h"
+#include "engine/numeric/integer_format.h"
 
 #include <cmath>
 

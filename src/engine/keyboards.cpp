@@ -1,4 +1,4 @@
-#include "session/keyboards.h"
+#include "engine/keyboards.h"
 
 namespace brinto {
 
