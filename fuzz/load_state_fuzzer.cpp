@@ -42,7 +42,11 @@ bool SameCalculator(const Engine& a, const UserKeyMap& aKeys, const Engine& b, c
 
 // Keys that read every part of the loaded state: the stack, the pending operators, the registers
 // and the macro, and undo of what they did.
-constexpr FunctionId kProbeKeys[] = {fid::Digit1, fid::Enter, fid::Add, fid::Equals, fid::CloseParen, fid::RollDown, fid::RollUp, fid::Recall, fid::Digit7, fid::MacroPlay, fid::MacroPause, fid::MacroPlay, fid::MacroStop, fid::Backspace, fid::LastX, fid::Amortize, fid::SigmaPlus, fid::Npv, fid::Irr};
+constexpr FunctionId kProbeKeys[] = {fid::Digit1,     fid::Enter,     fid::Add,        fid::Equals,
+                                     fid::CloseParen, fid::RollDown,  fid::RollUp,     fid::Recall,
+                                     fid::Digit7,     fid::MacroPlay, fid::MacroPause, fid::MacroPlay,
+                                     fid::MacroStop,  fid::Backspace, fid::LastX,      fid::Amortize,
+                                     fid::SigmaPlus,  fid::Npv,       fid::Irr};
 
 }  // namespace
 

@@ -176,6 +176,19 @@ consteval bool UniqueLabelCodes(const auto& table) {
 static_assert(kLabelTable.size() == 146, "the label table has 146 rows");
 static_assert(UniqueLabelCodes(kLabelTable), "a label code appears twice");
 
+// Every tag with a category is shown with its label.
+consteval bool EveryCategorisedTagHasALabel() {
+    for (const CategoryRun& run : kCategoryRuns) {
+        for (u32 n = ToNumber(run.first); n <= ToNumber(run.last); ++n) {
+            bool found = false;
+            for (const LabelRow& row : kLabelTable) found = found || ToNumber(row.tag) == n;
+            if (!found) return false;
+        }
+    }
+    return true;
+}
+static_assert(EveryCategorisedTagHasALabel(), "a unit, duration, date or format tag has no label");
+
 // The label text of a tag; empty when the tag has no label.
 std::string_view LabelText(ValueTag tag);
 

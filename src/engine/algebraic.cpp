@@ -71,13 +71,13 @@ void EvaluatePending(Engine& e, PendingScope scope) {
     }
 }
 
-u32 OpenParen(Engine& e) {
+bool OpenParen(Engine& e) {
     if (!e.LiftEnabled()) {
-        if (!e.PushPending(fid::OpenParen)) return 0;
+        if (!e.PushPending(fid::OpenParen)) return false;
         e.DisableLift();
     }
     ++e.state.parenDepth;
-    return 1;
+    return true;
 }
 
 void CloseParen(Engine& e) {

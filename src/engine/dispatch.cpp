@@ -42,12 +42,12 @@ void SetBase(CalcState& s, u16 base) {
 
 // What a built-in key did, for the steps after it.
 struct Outcome {
-    u32 accepted = 1;
+    bool accepted = true;
     FunctionId actedAs;     // the key whose after-steps apply (backspace can act as clear X, drop or hyp)
     bool endsEntry = false; // change sign outside an entry ends it, although it is an entry key
 };
 
-u32 Digit(Engine& e, FunctionId id) {
+bool Digit(Engine& e, FunctionId id) {
     const u16 base = e.EntryBase();
     // A digit the base cannot hold switches the entry to decimal.
     const int digit = DigitValue(id);
@@ -56,14 +56,14 @@ u32 Digit(Engine& e, FunctionId id) {
     return EditEntry(e, id);
 }
 
-u32 HexDigit(Engine& e, FunctionId id) {
+bool HexDigit(Engine& e, FunctionId id) {
     // A decimal number already holding a point or an exponent has no hexadecimal reading, so a
     // letter cannot switch it to hexadecimal: the key is refused and the number stays as typed.
     const bool decimalOnly = e.EntryOpen() && e.EntryBase() == 0 &&
                              (std::strchr(e.state.entryText, '.') || std::strchr(e.state.entryText, 'e'));
-    if (decimalOnly) return 0;
+    if (decimalOnly) return false;
     if (e.IntegerEntryAllowed()) SetBase(e.state, status::BaseHex);
-    if (e.EntryBase() != status::BaseHex) return 0;
+    if (e.EntryBase() != status::BaseHex) return false;
     return EditEntry(e, id);
 }
 
@@ -137,7 +137,7 @@ void ClearAndShow(Engine& e, void (*clear)(Engine&), int registerNumber, ValueTa
 
 Outcome HandleBuiltIn(Engine& e, FunctionId id) {
     CalcState& s = e.state;
-    Outcome out{1, id, false};
+    Outcome out{true, id, false};
     switch (id) {
         case fid::Digit0: case fid::Digit1: case fid::Digit2: case fid::Digit3: case fid::Digit4:
         case fid::Digit5: case fid::Digit6: case fid::Digit7: case fid::Digit8: case fid::Digit9:
@@ -147,7 +147,7 @@ Outcome HandleBuiltIn(Engine& e, FunctionId id) {
             out.accepted = HexDigit(e, id);
             break;
         case fid::Point: case fid::Point2: case fid::Exponent:
-            out.accepted = e.EntryBase() == 0 ? EditEntry(e, id) : 0;
+            out.accepted = e.EntryBase() == 0 && EditEntry(e, id);
             break;
         case fid::ChangeSign:
         case fid::IntegerNegate:
@@ -160,7 +160,7 @@ Outcome HandleBuiltIn(Engine& e, FunctionId id) {
             break;
         case fid::Backspace:
             if (s.status & status::Hyperbolic) {
-                out.accepted = 0;
+                out.accepted = false;
                 out.actedAs = fid::Hyperbolic;  // the prefix is cancelled by the toggle below
             } else if (e.EntryOpen()) {
                 out.accepted = EditEntry(e, id);
@@ -173,7 +173,7 @@ Outcome HandleBuiltIn(Engine& e, FunctionId id) {
             }
             break;
         case fid::Enter:
-            if (!e.IsRpn() && s.pendingCount >= kMaxPending) return {0, id, false};
+            if (!e.IsRpn() && s.pendingCount >= kMaxPending) return {false, id, false};
             e.Lift();
             e.DisableLift();
             if (!e.IsRpn()) e.PushPending(fid::Enter);
@@ -215,14 +215,14 @@ Outcome HandleBuiltIn(Engine& e, FunctionId id) {
         case fid::MacroPlay: MacroPlay(e); break;
         case fid::MacroPause: MacroPause(e); break;
         case fid::MacroStop: MacroStop(e); break;
-        default: out.accepted = 0; break;
+        default: out.accepted = false; break;
     }
     return out;
 }
 
 // Ends or keeps the entry and resolves the lift bits after a key.
-u32 EndKey(Engine& e, FunctionId id, const Outcome& out) {
-    u32 accepted = out.accepted;
+bool EndKey(Engine& e, FunctionId id, const Outcome& out) {
+    bool accepted = out.accepted;
     CalcState& s = e.state;
     if (s.pendingArgument != kNoPendingArgument) {
         s.status |= status::KeepEntry;
@@ -233,7 +233,7 @@ u32 EndKey(Engine& e, FunctionId id, const Outcome& out) {
     s.status &= static_cast<u16>(~(status::Entry | status::KeepEntry));
     if (out.actedAs == fid::Hyperbolic) {
         s.status ^= status::Hyperbolic;
-        accepted = 1;
+        accepted = true;
     } else {
         s.status &= static_cast<u16>(~status::Hyperbolic);
     }
@@ -344,7 +344,7 @@ bool HandleScientificFamily(Engine& e, FunctionId id) {
            HandleIntegerKey(e, id);
 }
 
-u32 Engine::Dispatch(FunctionId id) {
+bool Engine::Dispatch(FunctionId id) {
     if (id == fid::Enter2) id = fid::Enter;
     CalcState& s = state;
     const bool shiftKey = IsShiftKey(id);
@@ -353,7 +353,7 @@ u32 Engine::Dispatch(FunctionId id) {
     if ((s.status & status::BaseMask) && !IntegerEntryAllowed()) SetBase(s, 0);
     const bool entryWasOpen = EntryOpen();
 
-    Outcome out{0, id, false};
+    Outcome out{false, id, false};
     bool taken = false;
     for (const Family& family : kFamilies) {
         taken = family.handle(*this, id);
@@ -362,21 +362,21 @@ u32 Engine::Dispatch(FunctionId id) {
         break;
     }
     if (taken) {
-        out.accepted = 1;
+        out.accepted = true;
         dirty.state = true;
     } else {
         out = HandleBuiltIn(*this, id);
         if (out.accepted) dirty.state = true;
     }
 
-    u32 accepted = EndKey(*this, id, out);
+    bool accepted = EndKey(*this, id, out);
     if (accepted && !(s.viewFlags & view::ShiftHeld) && !shiftKey) {
         if ((s.status & status::FirstShift) || (s.viewFlags & view::SecondShift)) RequestRedraw();
         s.status &= static_cast<u16>(~status::FirstShift);
         s.viewFlags &= static_cast<u16>(~view::SecondShift);
     }
     if ((s.engineFlags & flags::Recording) && !(s.engineFlags & flags::Playing) && !IsMacroKey(id)) {
-        if (!MacroRecordKey(*this, id)) accepted = 0;
+        if (!MacroRecordKey(*this, id)) accepted = false;
     }
     if (accepted && !shiftKey && !PrefixPending(s) && !(s.engineFlags & flags::UndoSuspended) &&
         !(entryWasOpen && EntryOpen())) {

@@ -43,8 +43,8 @@ public:
     const Platform& platform() const { return *m_platform; }
     void SetPlatform(const Platform* platform);
 
-    // Nonzero when the key was accepted.
-    u32 Dispatch(FunctionId id);
+    // True when the key was accepted.
+    bool Dispatch(FunctionId id);
 
     // The reset values of each record. ResetState keeps nothing of the old CalcState but the
     // method bits derived from Preferences.

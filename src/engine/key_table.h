@@ -269,6 +269,21 @@ consteval bool AscendingUnique(const auto& table) {
 }
 static_assert(AscendingUnique(kKeyTable), "key table out of order or duplicated");
 
+// Names are looked up ignoring case, so no two may differ by case alone.
+consteval bool NamesUniqueIgnoringCase(const auto& table) {
+    const auto lower = [](char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; };
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        for (std::size_t j = i + 1; j < table.size(); ++j) {
+            const std::string_view a = table[i].name, b = table[j].name;
+            bool same = a.size() == b.size();
+            for (std::size_t k = 0; same && k < a.size(); ++k) same = lower(a[k]) == lower(b[k]);
+            if (same || a.empty()) return false;
+        }
+    }
+    return true;
+}
+static_assert(NamesUniqueIgnoringCase(kKeyTable), "two keys share a name");
+
 // The key of a name, ignoring case.
 std::optional<FunctionId> KeyByName(std::string_view name);
 

@@ -6,8 +6,8 @@
 
 namespace brinto {
 
-// Appends a key to the macro being recorded; 0 when it is full (recording then stops).
-u32 MacroRecordKey(Engine& e, FunctionId id);
+// Appends a key to the macro being recorded; false when it is full (recording then stops).
+bool MacroRecordKey(Engine& e, FunctionId id);
 void MacroStartRecording(Engine& e);
 void MacroPlay(Engine& e);
 void MacroPause(Engine& e);

@@ -1,6 +1,8 @@
 #pragma once
 // Every value tag by name, and the category that decides which conversions and displays apply
 // to a tag. The numbers are saved with the stack and the registers, so they never change.
+#include <array>
+
 #include "engine/types.h"
 
 namespace brinto {
@@ -192,10 +194,48 @@ enum class Category : u8 {
     Calendar,  // date, time, date and time
 };
 
-Category TagCategory(ValueTag tag);
+struct CategoryRun {
+    ValueTag first;
+    ValueTag last;
+    Category category;
+};
+// Runs of tags with a category; every tag outside them has none.
+inline constexpr std::array kCategoryRuns = {
+    CategoryRun{ValueTag::Hms, ValueTag::Hms, Category::Duration},
+    CategoryRun{ValueTag::Date, ValueTag::DateTime, Category::Calendar},
+    CategoryRun{ValueTag::Years, ValueTag::Frames, Category::Duration},
+    CategoryRun{ValueTag::Inches, ValueTag::Meters, Category::Length},
+    CategoryRun{ValueTag::Pounds, ValueTag::Grams, Category::Mass},
+    CategoryRun{ValueTag::InchesPerSecond, ValueTag::CentimetersPerSecond, Category::Speed},
+    CategoryRun{ValueTag::SquareInches, ValueTag::SquareMeters, Category::Area},
+    CategoryRun{ValueTag::Gallons, ValueTag::FluidOunces, Category::Volume},
+    CategoryRun{ValueTag::DegC, ValueTag::DegF, Category::Temperature},
+    CategoryRun{ValueTag::U8, ValueTag::S32, Category::IntegerFormat},
+    CategoryRun{ValueTag::Centimeters, ValueTag::NauticalMiles, Category::Length},
+    CategoryRun{ValueTag::SquareMillimeters, ValueTag::Acres, Category::Area},
+    CategoryRun{ValueTag::Tons, ValueTag::Milligrams, Category::Mass},
+    CategoryRun{ValueTag::Knots, ValueTag::Knots, Category::Speed},
+    CategoryRun{ValueTag::CubicMeters, ValueTag::FluidOuncesUk, Category::Volume},
+};
+
+consteval bool RunsAscendAndDoNotOverlap() {
+    for (std::size_t i = 0; i < kCategoryRuns.size(); ++i) {
+        if (kCategoryRuns[i].last < kCategoryRuns[i].first) return false;
+        if (i > 0 && !(kCategoryRuns[i - 1].last < kCategoryRuns[i].first)) return false;
+    }
+    return true;
+}
+static_assert(RunsAscendAndDoNotOverlap(), "tag category runs overlap or are out of order");
+
+constexpr Category TagCategory(ValueTag tag) {
+    for (const CategoryRun& run : kCategoryRuns) {
+        if (tag >= run.first && tag <= run.last) return run.category;
+    }
+    return Category::None;
+}
 
 // A value that carries a unit, a duration, a date or an integer format.
-inline bool HasCategory(ValueTag tag) { return TagCategory(tag) != Category::None; }
+constexpr bool HasCategory(ValueTag tag) { return TagCategory(tag) != Category::None; }
 
 }  // namespace brinto
 

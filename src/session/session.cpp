@@ -16,7 +16,7 @@ Session::Session(Engine& engine, Host& host) : m_engine(engine), m_host(host) { 
 
 bool Session::Execute(FunctionId id) {
     const bool wasRecording = m_engine.state.engineFlags & flags::Recording;
-    const bool accepted = m_engine.Dispatch(id) != 0;
+    const bool accepted = m_engine.Dispatch(id);
     if (id == fid::MacroPlay && m_engine.macro.macroLength < 3 &&
         !(m_engine.state.engineFlags & flags::Playing)) {
         m_host.ShowMessage(message::NoMacroCaption, message::NoMacroText);
@@ -155,11 +155,11 @@ void Session::AfterRestore() {
 
 // Undo and redo are commands, not keys: the last-key words keep what the user last pressed, so
 // "Repeat last key" still repeats it.
-bool Session::Restore(bool undo) {
+bool Session::Restore(HistoryStep step) {
     CalcState& s = m_engine.state;
     const FunctionId lastKey = s.lastKey, lastCommand = s.lastCommand;
     const bool keepShift = m_engine.prefs.StickyShift();
-    const bool restored = undo ? m_engine.history.Undo(m_engine.Records(), keepShift)
+    const bool restored = step == HistoryStep::Undo ? m_engine.history.Undo(m_engine.Records(), keepShift)
                                : m_engine.history.Redo(m_engine.Records(), keepShift);
     if (!restored) return false;
     s.lastKey = lastKey;
@@ -169,11 +169,11 @@ bool Session::Restore(bool undo) {
 }
 
 void Session::Undo() {
-    if (!Restore(true)) m_host.ShowMessage(message::NothingToUndoCaption, message::NothingToUndoText);
+    if (!Restore(HistoryStep::Undo)) m_host.ShowMessage(message::NothingToUndoCaption, message::NothingToUndoText);
 }
 
 void Session::Redo() {
-    if (!Restore(false)) m_host.ShowMessage(message::NothingToRedoCaption, message::NothingToRedoText);
+    if (!Restore(HistoryStep::Redo)) m_host.ShowMessage(message::NothingToRedoCaption, message::NothingToRedoText);
 }
 
 void Session::Copy() {
