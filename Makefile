@@ -1,4 +1,4 @@
-# Brinto: `make run` starts the calculator, `make test` builds and runs every test.
+# Brinto: `make run` starts the calculator (`make run-cli` the headless one), `make test` builds and runs every test.
 JOBS ?= $(shell nproc)
 CMAKE_FLAGS ?=
 # Fuzzing: seconds per target for `make fuzz`, targets run at once, and clang's packages.
@@ -7,9 +7,9 @@ FUZZ_JOBS ?= 2
 FUZZ_CXX ?= clang++-14
 FUZZ_PACKAGES = clang-14 libclang-rt-14-dev libfuzzer-14-dev
 FUZZ_CMAKE = cmake -S . -B build-fuzz -DCMAKE_CXX_COMPILER=$(FUZZ_CXX) -DCMAKE_BUILD_TYPE=RelWithDebInfo \
-	-DBRINTO_TESTS=OFF -DBRINTO_FUZZ=ON $(CMAKE_FLAGS)
+	-DBRINTO_TESTS=OFF -DBRINTO_APP=OFF -DBRINTO_FUZZ=ON $(CMAKE_FLAGS)
 
-.PHONY: all deps build run guide test test-release test-sanitize bench clean fuzz-deps fuzz-build test-fuzz fuzz fuzz-coverage
+.PHONY: all deps build run run-cli guide test test-release test-sanitize bench clean fuzz-deps fuzz-build test-fuzz fuzz fuzz-coverage
 
 all: build
 
@@ -20,7 +20,15 @@ build: deps
 	cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
 	cmake --build build -j $(JOBS)
 
-run: build
+# Only the program and what it links, not the tests.
+run: deps
+	cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
+	cmake --build build -j $(JOBS) --target brinto
+	./build/brinto
+
+run-cli: deps
+	cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
+	cmake --build build -j $(JOBS) --target brinto-cli
 	./build/brinto-cli
 
 # Rewrites the generated sections of the user guide (keyboards, keyboard keys, constants, appearance).
@@ -42,9 +50,10 @@ test-sanitize:
 	  ctest --test-dir build-asan --output-on-failure -j $(JOBS)
 
 bench: deps
-	cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release -DBRINTO_BENCH=ON -DBRINTO_TESTS=OFF $(CMAKE_FLAGS)
+	cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release -DBRINTO_BENCH=ON -DBRINTO_TESTS=OFF -DBRINTO_APP=OFF $(CMAKE_FLAGS)
 	cmake --build build-bench -j $(JOBS)
 	./build-bench/brinto_bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true
+	./build-bench/app_bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true
 
 # Every fuzz target for 20 s on its seeds plus new inputs: a regression check, not a search.
 test-fuzz: fuzz-build

@@ -13,6 +13,7 @@
 #include "cli/tokens.h"
 #include "display/display_text.h"
 #include "engine/key_table.h"
+#include "engine/keyboards.h"
 #include "finance/amortization_schedule.h"
 #include "ops/constants.h"
 #include "session/session_store.h"
@@ -55,6 +56,7 @@ struct Options {
     bool json = false;
     bool memory = false;
     bool listKeys = false;
+    bool help = false;
     bool schedule = false;
     std::optional<std::string> db;
     std::optional<std::string> importLegacy;
@@ -88,6 +90,8 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& args, std::s
             o.memory = true;
         } else if (a == "--list-keys") {
             o.listKeys = true;
+        } else if (a == "--help" || a == "-h") {
+            o.help = true;
         } else if (a == "--schedule") {
             o.schedule = true;
         } else if (a == "--db" && hasValue) {
@@ -127,6 +131,47 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& args, std::s
         }
     }
     return o;
+}
+
+// What --help prints: every option and every kind of token, in the README's words, shortened.
+constexpr std::string_view kUsage =
+    "Usage: brinto-cli [OPTIONS] [TOKEN ...]\n"
+    "Runs the tokens left to right and prints X as the display shows it. With no tokens, reads them\n"
+    "from standard input, or is an interactive calculator at a terminal (\"quit\" leaves it).\n"
+    "\n"
+    "Options:\n"
+    "  --json                 after the last token, print the whole state as one JSON object\n"
+    "  --memory               start from the defaults of a first run; read and write no database\n"
+    "  --db PATH              use the database file at PATH instead of the default one\n"
+    "  --import-legacy FILE   first bring in the handheld release's settings from a registry export\n"
+    "  --pref W=V             set preference word W (0..6) to V (decimal or 0x hex) for this run\n"
+    "  --now \"YYYY-MM-DD HH:MM:SS\"  the local date and time that the \"now\" key reads\n"
+    "  --seed N               the stored random seed before the first token\n"
+    "  --schedule             after the last token, print the amortization schedule as CSV\n"
+    "  --list-keys            print every key name with its key code and exit\n"
+    "  -h, --help             print this text and exit\n"
+    "\n"
+    "Tokens:\n"
+    "  #N                     a tap of the key with code N (0..65535), exactly that key\n"
+    "  12  -1.5e-3  .5        a number, typed as keys\n"
+    "  NAME                   the key of that name, any case (enter, +, sin, pv; see --list-keys)\n"
+    "  keys:TEXT              each character of TEXT as a key (keys:2+3*5=)\n"
+    "  kb:N                   select keyboard N:";
+constexpr std::string_view kUsageEnd =
+    "  key:K                  key K (1..12) of the current keyboard's variable block\n"
+    "  undo  redo  copy  cut  the Edit commands\n"
+    "  paste:TEXT             paste TEXT\n"
+    "  basic  advanced        the view commands\n"
+    "  const:N                recall physical constant N (see --list-keys)\n"
+    "\n"
+    "Exit status: 0; 1 when the calculator could not be loaded, saved or imported; 2 for an\n"
+    "unknown option or token (nothing is saved then).\n";
+
+// The keyboards are listed from their own table, so a renamed one cannot go stale here.
+void PrintUsage(std::ostream& out) {
+    out << kUsage;
+    for (int k = 0; k < kKeyboardCount; ++k) out << (k ? ", " : " ") << k << ' ' << kKeyboardNames[k];
+    out << '\n' << kUsageEnd;
 }
 
 std::string Printable(std::string_view text) {
@@ -306,6 +351,10 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
     if (!options) {
         err << "brinto-cli: " << error << '\n';
         return 2;
+    }
+    if (options->help) {
+        PrintUsage(out);
+        return 0;
     }
     if (options->listKeys) {
         for (const KeyInfo& k : kKeyTable) out << k.name << ' ' << ToNumber(k.id) << '\n';

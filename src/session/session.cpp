@@ -323,6 +323,60 @@ bool Session::StoreRegister(int number, double value) {
     return true;
 }
 
+bool Session::StoreRegisters(int first, std::span<const double> values) {
+    const auto count = static_cast<int>(values.size());
+    if (first < 0 || count < 1 || first + count > kRegisterCount) return false;
+    Engine& e = m_engine;
+    if (std::equal(values.begin(), values.end(), e.registers.values + first)) return false;
+    e.history.TakeSnapshot(e.Records());
+    std::copy(values.begin(), values.end(), e.registers.values + first);
+    e.dirty.registers = true;
+    e.history.Commit(e.Records());
+    m_host.Repaint();
+    return true;
+}
+
+bool Session::StoreCashFlow(int entry, double amount, int groupCount) {
+    Engine& e = m_engine;
+    if (entry < 0 || entry > e.registers.cashFlowCount || groupCount < 1) return false;
+    e.history.TakeSnapshot(e.Records());
+    e.registers.values[entry] = amount;
+    e.registers.aux[entry] = static_cast<u32>(groupCount);
+    e.dirty.registers = true;
+    e.history.Commit(e.Records());
+    m_host.Repaint();
+    return true;
+}
+
+bool Session::SetAmortizationRange(int start, int end) {
+    constexpr int kLastPayment = 32767;
+    if (start < 1 || end < 1 || start > kLastPayment || end > kLastPayment) return false;
+    Engine& e = m_engine;
+    e.history.TakeSnapshot(e.Records());
+    e.state.amortStart = static_cast<i16>(start);
+    e.state.amortEnd = static_cast<i16>(end);
+    e.dirty.state = true;
+    e.history.Commit(e.Records());
+    m_host.Repaint();
+    return true;
+}
+
+bool Session::Solve(FunctionId registerKey) {
+    m_engine.FinishEntry();
+    return Execute(registerKey);
+}
+
+bool Session::TapViewKey(FunctionId id) {
+    const bool accepted = Tap(id);
+    if (id != fid::Shift && id != fid::DisplayToggle && (m_engine.state.status & status::FullDisplay)) {
+        m_engine.state.status &= static_cast<u16>(~status::FullDisplay);
+        m_engine.dirty.state = true;
+        m_engine.RequestRedraw();
+        m_host.Repaint();
+    }
+    return accepted;
+}
+
 void Session::SetConstantsTopRow(u16 row) {
     m_engine.state.constantsTopRow = row;
     m_engine.dirty.state = true;

@@ -3,6 +3,7 @@
 // commands into engine work and raises the program's messages through its Host. The desktop
 // program and brinto-cli are thin views over it, so both behave alike.
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -82,6 +83,22 @@ public:
     // A value typed into a register of a dialog (user registers, TVM, cash flows): one undoable
     // step. False for a register number outside 0..123.
     bool StoreRegister(int number, double value);
+    // Consecutive registers from `first` (the duration settings dpy..fps) as one undoable step.
+    // False when they do not all lie within 0..123, or nothing would change.
+    bool StoreRegisters(int first, std::span<const double> values);
+    // A cash-flow entry (0 up to the last one made) edited in a dialog: its amount and group count,
+    // one undoable step. A group count below 1 is refused, so every entry made keeps a count of
+    // at least 1 and the series keeps its length.
+    bool StoreCashFlow(int entry, double amount, int groupCount);
+    // The payments Start and End (1..32767) as the amortization key would keep them; one
+    // undoable step.
+    bool SetAmortizationRange(int start, int end);
+    // A dialog's "Solve" for a TVM register: the register's key computing it from the others, as
+    // the key does when no number is being typed (a number being typed is closed first).
+    bool Solve(FunctionId registerKey);
+    // A key of a dialog's own key row (the "Stack" view): dispatched as Tap; any key but shift and
+    // the display key also ends the one-key full display, as on the main window's keys.
+    bool TapViewKey(FunctionId id);
     // Where the "Constants" list was scrolled to, and the last dialog view shown.
     void SetConstantsTopRow(u16 row);
     void SetLastView(View view);

@@ -25,10 +25,11 @@ constexpr double kDay = 86400, kErr = kErrorValue;
 
 TEST(DateEntry, ReadsYearMonthDayWithItsYearRulesAndTimesAsHoursMinutesSeconds) {
     const FunctionId D = fid::Date, T = fid::Time;
+    // A year before the calendar's first is taken as 1904 with its month and day kept.
     CheckKeys({
         {D, {5.0315, None}, {DateOf(2005, 3, 15), Date}},    {D, {99.1231, None}, {DateOf(1999, 12, 31), Date}},
         {D, {31.0101, None}, {DateOf(2031, 1, 1), Date}},    {D, {32.0101, None}, {DateOf(1932, 1, 1), Date}},
-        {D, {0.0101, None}, {DateOf(2000, 1, 1), Date}},     {D, {1800.0101, None}, {DateOf(1904, 1, 1), Date}},
+        {D, {0.0101, None}, {DateOf(2000, 1, 1), Date}},     {D, {1903.1231, None}, {DateOf(1904, 12, 31), Date}},
         {D, {1904.0101, None}, {0, Date}},                   {D, {2000.0229, None}, {DateOf(2000, 2, 29), Date}},
         {D, {2001.0229, None}, {DateOf(2001, 3, 1), Date}},  {D, {2005.0000, None}, {DateOf(2005, 1, 1), Date}},
         {D, {2004.1301, None}, {DateOf(2005, 1, 1), Date}},  {D, {2031.1231, None}, {DateOf(2031, 12, 31), Date}},

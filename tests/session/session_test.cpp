@@ -310,6 +310,23 @@ TEST(SessionCommands, DialogValuesAreUndoableSteps) {
     EXPECT_TRUE(f.host.messages.empty());
 }
 
+// What the register views cannot send through their widgets is refused here: a group count that
+// would end the series early, an entry not made, registers beyond 123, a payment number below 1.
+TEST(SessionCommands, RegisterViewEditsAreRefusedOutsideTheirRange) {
+    Fixture f;
+    f.Type("1000");
+    f.session.Tap(fid::CashFlow);
+    EXPECT_FALSE(f.session.StoreCashFlow(0, 300.0, 0));
+    EXPECT_FALSE(f.session.StoreCashFlow(1, 5.0, 1));
+    const double durations[] = {360.0, 30.0, 7.0, 24.0, 25.0};
+    EXPECT_FALSE(f.session.StoreRegisters(reg::FramesPerSecond, durations));
+    EXPECT_FALSE(f.session.SetAmortizationRange(0, 12));
+    EXPECT_EQ(std::pair(f.engine.registers.aux[0], f.engine.state.amortStart), std::pair(1u, i16{0}));
+    f.engine.state.status |= status::FullDisplay;
+    f.session.TapViewKey(fid::Swap);
+    EXPECT_FALSE(f.engine.state.status & status::FullDisplay);
+}
+
 TEST(SessionCommands, OpenLastFormOpensTheRememberedView) {
     Fixture f;
     f.engine.prefs.SetAction(ActionChoice::OpenLastForm);

@@ -1,0 +1,56 @@
+// A tap on a drawn key to the repainted display and keys, on Qt's offscreen platform.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QTest>
+
+#include "app/calculator.h"
+#include "app/main_window.h"
+#include "app/window_host.h"
+
+namespace brinto {
+namespace {
+
+class QuietHost : public WindowHost {
+public:
+    QuietHost() { askInputMethod = false; }
+    void ShowMessage(std::string_view, std::string_view) override {}
+    bool Confirm(std::string_view, std::string_view) override { return true; }
+};
+
+void TapToRepaint(benchmark::State& state) {
+    QuietHost host;
+    Calculator calculator(host);
+    calculator.Start(AppOptions{std::nullopt, true, {}});
+    MainWindow window(calculator.session);
+    host.window = &window;
+    window.resize(360, 480);
+    window.show();
+    KeyView* keys = window.keyboardView();
+    int seven = 0;
+    while (keys->ActiveId(seven) != 7) ++seven;
+    const QPoint at = keys->CellRect(seven).center();
+    // Both views are painted into images of their size, as a repaint paints the backing store.
+    QImage displayImage(window.display()->size(), QImage::Format_ARGB32_Premultiplied);
+    QImage keysImage(keys->size(), QImage::Format_ARGB32_Premultiplied);
+    for (auto _ : state) {
+        QTest::mouseClick(keys, Qt::LeftButton, {}, at);
+        window.display()->render(&displayImage);
+        keys->render(&keysImage);
+        // Keep the number short so every tap does the same work.
+        if (calculator.engine.state.entryDigits > 8) calculator.session.Tap(fid::ClearX);
+    }
+}
+BENCHMARK(TapToRepaint)->Unit(benchmark::kMicrosecond);
+
+}  // namespace
+}  // namespace brinto
+
+int main(int argc, char** argv) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication::setDesktopSettingsAware(false);
+    QApplication app(argc, argv);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

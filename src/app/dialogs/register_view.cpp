@@ -1,0 +1,186 @@
+#include "app/dialogs/register_view.h"
+
+#include <QHeaderView>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+#include <array>
+#include <string_view>
+
+#include "display/labels.h"
+#include "engine/function_ids.h"
+#include "finance/result_labels.h"
+
+namespace brinto::dialogs {
+namespace {
+
+struct RegisterRow {
+    int number;
+    ValueTag labelCode;
+    FunctionId solveKey;  // kNoKey where the register is not computed
+};
+
+constexpr std::array kTvmRows = {
+    RegisterRow{reg::PYr, label::PerYear, kNoKey},     RegisterRow{reg::N, label::Periods, fid::N},
+    RegisterRow{reg::IYr, label::YearlyRate, fid::IYr}, RegisterRow{reg::PV, label::PresentValue, fid::PV},
+    RegisterRow{reg::PMT, label::Payment, fid::PMT},    RegisterRow{reg::FV, label::FutureValue, fid::FV},
+};
+constexpr std::array kStatisticalRows = {
+    RegisterRow{reg::StatN, label::Count, kNoKey},  RegisterRow{reg::SumX, label::SumX, kNoKey},
+    RegisterRow{reg::SumX2, label::SumX2, kNoKey},  RegisterRow{reg::SumY, label::SumY, kNoKey},
+    RegisterRow{reg::SumY2, label::SumY2, kNoKey},  RegisterRow{reg::SumXY, label::SumXY, kNoKey},
+};
+
+struct ListInfo {
+    const char* title;
+    std::string_view anchor;
+};
+constexpr std::array kLists = {
+    ListInfo{"Time Value of Money", "tvm"},     ListInfo{"Amortization", "amortization"},
+    ListInfo{"Statistical Registers", "statistical"}, ListInfo{"Cash Flow Entries", "cashflow"},
+    ListInfo{"User Registers", "userregisters"},
+};
+
+constexpr int kLabelColumn = 0;
+constexpr int kValueColumn = 1;
+constexpr int kExtraColumn = 2;  // Nj of a cash flow, "Solve" of a TVM register, a register's tag
+
+QString Label(ValueTag code) { return ToQString(LabelText(code)); }
+
+}  // namespace
+
+int CashFlowRows(const Engine& e) {
+    int rows = 0;
+    while (rows < kUserRegisters && e.registers.aux[rows] >= 1) ++rows;
+    return rows;
+}
+
+RegisterView::RegisterView(Session& session, RegisterList list, const HelpFunction& help, QWidget* parent)
+    : QDialog(parent), m_session(session), m_list(list), m_table(new QTableWidget(this)) {
+    const ListInfo& info = kLists[static_cast<std::size_t>(list)];
+    setWindowTitle(QString::fromUtf8(info.title));
+    m_table->setColumnCount(list == RegisterList::Statistical || list == RegisterList::Amortization ? 2 : 3);
+    m_table->horizontalHeader()->setVisible(list == RegisterList::CashFlow);
+    if (list == RegisterList::CashFlow) {
+        m_table->setHorizontalHeaderLabels({QString(), QStringLiteral("Amount"), Label(label::GroupCount)});
+    }
+    m_table->verticalHeader()->setVisible(false);
+    m_table->horizontalHeader()->setSectionResizeMode(kValueColumn, QHeaderView::Stretch);
+    auto* column = new QVBoxLayout(this);
+    column->addWidget(m_table);
+    QDialogButtonBox* buttons = MakeButtonRow(this, QDialogButtonBox::Close, info.anchor, help);
+    if (list == RegisterList::Amortization) {
+        QPushButton* schedule = buttons->addButton(QStringLiteral("Schedule..."), QDialogButtonBox::ActionRole);
+        connect(schedule, &QPushButton::clicked, this, &RegisterView::scheduleRequested);
+    }
+    column->addWidget(buttons);
+    connect(m_table, &QTableWidget::cellChanged, this, &RegisterView::Edited);
+    resize(320, 360);
+    Refresh();
+}
+
+std::vector<RegisterView::Row> RegisterView::Rows() const {
+    const Engine& e = m_session.engine();
+    const double* r = e.registers.values;
+    std::vector<Row> rows;
+    const auto registers = [&](auto table, std::size_t count) {
+        for (std::size_t i = 0; i < count; ++i) {
+            const RegisterRow& row = table[i];
+            rows.push_back({Label(row.labelCode), r[row.number], Source::Register, row.number, row.solveKey, 0});
+        }
+    };
+    switch (m_list) {
+        case RegisterList::Tvm: registers(kTvmRows, kTvmRows.size()); break;
+        case RegisterList::Amortization: {
+            registers(kTvmRows, kTvmRows.size() - 1);  // without FV
+            for (Row& row : rows) row.solveKey = kNoKey;
+            const CalcState& s = e.state;
+            rows.push_back({Label(label::Start), double(s.amortStart), Source::AmortStart, 0, kNoKey, 0});
+            rows.push_back({Label(label::End), double(s.amortEnd), Source::AmortEnd, 0, kNoKey, 0});
+            rows.push_back({Label(label::Interest), s.amortInterest, Source::Result, 0, kNoKey, 0});
+            rows.push_back({Label(label::Principal), s.amortPrincipal, Source::Result, 0, kNoKey, 0});
+            rows.push_back({Label(label::Balance), s.amortBalance, Source::Result, 0, kNoKey, 0});
+            break;
+        }
+        case RegisterList::Statistical: registers(kStatisticalRows, kStatisticalRows.size()); break;
+        case RegisterList::CashFlow:
+            for (int j = 0; j < CashFlowRows(e); ++j) {
+                rows.push_back({QStringLiteral("CF%1").arg(j), r[j], Source::CashFlow, j, kNoKey,
+                                static_cast<int>(e.registers.aux[j])});
+            }
+            break;
+        case RegisterList::UserRegisters: {
+            const int count = e.prefs.HundredRegisters() ? kUserRegisters : 10;
+            for (int n = 0; n < count; ++n) {
+                rows.push_back({QStringLiteral("R%1").arg(n), r[n], Source::Register, n, kNoKey, 0});
+            }
+            break;
+        }
+    }
+    return rows;
+}
+
+void RegisterView::Refresh() {
+    const Engine& e = m_session.engine();
+    m_filling = true;
+    m_rows = Rows();
+    m_table->setRowCount(static_cast<int>(m_rows.size()));
+    for (int i = 0; i < static_cast<int>(m_rows.size()); ++i) {
+        const Row& row = m_rows[static_cast<std::size_t>(i)];
+        auto* name = new QTableWidgetItem(row.label);
+        name->setFlags(Qt::ItemIsEnabled);
+        m_table->setItem(i, kLabelColumn, name);
+        auto* value = new QTableWidgetItem(DisplayNumber(e, row.value));
+        value->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        if (row.source == Source::Result) value->setFlags(Qt::ItemIsEnabled);
+        m_table->setItem(i, kValueColumn, value);
+        if (row.source == Source::CashFlow) {
+            m_table->setItem(i, kExtraColumn, new QTableWidgetItem(QString::number(row.groupCount)));
+        } else if (m_list == RegisterList::UserRegisters) {
+            auto* tag = new QTableWidgetItem(row.number < kUserRegisters ? Label(e.registers.tags[row.number]) : QString());
+            tag->setFlags(Qt::ItemIsEnabled);
+            m_table->setItem(i, kExtraColumn, tag);
+        } else if (row.solveKey != kNoKey && !m_table->cellWidget(i, kExtraColumn)) {
+            auto* solve = new QPushButton(QStringLiteral("Solve"));
+            const FunctionId key = row.solveKey;
+            connect(solve, &QPushButton::clicked, this, [this, key] { Solve(key); });
+            m_table->setCellWidget(i, kExtraColumn, solve);
+        }
+    }
+    m_table->resizeColumnToContents(kLabelColumn);
+    m_filling = false;
+}
+
+void RegisterView::Edited(int row, int column) {
+    if (m_filling || row < 0 || row >= static_cast<int>(m_rows.size())) return;
+    const Row& edited = m_rows[static_cast<std::size_t>(row)];
+    const auto number = ReadNumber(m_session.engine(), m_table->item(row, column)->text());
+    bool stored = false;
+    if (number) {
+        switch (edited.source) {
+            case Source::Register: stored = m_session.StoreRegister(edited.number, *number); break;
+            case Source::AmortStart:
+                stored = m_session.SetAmortizationRange(static_cast<int>(*number), m_session.engine().state.amortEnd);
+                break;
+            case Source::AmortEnd:
+                stored = m_session.SetAmortizationRange(m_session.engine().state.amortStart, static_cast<int>(*number));
+                break;
+            case Source::Result: break;
+            case Source::CashFlow:
+                stored = column == kValueColumn
+                             ? m_session.StoreCashFlow(edited.number, *number, edited.groupCount)
+                             : m_session.StoreCashFlow(edited.number, edited.value, static_cast<int>(*number));
+                break;
+        }
+    }
+    Refresh();  // a refused edit shows the register's value again
+    if (stored) emit changed();
+}
+
+void RegisterView::Solve(FunctionId key) {
+    m_session.Solve(key);
+    Refresh();
+    emit changed();
+}
+
+}  // namespace brinto::dialogs

@@ -1,0 +1,171 @@
+#include "app/display_view.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <algorithm>
+
+#include "app/key_view.h"
+#include "display/display_text.h"
+#include "display/labels.h"
+#include "engine/engine.h"
+#include "engine/numeric/integer_format.h"
+#include "session/key_grid.h"
+#include "session/key_legends.h"
+
+namespace brinto {
+
+namespace {
+
+QString Utf8(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
+
+bool IsBasic(const Engine& e) { return e.state.viewFlags & view::ModeMask; }
+
+bool IsLongDate(const Engine& e, ValueTag tag) {
+    return e.prefs.LongDate() && (tag == fid::TagDate || tag == fid::TagDateTime);
+}
+
+}  // namespace
+
+DisplayView::DisplayView(const Engine& engine, QWidget* parent) : QWidget(parent), m_engine(engine) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void DisplayView::SetLook(const ScreenColours& colours, const ThemeSet& themes, const QString& keyboardName) {
+    m_colours = colours;
+    m_lines = DisplayLinesOf(m_engine.prefs, themes);
+    m_fonts = DisplayFontsOf(m_engine.prefs, themes);
+    m_borders = BordersOf(m_engine.prefs, themes);
+    m_keyboardName = keyboardName;
+    update();
+}
+
+int DisplayView::LinesShown() const { return IsBasic(m_engine) ? m_lines.basic : m_lines.advanced; }
+
+QStringList DisplayView::Annunciators() const {
+    const Engine& e = m_engine;
+    QStringList on;
+    if (e.state.status & status::FirstShift) on << QStringLiteral("SHIFT");
+    on << (e.IsRpn() ? QStringLiteral("RPN") : e.IsPrecedence() ? QStringLiteral("PREC") : QStringLiteral("SIMPLE"));
+    const FunctionId pending = e.PendingTop();
+    if (!e.IsRpn() && pending != kNoKey && pending != fid::OpenParen && pending != fid::Enter) {
+        on << LegendText(pending);
+    }
+    switch (e.Angle()) {
+        case AngleUnit::Degrees: on << QStringLiteral("DEG"); break;
+        case AngleUnit::Radians: on << QStringLiteral("RAD"); break;
+        case AngleUnit::Grads: on << QStringLiteral("GRAD"); break;
+    }
+    if (e.state.engineFlags & flags::Begin) on << QStringLiteral("BEGIN");
+    switch (e.EntryBase()) {
+        case status::BaseBinary: on << QStringLiteral("BIN"); break;
+        case status::BaseOctal: on << QStringLiteral("OCT"); break;
+        case status::BaseHex: on << QStringLiteral("HEX"); break;
+        default: break;
+    }
+    if (e.EntryBase() != 0) on << Utf8(LabelText(DefaultIntegerFormatTag(e.prefs)));
+    if (e.state.status & status::Hyperbolic) on << QStringLiteral("HYP");
+    if (e.state.engineFlags & flags::Recording) on << Utf8(LabelText(fid::TagMemory));
+    return on;
+}
+
+QString DisplayView::AccessibleText() const {
+    QStringList parts;
+    for (int level = 0; level < LinesShown(); ++level) {
+        const DisplayLine line = DisplayLevel(m_engine, level);
+        parts << (Utf8(line.text) + (line.label.empty() ? QString() : QStringLiteral(" ") + Utf8(line.label)));
+    }
+    return parts.join(QStringLiteral("; "));
+}
+
+// The five fonts scale with the view from the handheld's 240-pixel screen; "ClearType" lets the
+// text use the screen's subpixels.
+QFont DisplayView::MakeFont(DisplayFont which, int width) const {
+    const FontSpec spec = FontSpecOf(which);
+    QFont f = font();
+    f.setPixelSize(std::max(6, static_cast<int>(std::lround(spec.pixels * GridScale(width)))));
+    f.setBold(spec.bold);
+    f.setStyleStrategy(m_engine.prefs.ClearType() ? QFont::PreferAntialias : QFont::NoSubpixelAntialias);
+    return f;
+}
+
+int DisplayView::PreferredHeight(int width) const {
+    const double scale = GridScale(width);
+    const double value = QFontMetricsF(MakeFont(m_fonts.value, width)).height();
+    const double stack = QFontMetricsF(MakeFont(m_fonts.stack, width)).height();
+    const double label = QFontMetricsF(MakeFont(m_fonts.label, width)).height() * 4 / 5;
+    return static_cast<int>(std::ceil(3 * scale + 5 * scale + label + value + (LinesShown() - 1) * stack + 2));
+}
+
+void DisplayView::paintEvent(QPaintEvent*) {
+    const Engine& e = m_engine;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.fillRect(rect(), ToQColor(m_colours.window));
+
+    const double scale = GridScale(width());
+    QRectF area = rect();
+    const double margin = std::round(3 * scale);
+    area.adjust(margin, margin, -margin, 0);
+    if (m_borders.displayFrame) {
+        painter.setPen(QPen(ToQColor(m_colours.displayFrame), std::max(1.0, std::round(scale))));
+    } else {
+        painter.setPen(Qt::NoPen);
+    }
+    painter.setBrush(ToQColor(m_colours.displayBackground));
+    const double radius = m_borders.displayFrame ? 4 * scale : 0;
+    painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+
+    const QFont valueFont = MakeFont(m_fonts.value, width()), dateFont = MakeFont(m_fonts.date, width());
+    const QFont stackFont = MakeFont(m_fonts.stack, width()), labelFont = MakeFont(m_fonts.label, width());
+
+    const double pad = std::round(5 * scale);
+    QRectF inner = area.adjusted(pad, pad / 2, -pad, -pad / 2);
+
+    // One row of annunciators, smaller than the labels: only the states that are on are drawn.
+    QFont annunciatorFont = labelFont;
+    annunciatorFont.setPixelSize(std::max(6, labelFont.pixelSize() * 4 / 5));
+    painter.setFont(annunciatorFont);
+    const double rowHeight = QFontMetricsF(annunciatorFont).height();
+    const QRectF row(inner.left(), inner.top(), inner.width(), rowHeight);
+    painter.setPen(ToQColor(m_colours.annunciator));
+    painter.drawText(row, Qt::AlignLeft | Qt::AlignVCenter, Annunciators().join(QStringLiteral("  ")));
+    if (!m_keyboardName.isEmpty()) {
+        painter.setPen(ToQColor(m_colours.displayLabel));
+        painter.drawText(row, Qt::AlignRight | Qt::AlignVCenter, m_keyboardName);
+    }
+    inner.setTop(inner.top() + rowHeight);
+
+    // Stack levels from the highest shown down to X at the bottom; a level that does not fit is
+    // left out rather than cut.
+    double bottom = inner.bottom();
+    for (int level = 0; level < LinesShown(); ++level) {
+        const StackEntry entry = e.Level(level);
+        const QFont& font = level > 0 ? stackFont : IsLongDate(e, entry.tag) ? dateFont : valueFont;
+        const double h = QFontMetricsF(font).height();
+        if (bottom - h < inner.top() - 1) break;
+        const QRectF line(inner.left(), bottom - h, inner.width(), h);
+        bottom -= h;
+        const DisplayLine shown = DisplayLevel(e, level);
+        const QString label = Utf8(shown.label);
+        painter.setFont(labelFont);
+        painter.setPen(ToQColor(m_colours.displayLabel));
+        painter.drawText(line, Qt::AlignLeft | Qt::AlignBottom, label);
+        const double labelWidth = label.isEmpty() ? 0 : QFontMetricsF(labelFont).horizontalAdvance(label) + pad;
+        // A value too wide for its line is drawn smaller rather than cut.
+        QFont fitted = font;
+        const QString text = Utf8(shown.text);
+        const double wide = QFontMetricsF(fitted).horizontalAdvance(text);
+        const double room = line.width() - labelWidth;
+        if (wide > room && wide > 0) fitted.setPixelSize(std::max(6, static_cast<int>(fitted.pixelSize() * room / wide)));
+        painter.setFont(fitted);
+        painter.setPen(ToQColor(ValueTextColour(m_colours, entry.tag, entry.value)));
+        painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, text);
+    }
+}
+
+void DisplayView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || !rect().contains(event->position().toPoint())) return;
+    Q_EMIT Tapped(DisplayTapZone(width(), static_cast<int>(event->position().x())));
+}
+
+}  // namespace brinto

@@ -1,0 +1,49 @@
+#pragma once
+// The display: X and further stack levels with their labels, and a row of annunciators. It only
+// reads the engine; a tap on its left, centre or right third is reported for the window to open
+// the view that the "Tap:" preference names.
+#include <QWidget>
+
+#include "engine/preferences.h"
+#include "session/appearance.h"
+#include "session/screen_colours.h"
+
+namespace brinto {
+
+class Engine;
+
+class DisplayView : public QWidget {
+    Q_OBJECT
+public:
+    explicit DisplayView(const Engine& engine, QWidget* parent = nullptr);
+
+    // The theme's colours and what the "Display" preferences mean under it; `keyboardName` is
+    // written in the display when "Show:" puts it there (empty otherwise).
+    void SetLook(const ScreenColours& colours, const ThemeSet& themes, const QString& keyboardName);
+    // The number of stack levels drawn in the current view.
+    int LinesShown() const;
+    // The height that shows every line at this width.
+    int PreferredHeight(int width) const;
+    // The display's text as a screen reader reads it: X, its label, then the other levels.
+    QString AccessibleText() const;
+    // The annunciators that are on, in the order drawn.
+    QStringList Annunciators() const;
+
+Q_SIGNALS:
+    void Tapped(TapArea area);
+
+protected:
+    QFont MakeFont(DisplayFont which, int width) const;
+    void paintEvent(QPaintEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+
+private:
+    const Engine& m_engine;
+    ScreenColours m_colours{};
+    DisplayLines m_lines;
+    DisplayFonts m_fonts{};
+    Borders m_borders;
+    QString m_keyboardName;
+};
+
+}  // namespace brinto

@@ -1,0 +1,61 @@
+#include "app/input_method_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+namespace brinto {
+
+const char* const InputMethodDialog::kText =
+    "Choose an input method to determine how Brinto performs calculations:\n\n- Simple specifies an infix "
+    "order where the operations are performed in the order they are entered, for example, entering 2 + 3 * 5 "
+    "= yields the result of 25\n\n- Precedence also specifies an infix order where binary operations are "
+    "performed before multiplication and division which are performed before addition and subtraction "
+    "reducing the need for using parentheses, for example, 2 + 3 * 5 = yields the result of 17\n\n- RPN "
+    "(Reverse Polish Notation) specifies a postfix order where the operands are entered before the "
+    "operation, for example, 2 Enter 3 + 5 * yields 25 and 2 Enter 3 Enter 5 * + yields 17\n\n- The input "
+    "method can be specified  at any time in the Preferences dialog\n\n- See the Comparison of Input "
+    "Methods section of the User Guide for more details";
+
+InputMethodDialog::InputMethodDialog(QWidget* parent) : QDialog(parent) {
+    setWindowTitle(QStringLiteral("Input Method"));
+    auto* layout = new QVBoxLayout(this);
+    auto* label = new QLabel(QStringLiteral("Input:"), this);
+    layout->addWidget(label);
+    m_list = new QListWidget(this);
+    m_list->addItems({QStringLiteral("Simple"), QStringLiteral("Precedence"), QStringLiteral("RPN")});
+    m_list->setCurrentRow(0);
+    label->setBuddy(m_list);
+    // Three rows, no more: the text below matters as much as the list.
+    m_list->setFixedHeight(m_list->sizeHintForRow(0) * 3 + 2 * m_list->frameWidth() + 2);
+    layout->addWidget(m_list);
+    auto* text = new QLabel(QString::fromUtf8(kText), this);
+    text->setWordWrap(true);
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    text->setAlignment(Qt::AlignTop | Qt::AlignLeft);
+    layout->addWidget(text, 1);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
+    QPushButton* preferences = buttons->addButton(QStringLiteral("Preferences"), QDialogButtonBox::ActionRole);
+    buttons->button(QDialogButtonBox::Ok)->setDefault(true);
+    layout->addWidget(buttons);
+    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    connect(preferences, &QPushButton::clicked, this, [this] {
+        m_preferences = true;
+        accept();
+    });
+    // Return in the list accepts the selection.
+    connect(m_list, &QListWidget::itemActivated, this, &QDialog::accept);
+    resize(320, 440);
+}
+
+InputMethod InputMethodDialog::Chosen() const {
+    switch (m_list->currentRow()) {
+        case 1: return InputMethod::Precedence;
+        case 2: return InputMethod::Rpn;
+        default: return InputMethod::Simple;
+    }
+}
+
+}  // namespace brinto

@@ -1,0 +1,209 @@
+#include "app/key_view.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
+#include <algorithm>
+#include <cmath>
+
+#include "session/key_legends.h"
+
+namespace brinto {
+
+namespace {
+
+QString Utf8(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
+
+QRectF ToRectF(const Rect& r) { return QRectF(r.x, r.y, r.width, r.height); }
+
+// Draws `text` centred in `area` at `pixels`, smaller when it would not fit the width.
+void DrawLegend(QPainter& painter, const QString& text, const QRectF& area, int pixels, bool bold) {
+    QFont font = painter.font();
+    font.setBold(bold);
+    font.setPixelSize(std::max(1, pixels));
+    const double room = area.width() * 0.92;
+    const double wide = QFontMetricsF(font).horizontalAdvance(text);
+    if (wide > room && wide > 0) font.setPixelSize(std::max(1, static_cast<int>(pixels * room / wide)));
+    painter.setFont(font);
+    painter.drawText(area, Qt::AlignCenter, text);
+}
+
+}  // namespace
+
+QColor ToQColor(Rgb rgb) { return QColor(rgb.r, rgb.g, rgb.b); }
+
+QString LegendText(FunctionId id) {
+    const KeyLegend* legend = FindLegend(id);
+    return legend ? Utf8(legend->legend) : QString();
+}
+
+QString ToolTipText(FunctionId id) {
+    const KeyLegend* legend = FindLegend(id);
+    if (!legend) return QStringLiteral("No function");
+    QString tip = Utf8(legend->fullName);
+    if (!legend->hardwareKey.empty()) tip += QStringLiteral(" (key: %1)").arg(Utf8(legend->hardwareKey));
+    return tip;
+}
+
+KeyView::KeyView(QWidget* parent) : QWidget(parent) {
+    setMouseTracking(true);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void KeyView::SetKeys(std::vector<KeyCell> keys, int columns) {
+    if (keys == m_keys && columns == m_columns) return;
+    m_keys = std::move(keys);
+    m_columns = std::max(1, columns);
+    m_pressed = m_hover = -1;
+    Relayout();
+    update();
+}
+
+void KeyView::SetLook(const KeyLook& look) {
+    m_look = look;
+    Relayout();
+    update();
+}
+
+int KeyView::Rows() const { return (KeyCount() + m_columns - 1) / m_columns; }
+
+int KeyView::TitleHeight() const {
+    if (m_look.title.isEmpty()) return 0;
+    return static_cast<int>(std::lround(16 * GridScale(width())));
+}
+
+int KeyView::Inset() const {
+    // Unframed keys keep one gap from the window's edges so that no key touches them.
+    return m_look.framed == Framed::Yes ? 0 : static_cast<int>(std::lround(m_look.sizeSet.horizontalGap * GridScale(width())));
+}
+
+void KeyView::Relayout() {
+    const int inset = Inset();
+    m_grid = LayoutKeyGrid(width() - 2 * inset, height() - TitleHeight() - inset, m_columns, std::max(1, Rows()),
+                           m_look.sizeSet, m_look.framed);
+    m_grid.left += inset;
+    m_grid.top += TitleHeight();
+}
+
+void KeyView::resizeEvent(QResizeEvent*) { Relayout(); }
+
+QRect KeyView::CellRect(int index) const {
+    const Rect r = KeyRect(m_grid, index);
+    return {r.x, r.y, r.width, r.height};
+}
+
+int KeyView::KeyAt(QPoint point) const {
+    const auto hit = HitTest(m_grid, point.x(), point.y());
+    return hit && *hit < KeyCount() ? *hit : -1;
+}
+
+FunctionId KeyView::ActiveId(int index) const { return m_look.shifted ? Key(index).shifted : Key(index).unshifted; }
+
+FunctionId KeyView::LargeId(int index) const {
+    const LegendPlacement p = PlaceLegends(m_look.arrangement, m_look.shifted, KeyRect(m_grid, index));
+    return p.large == Legend::Shifted ? Key(index).shifted : Key(index).unshifted;
+}
+
+void KeyView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), ToQColor(m_look.colours.keyboardBackground));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::TextAntialiasing);
+    if (!m_look.title.isEmpty()) {
+        painter.setPen(ToQColor(m_look.colours.keyboardName));
+        DrawLegend(painter, m_look.title, QRectF(0, 0, width(), TitleHeight()), TitleHeight() * 3 / 4, true);
+    }
+    for (int i = 0; i < KeyCount(); ++i) DrawKey(painter, i);
+}
+
+void KeyView::DrawKey(QPainter& painter, int index) {
+    const Rect keyRect = KeyRect(m_grid, index);
+    if (keyRect.width <= 0 || keyRect.height <= 0) return;
+    const KeyCell& key = Key(index);
+    const LegendPlacement place = PlaceLegends(m_look.arrangement, m_look.shifted, keyRect);
+    const FunctionId large = place.large == Legend::Shifted ? key.shifted : key.unshifted;
+    const KeyColours& c = m_look.colours.Key(KeyClassOf(large == kNoKey ? key.unshifted : large));
+    const bool pressed = index == m_pressed;
+    const double scale = GridScale(width());
+
+    QColor face = ToQColor(pressed ? c.pressedFace : c.face);
+    const QColor text = ToQColor(pressed ? c.pressedText : c.text);
+    if (index == m_hover && !pressed) face = face.lightness() > 128 ? face.darker(106) : face.lighter(125);
+
+    const double radius = std::max(0.0, m_look.corner * scale);
+    const double depth = pressed ? 0.0 : std::round(m_look.shadow * scale);
+    const QRectF shape = ToRectF(keyRect).adjusted(0.5, 0.5, -0.5 - depth, -0.5 - depth);
+    // A pressed key sits where its shadow was.
+    const QRectF drawn = pressed ? shape.translated(std::round(m_look.shadow * scale), std::round(m_look.shadow * scale))
+                                 : shape;
+    if (depth > 0) {
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(ToQColor(c.shadow));
+        painter.drawRoundedRect(shape.translated(depth, depth), radius, radius);
+    }
+    painter.setPen(m_look.colours.outlineKeys ? QPen(ToQColor(c.edge), std::max(1.0, scale * 0.75)) : Qt::NoPen);
+    painter.setBrush(face);
+    painter.drawRoundedRect(drawn, radius, radius);
+
+    const QPointF shift = drawn.topLeft() - ToRectF(keyRect).topLeft();
+    const auto area = [&](const Rect& r) {
+        return ToRectF(r).translated(shift).adjusted(0, 0, -depth, r.height ? -depth / 2 : 0);
+    };
+    painter.setPen(text);
+    // Digits and the four operators with "=" and ENTER are the keys read most: drawn bold.
+    const bool bold = KeyClassOf(large) == KeyClass::Number ||
+                      (large >= fid::Enter && large <= fid::Equals);
+    DrawLegend(painter, LegendText(large), area(place.largeArea), place.largePixels, bold);
+    if (place.small) {
+        const FunctionId small = *place.small == Legend::Shifted ? key.shifted : key.unshifted;
+        if (small != large) {
+            painter.setPen(ToQColor(pressed ? c.pressedText : c.shiftedText));
+            DrawLegend(painter, LegendText(small), area(place.smallArea).adjusted(0, std::round(1.5 * scale), 0, 0),
+                       place.smallPixels, false);
+        }
+    }
+}
+
+void KeyView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return;
+    m_pressed = KeyAt(event->position().toPoint());
+    update();
+}
+
+void KeyView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) return;
+    const int pressed = m_pressed;
+    m_pressed = -1;
+    update();
+    if (pressed >= 0 && KeyAt(event->position().toPoint()) == pressed) Q_EMIT Tapped(pressed);
+}
+
+void KeyView::mouseMoveEvent(QMouseEvent* event) {
+    const int hover = KeyAt(event->position().toPoint());
+    if (hover != m_hover) {
+        m_hover = hover;
+        update();
+    }
+}
+
+void KeyView::leaveEvent(QEvent*) {
+    m_hover = -1;
+    update();
+}
+
+bool KeyView::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        auto* help = static_cast<QHelpEvent*>(event);
+        const int index = KeyAt(help->pos());
+        if (index < 0) {
+            QToolTip::hideText();
+            return true;
+        }
+        QToolTip::showText(help->globalPos(), ToolTipText(ActiveId(index)), this, CellRect(index));
+        return true;
+    }
+    return QWidget::event(event);
+}
+
+}  // namespace brinto

@@ -1,0 +1,3 @@
+#include "app/run_app.h"
+
+int main(int argc, char** argv) { return brinto::RunApp(argc, argv); }

@@ -1,0 +1,309 @@
+#include "app/main_window.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPainter>
+#include <QToolBar>
+#include <QToolButton>
+#include <QHBoxLayout>
+
+#include "app/accessibility.h"
+#include "engine/function_ids.h"
+#include "engine/keyboards.h"
+#include "session/keypad.h"
+#include "session/session.h"
+
+namespace brinto {
+
+namespace {
+
+constexpr int kStripHeight = 26;
+
+bool IsBasic(const Engine& e) { return e.state.viewFlags & view::ModeMask; }
+
+// The program's icon: a small calculator, drawn so that it is crisp at every size.
+QIcon ProgramIcon() {
+    QPixmap pixmap(64, 64);
+    pixmap.fill(Qt::transparent);
+    QPainter p(&pixmap);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(Qt::NoPen);
+    p.setBrush(QColor(0x33, 0x33, 0x99));
+    p.drawRoundedRect(QRectF(8, 2, 48, 60), 8, 8);
+    p.setBrush(QColor(0xF4, 0xF7, 0xEE));
+    p.drawRoundedRect(QRectF(13, 8, 38, 14), 3, 3);
+    for (int row = 0; row < 3; ++row) {
+        for (int column = 0; column < 3; ++column) {
+            p.setBrush(row == 2 && column == 2 ? QColor(0xFF, 0xFF, 0x66) : QColor(0xE8, 0xEA, 0xF0));
+            p.drawRoundedRect(QRectF(13 + column * 13.5, 27 + row * 11.5, 11, 9), 2, 2);
+        }
+    }
+    return QIcon(pixmap);
+}
+
+}  // namespace
+
+MainWindow::MainWindow(Session& session, QWidget* parent) : QMainWindow(parent), m_session(session) {
+    setWindowTitle(QStringLiteral("Brinto"));
+    setWindowIcon(ProgramIcon());
+    setMinimumSize(240, 320);
+    resize(360, 480);
+
+    InstallAccessibility();
+    m_pane = new QWidget(this);
+    m_pane->installEventFilter(this);
+    m_pane->setFocusPolicy(Qt::StrongFocus);
+    setCentralWidget(m_pane);
+    m_display = new DisplayView(session.engine(), m_pane);
+    m_keys = new KeyView(m_pane);
+    m_basic = new KeyView(m_pane);
+    connect(m_display, &DisplayView::Tapped, this, [this](TapArea area) { DisplayTapped(area); });
+    connect(m_keys, &KeyView::Tapped, this, [this](int index) { KeyTapped(m_keys, index); });
+    connect(m_basic, &KeyView::Tapped, this, [this](int index) { KeyTapped(m_basic, index); });
+
+    m_toolBar = new QToolBar(this);
+    m_toolBar->setMovable(false);
+    m_toolBar->setFloatable(false);
+    m_toolBar->toggleViewAction()->setVisible(false);
+    addToolBar(Qt::TopToolBarArea, m_toolBar);
+    m_selector = new QComboBox(m_toolBar);
+    m_selector->setFocusPolicy(Qt::NoFocus);
+    for (std::string_view name : kKeyboardNames) m_selector->addItem(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
+    m_selector->setAccessibleName(QStringLiteral("Keyboard"));
+    m_toolBar->addWidget(m_selector);
+    connect(m_selector, &QComboBox::activated, this, [this](int index) { m_session.SelectKeyboard(index); });
+
+    m_strip = new QWidget(m_pane);
+    auto* stripLayout = new QHBoxLayout(m_strip);
+    stripLayout->setContentsMargins(0, 0, 0, 0);
+    stripLayout->setSpacing(1);
+    m_stripButtons = new QButtonGroup(m_strip);
+    m_stripButtons->setExclusive(true);
+    for (int i = 0; i < kKeyboardCount; ++i) {
+        auto* button = new QToolButton(m_strip);
+        button->setText(m_selector->itemText(i));
+        button->setCheckable(true);
+        button->setFocusPolicy(Qt::NoFocus);
+        button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
+        button->setToolButtonStyle(Qt::ToolButtonTextOnly);
+        QFont f = button->font();
+        f.setPixelSize(10);
+        button->setFont(f);
+        stripLayout->addWidget(button);
+        m_stripButtons->addButton(button, i);
+    }
+    connect(m_stripButtons, &QButtonGroup::idClicked, this, [this](int index) { m_session.SelectKeyboard(index); });
+
+    BuildMenus();
+    ApplyTheme();
+    m_pane->setFocus();
+}
+
+void MainWindow::BuildMenus() {
+    const auto add = [this](QMenu* menu, const QString& text, auto&& what, QKeySequence key = {}) {
+        QAction* action = menu->addAction(text);
+        if (!key.isEmpty()) action->setShortcut(key);
+        connect(action, &QAction::triggered, this, what);
+        return action;
+    };
+    Session& s = m_session;
+    QMenu* viewMenu = menuBar()->addMenu(QStringLiteral("View"));
+    add(viewMenu, QStringLiteral("Basic"), [&s] { s.Basic(); });
+    add(viewMenu, QStringLiteral("Advanced"), [&s] { s.Advanced(); });
+    viewMenu->addSeparator();
+    const std::pair<const char*, View> views[] = {
+        {"Stack...", View::Stack}, {"User Registers...", View::UserRegisters},
+        {"Constants...", View::Constants}, {"TVM...", View::Tvm},
+        {"Amortization...", View::Amortization}, {"Cash Flow...", View::CashFlow},
+        {"Statistical...", View::Statistical}};
+    for (const auto& [text, which] : views) {
+        add(viewMenu, QString::fromLatin1(text), [this, which = which] { OpenView(which); });
+    }
+
+    QMenu* editMenu = menuBar()->addMenu(QStringLiteral("Edit"));
+    add(editMenu, QStringLiteral("Undo"), [&s] { s.Undo(); }, QKeySequence(Qt::CTRL | Qt::Key_Z));
+    QAction* redo = add(editMenu, QStringLiteral("Redo"), [&s] { s.Redo(); });
+    redo->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
+    editMenu->addSeparator();
+    add(editMenu, QStringLiteral("Cut"), [&s] { s.Cut(); }, QKeySequence(Qt::CTRL | Qt::Key_X));
+    add(editMenu, QStringLiteral("Copy"), [&s] { s.Copy(); }, QKeySequence(Qt::CTRL | Qt::Key_C));
+    add(editMenu, QStringLiteral("Paste"), [&s] { s.Paste(); }, QKeySequence(Qt::CTRL | Qt::Key_V));
+
+    QMenu* optionsMenu = menuBar()->addMenu(QStringLiteral("Options"));
+    add(optionsMenu, QStringLiteral("Preferences..."), [this] { OpenView(View::Preferences); });
+    add(optionsMenu, QStringLiteral("Keyboard..."), [this] { OpenView(View::Keyboard); });
+    optionsMenu->addSeparator();
+    add(optionsMenu, QStringLiteral("About Brinto..."), [this] { ShowAbout(); });
+    optionsMenu->addSeparator();
+    add(optionsMenu, QStringLiteral("Quit"), [this] { close(); }, QKeySequence(Qt::CTRL | Qt::Key_Q));
+
+    auto* help = new QAction(this);
+    help->setShortcut(QKeySequence(Qt::Key_F1));
+    connect(help, &QAction::triggered, this, [this] { OpenHelp(QStringLiteral("Main_Contents")); });
+    addAction(help);
+}
+
+void MainWindow::ApplyTheme() {
+    m_themes.ApplyTheme(m_themes.SelectTheme(m_session.engine().prefs.Theme()));
+    m_colours = MakeScreenColours(m_themes, m_session.engine().prefs, DefaultDisplayStyle(m_themes));
+    QPalette palette = m_pane->palette();
+    palette.setColor(QPalette::Window, ToQColor(m_colours.window));
+    m_pane->setPalette(palette);
+    m_pane->setAutoFillBackground(true);
+    Refresh();
+}
+
+void MainWindow::Refresh() {
+    const Engine& e = m_session.engine();
+    const Preferences& p = e.prefs;
+    const int keyboard = e.Keyboard();
+    const bool basic = IsBasic(e);
+
+    std::vector<KeyCell> cells;
+    const KeyBlock unshifted = KeyLayout(keyboard, 0, m_session.userKeys());
+    const KeyBlock shifted = KeyLayout(keyboard, 1, m_session.userKeys());
+    for (int k = 0; k < kBlockKeys; ++k) cells.push_back({unshifted[k], shifted[k], k + 1});
+    for (const KeypadRow& row : SharedKeypad()) {
+        for (const KeypadKey& key : row) cells.push_back({key.unshifted, key.shifted, 0});
+    }
+    m_keys->SetKeys(std::move(cells), kKeypadColumns);
+    std::vector<KeyCell> basicCells;
+    for (const BasicRow& row : BasicKeys(e.Method())) {
+        for (FunctionId id : row) basicCells.push_back({id, id, 0});
+    }
+    m_basic->SetKeys(std::move(basicCells), kBasicColumns);
+
+    const QString name = m_selector->itemText(keyboard);
+    const KeyboardNamePlace namePlace = KeyboardNamePlaceOf(p, m_themes);
+    KeyLook look;
+    look.colours = m_colours;
+    look.sizeSet = KeySizeSetOf(KeySizeOf(p, m_themes));
+    look.framed = BordersOf(p, m_themes).keyboardFrame;
+    look.arrangement = LegendArrangementOf(p, m_themes);
+    look.shadow = KeyShadowDepth(p, m_themes);
+    look.corner = m_themes.keyStyle()[key_style::Corner];
+    look.shifted = e.state.status & status::FirstShift;
+    look.title = namePlace == KeyboardNamePlace::AboveKeys && !basic ? name : QString();
+    m_keys->SetLook(look);
+    look.title.clear();
+    m_basic->SetLook(look);
+    m_display->SetLook(m_colours, m_themes, namePlace == KeyboardNamePlace::InDisplay && !basic ? name : QString());
+
+    m_keys->setVisible(!basic);
+    m_basic->setVisible(basic);
+    const bool quick = p.QuickSwitch();
+    m_strip->setVisible(quick && !basic);
+    m_toolBar->setVisible(!quick);
+    if (m_selector->currentIndex() != keyboard) m_selector->setCurrentIndex(keyboard);
+    if (QAbstractButton* button = m_stripButtons->button(keyboard); button && !button->isChecked()) {
+        button->setChecked(true);
+    }
+    LayoutViews();
+}
+
+void MainWindow::LayoutViews() {
+    const Engine& e = m_session.engine();
+    const Preferences& p = e.prefs;
+    const bool basic = IsBasic(e);
+    QRect area = m_pane->rect();
+    if (m_strip->isVisibleTo(m_pane)) {
+        m_strip->setGeometry(area.left(), area.bottom() - kStripHeight + 1, area.width(), kStripHeight);
+        area.setBottom(area.bottom() - kStripHeight);
+    }
+    // The keys take the height their shape asks for, and the display the rest: more of it in the
+    // Basic view, where there are fewer keys.
+    KeyView* keys = basic ? m_basic : m_keys;
+    const int wanted = PreferredKeyboardHeight(area.width(), keys->Columns(), std::max(1, keys->Rows()),
+                                               KeySizeSetOf(KeySizeOf(p, m_themes)), BordersOf(p, m_themes).keyboardFrame);
+    // Every line the display shows must fit; the keys then give up height, down to half the area.
+    const int room = std::max(area.height() - m_display->PreferredHeight(area.width()), area.height() / 2);
+    const int keyHeight = std::min({wanted + keys->TitleHeight(), room, static_cast<int>(area.height() * (basic ? 0.62 : 0.8))});
+    m_display->setGeometry(area.left(), area.top(), area.width(), area.height() - keyHeight);
+    keys->setGeometry(area.left(), area.bottom() - keyHeight + 1, area.width(), keyHeight);
+}
+
+void MainWindow::KeyTapped(const KeyView* view, int index) {
+    const KeyCell& key = view->Key(index);
+    if (key.block > 0) {
+        m_session.TapBlockKey(key.block);
+        return;
+    }
+    const FunctionId id = view->ActiveId(index);
+    m_session.Tap(id == kNoKey ? id : m_session.Remap(id));
+}
+
+void MainWindow::DisplayTapped(TapArea area) {
+    // The "Tap:" list and the views are in the same order.
+    OpenView(static_cast<View>(static_cast<u16>(m_session.engine().prefs.Tap(area))));
+}
+
+void MainWindow::OpenView(View view) {
+    // The dialogs and list views are not part of this program yet.
+    Q_UNUSED(view);
+}
+
+void MainWindow::OpenHelp(const QString& anchor) {
+    // The help viewer and the user guide are not part of this program yet.
+    Q_UNUSED(anchor);
+}
+
+void MainWindow::ShowAbout() {
+    QMessageBox box(this);
+    box.setWindowTitle(QStringLiteral("About Brinto"));
+    box.setIconPixmap(windowIcon().pixmap(64, 64));
+    box.setText(QStringLiteral("Brinto™ for Linux\nVersion %1").arg(QStringLiteral(BRINTO_VERSION)));
+    box.setStandardButtons(QMessageBox::Ok | QMessageBox::Help);
+    if (box.exec() == QMessageBox::Help) OpenHelp(QStringLiteral("about"));
+}
+
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+    const Qt::KeyboardModifiers mods = event->modifiers() & ~(Qt::KeypadModifier | Qt::ShiftModifier);
+    if (mods != Qt::NoModifier) {
+        QMainWindow::keyPressEvent(event);
+        return;
+    }
+    switch (event->key()) {
+        case Qt::Key_Backspace: m_session.Special(SpecialKey::Backspace); return;
+        case Qt::Key_Delete: m_session.Special(SpecialKey::Delete); return;
+        case Qt::Key_Return:
+        case Qt::Key_Enter: m_session.ActionButton(); return;
+        case Qt::Key_Up: m_session.Special(SpecialKey::Up); return;
+        case Qt::Key_Down: m_session.Special(SpecialKey::Down); return;
+        case Qt::Key_Left: m_session.Special(SpecialKey::Left); return;
+        case Qt::Key_Right: m_session.Special(SpecialKey::Right); return;
+        default: break;
+    }
+    const QString text = event->text();
+    if (text.size() == 1 && text[0].isPrint()) {
+        m_session.CharacterKey(text[0].unicode());
+        return;
+    }
+    QMainWindow::keyPressEvent(event);
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    if (event->type() == QEvent::ActivationChange && !isActiveWindow()) Save();
+    if (event->type() == QEvent::WindowStateChange && isMinimized()) Save();
+    QMainWindow::changeEvent(event);
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    Save();
+    QMainWindow::closeEvent(event);
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_pane && event->type() == QEvent::Resize) LayoutViews();
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::Save() {
+    if (onSave) onSave();
+}
+
+}  // namespace brinto

@@ -1,0 +1,75 @@
+#pragma once
+// The main window: the display over the keys, the menus, the keyboard selector and the Quick
+// Switch strip. It draws and routes input; every change of the calculator is a session command.
+#include <QMainWindow>
+#include <functional>
+
+#include "app/display_view.h"
+#include "app/key_view.h"
+#include "session/host.h"
+#include "session/theme.h"
+
+class QActionGroup;
+class QButtonGroup;
+class QComboBox;
+class QToolBar;
+
+namespace brinto {
+
+class Session;
+
+class MainWindow : public QMainWindow {
+    Q_OBJECT
+public:
+    explicit MainWindow(Session& session, QWidget* parent = nullptr);
+
+    // Called whenever the calculator changed: redraws the display and the keys, and follows the
+    // view mode, the current keyboard and the shift latch.
+    void Refresh();
+    // Takes the colours of the theme that the preferences name (at creation and after the
+    // "Preferences" sheet closed).
+    void ApplyTheme();
+    // The one way to open a dialog view: menus, display taps and the Action button.
+    void OpenView(View view);
+    // The help viewer at an anchor of the user guide.
+    void OpenHelp(const QString& anchor);
+
+    // Run when the calculator should be kept: deactivation, minimising, closing, Quit.
+    std::function<void()> onSave;
+
+    const ScreenColours& colours() const { return m_colours; }
+    DisplayView* display() { return m_display; }
+    KeyView* keyboardView() { return m_keys; }
+    KeyView* basicView() { return m_basic; }
+    QComboBox* selector() { return m_selector; }
+    QWidget* quickSwitch() { return m_strip; }
+    QButtonGroup* quickSwitchButtons() { return m_stripButtons; }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void changeEvent(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void BuildMenus();
+    void LayoutViews();
+    void KeyTapped(const KeyView* view, int index);
+    void DisplayTapped(TapArea area);
+    void ShowAbout();
+    void Save();
+
+    Session& m_session;
+    QWidget* m_pane = nullptr;
+    DisplayView* m_display = nullptr;
+    KeyView* m_keys = nullptr;
+    KeyView* m_basic = nullptr;
+    QToolBar* m_toolBar = nullptr;
+    QComboBox* m_selector = nullptr;
+    QWidget* m_strip = nullptr;
+    QButtonGroup* m_stripButtons = nullptr;
+    ThemeSet m_themes;
+    ScreenColours m_colours{};
+};
+
+}  // namespace brinto

@@ -1,0 +1,148 @@
+#include "app/run_app.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QSocketNotifier>
+#include <QTimer>
+#include <csignal>
+#include <cstdio>
+
+#include "app/main_window.h"
+#include "app/window_host.h"
+
+namespace brinto {
+
+namespace {
+
+constexpr const char* kHelp =
+    "Usage: brinto [OPTIONS]\n"
+    "The Brinto calculator.\n\n"
+    "  --db PATH     keep the calculator in the database file at PATH\n"
+    "                (default: $XDG_DATA_HOME/brinto/brinto.db, shared with brinto-cli)\n"
+    "  --memory      start from the defaults and save nothing\n"
+    "  --keys TEXT   type TEXT on the keyboard once the window is up (for scripts)\n"
+    "  --help        show this help and exit\n"
+    "  --version     show the version and exit\n";
+
+// SIGTERM and SIGHUP only write a byte into this pipe; the event loop reads it and saves.
+int g_signalPipe[2] = {-1, -1};
+
+void OnSignal(int) {
+    const char byte = 1;
+    [[maybe_unused]] const ssize_t written = write(g_signalPipe[1], &byte, 1);
+}
+
+void WatchSignals(QObject* parent, const std::function<void()>& stop) {
+    if (pipe2(g_signalPipe, O_CLOEXEC | O_NONBLOCK) != 0) return;
+    auto* notifier = new QSocketNotifier(g_signalPipe[0], QSocketNotifier::Read, parent);
+    QObject::connect(notifier, &QSocketNotifier::activated, parent, [stop] {
+        char buffer[16];
+        while (read(g_signalPipe[0], buffer, sizeof buffer) > 0) {
+        }
+        stop();
+    });
+    struct sigaction action {};
+    action.sa_handler = OnSignal;
+    sigemptyset(&action.sa_mask);
+    action.sa_flags = SA_RESTART;
+    sigaction(SIGTERM, &action, nullptr);
+    sigaction(SIGHUP, &action, nullptr);
+}
+
+// Each character as the hardware key that types it.
+void TypeKeys(QWidget* window, const QString& text) {
+    for (const QChar c : text) {
+        const int key = c == QLatin1Char('\n') ? int(Qt::Key_Return) : int(c.toUpper().unicode());
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier, c == QLatin1Char('\n') ? QString() : QString(c));
+        QApplication::sendEvent(window, &press);
+    }
+}
+
+}  // namespace
+
+std::optional<AppOptions> ParseAppOptions(const std::vector<std::string>& args, std::string& message, int& exitCode) {
+    AppOptions o;
+    for (size_t i = 0; i < args.size(); ++i) {
+        const std::string& a = args[i];
+        const bool hasValue = i + 1 < args.size();
+        if (a == "--help" || a == "-h") {
+            message = kHelp;
+            exitCode = 0;
+            return std::nullopt;
+        } else if (a == "--version") {
+            message = std::string("brinto ") + BRINTO_VERSION + "\n";
+            exitCode = 0;
+            return std::nullopt;
+        } else if (a == "--memory") {
+            o.memory = true;
+        } else if (a == "--db" && hasValue) {
+            o.db = args[++i];
+        } else if (a == "--keys" && hasValue) {
+            o.keys = args[++i];
+        } else {
+            message = (a == "--db" || a == "--keys") ? "brinto: " + a + " needs a value\n"
+                                                     : "brinto: unknown option " + a + " (see --help)\n";
+            exitCode = 2;
+            return std::nullopt;
+        }
+    }
+    return o;
+}
+
+int RunApp(int argc, char** argv) {
+    std::string message;
+    int exitCode = 0;
+    const auto options = ParseAppOptions(std::vector<std::string>(argv + 1, argv + argc), message, exitCode);
+    if (!options) {
+        std::fputs(message.c_str(), exitCode == 0 ? stdout : stderr);
+        return exitCode;
+    }
+
+    // The desktop's platform theme plug-in costs more start-up time than the whole calculator;
+    // the window draws its own faces, so Qt's built-in look is enough.
+    QGuiApplication::setDesktopSettingsAware(false);
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Brinto"));
+    QApplication::setApplicationVersion(QStringLiteral(BRINTO_VERSION));
+
+    WindowHost host;
+    host.askInputMethod = !options->memory;
+    Calculator calculator(host);
+    MainWindow window(calculator.session);
+    host.window = &window;
+    window.onSave = [&] { calculator.Save(window.saveGeometry()); };
+
+    // A signal ends every event loop, also the first run's dialog; the calculator is saved once
+    // the loops are left.
+    bool stopping = false;
+    WatchSignals(&window, [&] {
+        stopping = true;
+        QApplication::quit();
+    });
+    const StartOutcome outcome = calculator.Start(*options);
+    for (const std::string& notice : outcome.notices) {
+        QMessageBox::information(&window, QStringLiteral("Brinto"), QString::fromStdString(notice));
+    }
+    if (stopping) {
+        calculator.Save(window.saveGeometry());
+        return 0;
+    }
+    if (const QByteArray geometry = calculator.SavedGeometry(); !geometry.isEmpty()) window.restoreGeometry(geometry);
+    window.ApplyTheme();
+    window.show();
+    if (outcome.openPreferences) window.OpenView(View::Preferences);
+
+    if (!options->keys.empty()) {
+        const QString keys = QString::fromStdString(options->keys);
+        QTimer::singleShot(0, &window, [&window, keys] { TypeKeys(&window, keys); });
+    }
+    const int result = QApplication::exec();
+    calculator.Save(window.saveGeometry());
+    return result;
+}
+
+}  // namespace brinto

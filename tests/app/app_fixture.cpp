@@ -1,0 +1,30 @@
+#include "app_fixture.h"
+
+#include "display/display_text.h"
+
+namespace brinto::test {
+
+std::string Desk::XLine() {
+    const DisplayLine line = DisplayLevel(engine(), 0);
+    return line.label.empty() ? line.text : line.text + "  " + line.label;
+}
+
+bool Desk::Click(FunctionId id) {
+    KeyView* view = window.keyboardView()->isVisible() ? window.keyboardView() : window.basicView();
+    for (int i = 0; i < view->KeyCount(); ++i) {
+        if (view->Key(i).block == 0 && view->ActiveId(i) == id) {
+            QTest::mouseClick(view, Qt::LeftButton, {}, view->CellRect(i).center());
+            return true;
+        }
+    }
+    return false;
+}
+
+void Desk::ClickBlock(int k) {
+    KeyView* view = window.keyboardView();
+    for (int i = 0; i < view->KeyCount(); ++i) {
+        if (view->Key(i).block == k) QTest::mouseClick(view, Qt::LeftButton, {}, view->CellRect(i).center());
+    }
+}
+
+}  // namespace brinto::test

@@ -1,0 +1,133 @@
+// What the window draws: every theme gives a non-blank, legible face at a small and a large size,
+// and each appearance preference changes the drawing. With BRINTO_SHOTS set to a folder, every
+// keyboard is saved there as a PNG, shifted and unshifted, in a light and a dark theme.
+#include <gtest/gtest.h>
+
+#include <QImage>
+#include <QSet>
+#include <functional>
+
+#include "app_fixture.h"
+#include "engine/keyboards.h"
+#include "session/screen_colours.h"
+
+namespace brinto::test {
+namespace {
+
+QImage Grab(Desk& desk) { return desk.window.grab().toImage().convertToFormat(QImage::Format_RGB32); }
+
+int Distance(QColor a, QColor b) {
+    return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue());
+}
+
+// Pixels of `image` inside `area` nearer to `ink` than to `paper`: the text drawn there.
+int CountInk(const QImage& image, const QRect& area, QColor ink, QColor paper) {
+    int count = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) {
+            const QColor c = image.pixelColor(x, y);
+            if (Distance(c, ink) < Distance(c, paper)) ++count;
+        }
+    }
+    return count;
+}
+
+QRect InWindow(Desk& desk, QWidget* view, QRect r) {
+    return QRect(view->mapTo(&desk.window, r.topLeft()), r.size());
+}
+
+TEST(Drawing, EveryThemeDrawsLegibleKeysAndDisplayAtTwoSizes) {
+    for (u16 theme = theme_id::DefaultColor; theme <= theme_id::DarkBackground; ++theme) {
+        for (QSize size : {QSize(240, 320), QSize(720, 960)}) {
+            Desk desk(size);
+            desk.ChangePreferences([theme](Preferences& p) { p.SetTheme(theme); });
+            desk.Type("12345");
+            desk.Click(fid::ChangeSign);
+            const QImage image = Grab(desk);
+            const ScreenColours& colours = desk.window.colours();
+            KeyView* keys = desk.window.keyboardView();
+            for (FunctionId id : {FunctionId{5}, fid::Add, fid::Shift, fid::ClearX}) {
+                int index = 0;
+                while (index < keys->KeyCount() && keys->ActiveId(index) != id) ++index;
+                ASSERT_LT(index, keys->KeyCount());
+                const KeyColours& c = colours.Key(KeyClassOf(id));
+                EXPECT_GE(ContrastRatio(c.face, c.text), 3.0) << theme << ' ' << id;
+                const QRect face = InWindow(desk, keys, keys->CellRect(index));
+                const int ink = CountInk(image, face, ToQColor(c.text), ToQColor(c.face));
+                EXPECT_GT(ink, face.width() * face.height() / 100) << theme << ' ' << id << ' ' << size.width();
+                EXPECT_LT(ink, face.width() * face.height() / 2) << theme << ' ' << id << ' ' << size.width();
+            }
+            // X is drawn in its colour, large enough to read.
+            const QRect display = InWindow(desk, desk.window.display(), desk.window.display()->rect());
+            const QColor valueColour = ToQColor(ValueTextColour(colours, 0, -12345.0));
+            EXPECT_GE(ContrastRatio(colours.displayBackground, ValueTextColour(colours, 0, -12345.0)), 3.0) << theme;
+            const int ink = CountInk(image, display, valueColour, ToQColor(colours.displayBackground));
+            EXPECT_GT(ink, 150 * size.width() / 240) << theme << ' ' << size.width();
+        }
+    }
+}
+
+TEST(Drawing, EachAppearanceChoiceChangesTheDrawing) {
+    using Setter = std::function<void(Preferences&)>;
+    const std::pair<const char*, Setter> choices[] = {
+        {"Size: Small", [](Preferences& p) { p.SetKeySize(1); }},
+        {"Size: Large", [](Preferences& p) { p.SetKeySize(3); }},
+        {"Keys: Zoomed", [](Preferences& p) { p.SetKeyLabels(3); }},
+        {"Color: Background", [](Preferences& p) { p.SetKeyColor(3); }},
+        {"Shadow: Heavy", [](Preferences& p) { p.SetKeyShadow(4); }},
+        {"Show: None", [](Preferences& p) { p.SetKeyboardShow(1); }},
+        {"Show: Within", [](Preferences& p) { p.SetKeyboardShow(3); }},
+        {"Lines: 1", [](Preferences& p) { p.SetDisplayLines(1); }},
+        {"Lines: 4", [](Preferences& p) { p.SetDisplayLines(4); }},
+        {"Font: Large", [](Preferences& p) { p.SetDisplayFont(3); }},
+        {"Border: Display", [](Preferences& p) { p.SetBorder(2); }},
+        {"Border: Calculator", [](Preferences& p) { p.SetBorder(3); }},
+        {"Comma Radix", [](Preferences& p) { p.SetCommaRadix(true); }},
+    };
+    const auto draw = [](const Setter& set) {
+        Desk desk;
+        desk.Type("1234.5\r6\r");
+        desk.ChangePreferences(set);
+        return Grab(desk);
+    };
+    const QImage plain = draw([](Preferences&) {});
+    if (const QString folder = qEnvironmentVariable("BRINTO_SHOTS"); !folder.isEmpty()) plain.save(folder + "/plain.png");
+    for (const auto& [name, set] : choices) EXPECT_NE(draw(set), plain) << name;
+
+    // "Active:" changes how a key looks while it is held down.
+    const auto pressed = [](int active) {
+        Desk desk;
+        desk.ChangePreferences([active](Preferences& p) { p.SetActiveKey(active); });
+        KeyView* keys = desk.window.keyboardView();
+        QTest::mousePress(keys, Qt::LeftButton, {}, keys->CellRect(20).center());
+        const QImage image = Grab(desk);
+        QTest::mouseRelease(keys, Qt::LeftButton, {}, keys->CellRect(20).center());
+        return image;
+    };
+    EXPECT_NE(pressed(1), pressed(3));
+}
+
+TEST(Drawing, ScreenshotsOfEveryKeyboard) {
+    const QString folder = qEnvironmentVariable("BRINTO_SHOTS");
+    if (folder.isEmpty()) GTEST_SKIP() << "BRINTO_SHOTS names no folder";
+    for (u16 theme : {theme_id::DefaultColor, theme_id::DarkBackground}) {
+        for (QSize size : {QSize(240, 320), QSize(540, 720)}) {
+            Desk desk(size);
+            desk.ChangePreferences([theme](Preferences& p) { p.SetTheme(theme); });
+            desk.Type("1234.5\r");
+            for (int keyboard = 0; keyboard < kKeyboardCount; ++keyboard) {
+                desk.session().SelectKeyboard(keyboard);
+                for (bool shifted : {false, true}) {
+                    if (shifted) desk.session().Tap(fid::Shift);
+                    Grab(desk).save(QStringLiteral("%1/t%2-%3-k%4%5.png")
+                                        .arg(folder).arg(theme).arg(size.width()).arg(keyboard)
+                                        .arg(shifted ? QStringLiteral("s") : QString()));
+                    if (shifted) desk.session().Tap(fid::Shift);
+                }
+            }
+        }
+    }
+}
+
+}  // namespace
+}  // namespace brinto::test

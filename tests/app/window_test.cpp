@@ -1,0 +1,253 @@
+// The main window through its real widgets: taps on drawn keys, hardware keys, menu commands and
+// their messages, keyboard switching, and the faces of every theme.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QAction>
+#include <QButtonGroup>
+#include <QClipboard>
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QImage>
+#include <QMenuBar>
+#include <charconv>
+#include <cmath>
+#include <cstdio>
+#include <regex>
+
+#include "app_fixture.h"
+#include "display/display_text.h"
+#include "engine/keyboards.h"
+#include "session/session.h"
+
+namespace brinto::test {
+namespace {
+
+// brinto-cli's whole state after `tokens`, as JSON.
+std::string CliJson(const std::string& tokens) {
+    const std::string command = std::string(BRINTO_CLI_PATH) +
+                                " --memory --json --now '2005-03-15 14:05:00' " + tokens + " 2>/dev/null";
+    std::string out;
+    if (FILE* pipe = popen(command.c_str(), "r")) {
+        char buffer[4096];
+        while (size_t n = fread(buffer, 1, sizeof buffer, pipe)) out.append(buffer, n);
+        pclose(pipe);
+    }
+    return out;
+}
+
+// Level `level` as brinto-cli's JSON writes it: the shortest value and the tag.
+std::string LevelOf(const Engine& e, int level) {
+    char buffer[64];
+    const double value = e.state.stack[level];
+    const auto end = std::to_chars(buffer, buffer + sizeof buffer, std::isnan(value) ? NAN : value).ptr;
+    return "\"value\":\"" + std::string(buffer, end) + "\",\"tag\":" + std::to_string(e.state.tags[level]);
+}
+
+std::vector<std::string> CliLevels(const std::string& json) {
+    static const std::regex level(R"re("value":"[^"]*","tag":\d+)re");
+    std::vector<std::string> levels;
+    for (auto it = std::sregex_iterator(json.begin(), json.end(), level); it != std::sregex_iterator(); ++it) {
+        levels.push_back(it->str());
+    }
+    return levels;
+}
+
+TEST(Window, EveryBlockKeyOfEveryKeyboardActsAsInBrintoCli) {
+    // RPN is chosen on the shifted General block and the keyboard reached with the Down arrow;
+    // then each block key in turn, shifted or not, gets operands typed on the keyboard. The whole
+    // stack must end as brinto-cli's after the same keys.
+    for (int keyboard = 0; keyboard < kUserKeyboard; ++keyboard) {
+        for (int shift = 0; shift <= 1; ++shift) {
+            Desk desk;
+            ASSERT_TRUE(desk.Click(fid::Shift));
+            desk.ClickBlock(3);
+            for (int i = 0; i < keyboard; ++i) desk.Press(Qt::Key_Down);
+            std::string tokens = "rpn kb:" + std::to_string(keyboard);
+            for (int k = 1; k <= kBlockKeys; ++k) {
+                // Typed, not tapped: a prefix key may have left the keypad shifted.
+                desk.Type("7");
+                desk.Press(Qt::Key_Return);
+                desk.Type("3");
+                if (shift) {
+                    ASSERT_TRUE(desk.Click(fid::Shift));
+                }
+                desk.ClickBlock(k);
+                tokens += std::string(" 7 enter 3") + (shift ? " shift" : "") + " key:" + std::to_string(k);
+            }
+            const std::vector<std::string> cli = CliLevels(CliJson(tokens));
+            ASSERT_GE(cli.size(), 20u) << tokens;
+            for (int level = 0; level < 20; ++level) EXPECT_EQ(LevelOf(desk.engine(), level), cli[level]) << tokens;
+            EXPECT_EQ(desk.engine().Keyboard(), keyboard) << tokens;
+        }
+    }
+}
+
+TEST(Window, KeypadAndHardwareKeysInEachInputMethod) {
+    struct Case {
+        const char* method;  // the shifted General key that selects it
+        int methodKey;
+        const char* typed;
+        const char* expected;
+    };
+    const Case cases[] = {
+        {"simple", 1, "2+3*5=", "25."},
+        {"precedence", 2, "2+3*5=", "17."},
+        {"rpn", 3, "2\r3\r5*+", "17."},
+        {"simple", 1, "1234567.5=", "1,234,567.5"},
+        {"rpn", 3, "12\b4\r", "14."},  // Backspace edits the number being typed
+    };
+    for (const Case& c : cases) {
+        Desk desk;
+        desk.Click(fid::Shift);
+        desk.ClickBlock(c.methodKey);
+        for (const char* p = c.typed; *p; ++p) {
+            if (*p == '\r') desk.Press(Qt::Key_Return);
+            else if (*p == '\b') desk.Press(Qt::Key_Backspace);
+            else QTest::keyClick(&desk.window, *p);
+        }
+        EXPECT_EQ(desk.XLine(), c.expected) << c.method << ' ' << c.typed;
+    }
+    // The same keys tapped on the drawn keypad, in the Basic view too.
+    for (bool basic : {false, true}) {
+        Desk desk;
+        if (basic) desk.Press(Qt::Key_Left);
+        ASSERT_EQ(desk.window.basicView()->isVisible(), basic);
+        for (FunctionId id : {FunctionId{2}, fid::Add, FunctionId{3}, fid::Multiply, FunctionId{5}, fid::Equals}) {
+            ASSERT_TRUE(desk.Click(id)) << id;
+        }
+        EXPECT_EQ(desk.XLine(), "25.");
+    }
+    Desk desk;
+    desk.Type("q");
+    EXPECT_EQ(desk.host.beeps, 1);  // a character that is no key
+}
+
+TEST(Window, KeyboardsSwitchByArrowsDropDownAndStrip) {
+    Desk desk;
+    desk.Press(Qt::Key_Up);
+    EXPECT_EQ(desk.engine().Keyboard(), kUserKeyboard);
+    desk.Press(Qt::Key_Down);
+    EXPECT_EQ(desk.engine().Keyboard(), 0);
+    Q_EMIT desk.window.selector()->activated(4);
+    EXPECT_EQ(desk.engine().Keyboard(), 4);
+    EXPECT_TRUE(desk.window.selector()->isVisible());
+
+    desk.ChangePreferences([](Preferences& p) { p.SetQuickSwitch(true); });
+    EXPECT_FALSE(desk.window.selector()->isVisible());
+    ASSERT_TRUE(desk.window.quickSwitch()->isVisible());
+    QAbstractButton* programmer = desk.window.quickSwitchButtons()->button(4);
+    EXPECT_TRUE(programmer->isChecked());
+    QTest::mouseClick(desk.window.quickSwitchButtons()->button(7), Qt::LeftButton);
+    EXPECT_EQ(desk.engine().Keyboard(), 7);
+    EXPECT_EQ(desk.window.selector()->currentIndex(), 7);
+    // The strip belongs to the Advanced view; Up and Down do nothing in the Basic view.
+    desk.Press(Qt::Key_Right);
+    EXPECT_FALSE(desk.window.quickSwitch()->isVisible());
+    desk.Press(Qt::Key_Down);
+    EXPECT_EQ(desk.engine().Keyboard(), 7);
+    desk.Press(Qt::Key_Left);
+    EXPECT_TRUE(desk.window.quickSwitch()->isVisible());
+}
+
+QAction* MenuEntry(MainWindow& window, const QString& menu, const QString& entry) {
+    for (QAction* m : window.menuBar()->actions()) {
+        if (m->text() != menu) continue;
+        for (QAction* a : m->menu()->actions()) {
+            if (a->text() == entry) return a;
+        }
+    }
+    return nullptr;
+}
+
+TEST(Window, MenuCommandsAndTheirMessages) {
+    Desk desk;
+    const auto trigger = [&](const char* menu, const char* entry) {
+        QAction* action = MenuEntry(desk.window, QString::fromLatin1(menu), QString::fromLatin1(entry));
+        ASSERT_NE(action, nullptr) << entry;
+        action->trigger();
+    };
+    trigger("Edit", "Undo");
+    trigger("Edit", "Redo");
+    EXPECT_EQ(desk.host.messages, (std::vector<std::string>{"Nothing to Undo", "Nothing to Redo"}));
+
+    // Copy and Paste through the system clipboard; Cut drops X.
+    desk.Type("42");
+    trigger("Edit", "Copy");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("42"));
+    desk.Type("+1=");
+    EXPECT_EQ(desk.XLine(), "43.");
+    QGuiApplication::clipboard()->setText(QStringLiteral("abc-7.5"));
+    QTest::keyClick(&desk.window, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_EQ(desk.XLine(), "7.5");
+    QTest::keyClick(&desk.window, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(desk.XLine(), "43.");
+    QTest::keyClick(&desk.window, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(desk.XLine(), "7.5");
+
+    // Clear All asks first; Cancel executes nothing.
+    desk.host.messages.clear();
+    desk.session().StoreRegister(5, 9.0);
+    desk.host.confirm = false;
+    ASSERT_TRUE(desk.Click(fid::Shift));
+    ASSERT_TRUE(desk.Click(fid::ClearAll));
+    EXPECT_EQ(desk.engine().registers.values[5], 9.0);
+    desk.host.confirm = true;
+    // The cancelled key left the shift latched.
+    EXPECT_TRUE(desk.Click(fid::ClearAll));
+    EXPECT_EQ(desk.engine().registers.values[5], 0.0);
+    EXPECT_EQ(desk.host.messages, (std::vector<std::string>{"Clear All", "Clear All"}));
+
+    // An unassigned key of the User keyboard.
+    desk.host.messages.clear();
+    desk.session().SelectKeyboard(kUserKeyboard);
+    desk.ClickBlock(1);
+    EXPECT_EQ(desk.host.messages, std::vector<std::string>{"No Function"});
+
+    // Basic and Advanced from the View menu.
+    trigger("View", "Basic");
+    EXPECT_TRUE(desk.window.basicView()->isVisible());
+    trigger("View", "Advanced");
+    EXPECT_TRUE(desk.window.keyboardView()->isVisible());
+}
+
+TEST(Window, MenusHoldTheirEntriesInOrder) {
+    Desk desk;
+    QStringList seen;
+    for (QAction* m : desk.window.menuBar()->actions()) {
+        seen << m->text() + QLatin1Char(':');
+        for (QAction* a : m->menu()->actions()) seen << (a->isSeparator() ? QStringLiteral("-") : a->text());
+    }
+    EXPECT_EQ(seen.join(QLatin1Char('|')).toStdString(),
+              "View:|Basic|Advanced|-|Stack...|User Registers...|Constants...|TVM...|Amortization...|"
+              "Cash Flow...|Statistical...|Edit:|Undo|Redo|-|Cut|Copy|Paste|Options:|Preferences...|"
+              "Keyboard...|-|About Brinto...|-|Quit");
+}
+
+TEST(Window, KeysAndDisplayAreVisibleToAccessibilityTools) {
+    Desk desk;
+    KeyView* keys = desk.window.keyboardView();
+    QAccessibleInterface* view = QAccessible::queryAccessibleInterface(keys);
+    ASSERT_NE(view, nullptr);
+    ASSERT_EQ(view->childCount(), keys->KeyCount());
+    int seven = -1;
+    for (int i = 0; i < view->childCount(); ++i) {
+        QAccessibleInterface* key = view->child(i);
+        EXPECT_EQ(key->role(), QAccessible::Button);
+        EXPECT_FALSE(key->text(QAccessible::Name).isEmpty()) << i;
+        EXPECT_EQ(view->indexOfChild(key), i);
+        if (keys->ActiveId(i) == 7) seven = i;
+    }
+    ASSERT_GE(seven, 0);
+    QAccessibleInterface* key = view->child(seven);
+    EXPECT_EQ(view->childAt(key->rect().center().x(), key->rect().center().y()), key);
+    key->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    key->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QAccessibleInterface* display = QAccessible::queryAccessibleInterface(desk.window.display());
+    ASSERT_NE(display, nullptr);
+    EXPECT_TRUE(display->text(QAccessible::Value).startsWith(QStringLiteral("77"))) << display->text(QAccessible::Value).toStdString();
+}
+
+}  // namespace
+}  // namespace brinto::test
