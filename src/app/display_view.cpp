@@ -80,7 +80,7 @@ QString DisplayView::AccessibleText() const {
 // The five fonts scale with the view from the handheld's 240-pixel screen; "ClearType" lets the
 // text use the screen's subpixels.
 QFont DisplayView::MakeFont(DisplayFont which, int width) const {
-    const FontSpec spec = FontSpecOf(which);
+    const FontMetrics spec = FontOf(which);
     QFont f = font();
     f.setPixelSize(std::max(6, static_cast<int>(std::lround(spec.pixels * GridScale(width)))));
     f.setBold(spec.bold);

@@ -170,7 +170,10 @@ constexpr std::string_view kUsageEnd =
 // The keyboards are listed from their own table, so a renamed one cannot go stale here.
 void PrintUsage(std::ostream& out) {
     out << kUsage;
-    for (int k = 0; k < kKeyboardCount; ++k) out << (k ? ", " : " ") << k << ' ' << kKeyboardNames[k];
+    for (int k = 0; k < kKeyboardCount; ++k) {
+        const std::string_view gap = k == 0 ? " " : k % 3 == 0 ? ",\n                         " : ", ";
+        out << gap << k << ' ' << kKeyboardNames[k];
+    }
     out << '\n' << kUsageEnd;
 }
 
