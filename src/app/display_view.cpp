@@ -80,10 +80,10 @@ QString DisplayView::AccessibleText() const {
 // The five fonts scale with the view from the handheld's 240-pixel screen; "ClearType" lets the
 // text use the screen's subpixels.
 QFont DisplayView::MakeFont(DisplayFont which, int width) const {
-    const FontMetrics spec = FontOf(which);
+    const FontMetrics metrics = FontOf(which);
     QFont f = font();
-    f.setPixelSize(std::max(6, static_cast<int>(std::lround(spec.pixels * GridScale(width)))));
-    f.setBold(spec.bold);
+    f.setPixelSize(std::max(6, static_cast<int>(std::lround(metrics.pixels * GridScale(width)))));
+    f.setBold(metrics.bold);
     f.setStyleStrategy(m_engine.prefs.ClearType() ? QFont::PreferAntialias : QFont::NoSubpixelAntialias);
     return f;
 }

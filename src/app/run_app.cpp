@@ -121,7 +121,7 @@ int RunApp(int argc, char** argv) {
     bool stopping = false;
     WatchSignals(&window, [&] {
         stopping = true;
-        QApplication::quit();
+        QCoreApplication::exit(0);  // every loop, also a dialog's that runs before the main one
     });
     const StartOutcome outcome = calculator.Start(*options);
     for (const std::string& notice : outcome.notices) {

@@ -12,6 +12,7 @@
 #include <QImage>
 #include <QMenuBar>
 #include <charconv>
+#include <filesystem>
 #include <cmath>
 #include <cstdio>
 #include <regex>
@@ -223,6 +224,27 @@ TEST(Window, MenusHoldTheirEntriesInOrder) {
               "View:|Basic|Advanced|-|Stack...|User Registers...|Constants...|TVM...|Amortization...|"
               "Cash Flow...|Statistical...|Edit:|Undo|Redo|-|Cut|Copy|Paste|Options:|Preferences...|"
               "Keyboard...|-|About Brinto...|-|Quit");
+}
+
+TEST(Window, SizeAndPositionAreKeptBesideTheCalculator) {
+    const std::string db = std::filesystem::temp_directory_path() /
+                           ("brinto-geometry-" + std::to_string(QCoreApplication::applicationPid()) + ".db");
+    {
+        RecordingHost host;
+        Calculator calculator(host);
+        calculator.Start(AppOptions{db, false, {}});
+        MainWindow window(calculator.session);
+        window.resize(500, 620);
+        calculator.Save(window.saveGeometry());
+    }
+    RecordingHost host;
+    Calculator calculator(host);
+    calculator.Start(AppOptions{db, false, {}});
+    MainWindow window(calculator.session);
+    ASSERT_TRUE(window.restoreGeometry(calculator.SavedGeometry()));
+    EXPECT_EQ(window.size(), QSize(500, 620));
+    EXPECT_TRUE(host.messages.empty());
+    std::filesystem::remove(db);
 }
 
 TEST(Window, KeysAndDisplayAreVisibleToAccessibilityTools) {
