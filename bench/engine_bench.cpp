@@ -28,14 +28,14 @@ void BM_DispatchDigit(benchmark::State& state) {
     Engine e = RpnEngine();
     for (auto _ : state) {
         e.state.status &= static_cast<u16>(~status::Entry);  // each digit starts a new number
-        benchmark::DoNotOptimize(e.Dispatch(7));
+        benchmark::DoNotOptimize(e.Dispatch(fid::Digit7));
     }
 }
 BENCHMARK(BM_DispatchDigit);
 
 void BM_DispatchEnter(benchmark::State& state) {
     Engine e = RpnEngine();
-    e.Dispatch(3);
+    e.Dispatch(fid::Digit3);
     for (auto _ : state) benchmark::DoNotOptimize(e.Dispatch(fid::Enter));
 }
 BENCHMARK(BM_DispatchEnter);
@@ -52,9 +52,9 @@ BENCHMARK(BM_DispatchAdd);
 
 // The script of the stdin benchmark: 50,000 products of digit pairs summed in RPN.
 std::vector<FunctionId> ProductSumProgram() {
-    std::vector<FunctionId> keys = {fid::MethodRpn, 0};
+    std::vector<FunctionId> keys = {fid::MethodRpn, fid::Digit0};
     for (int i = 0; i < 50000; ++i) {
-        const FunctionId a = static_cast<FunctionId>(i % 10), b = static_cast<FunctionId>((i * 7) % 10);
+        const FunctionId a = DigitKey(i % 10), b = DigitKey((i * 7) % 10);
         for (FunctionId k : {fid::Enter, a, fid::Enter, b, fid::Multiply, fid::Add}) keys.push_back(k);
     }
     return keys;

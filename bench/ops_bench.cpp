@@ -31,26 +31,26 @@ void KeyOn(benchmark::State& state, Level y, Level x, FunctionId key) {
 }
 
 // Scientific: sine in degrees (exact-zero tests, conversion to radians); rectangular to polar.
-BENCHMARK_CAPTURE(KeyOn, sine, Level{0, 0}, Level{30, 0}, fid::Sin);
-BENCHMARK_CAPTURE(KeyOn, rectangularToPolar, Level{1, 0}, Level{-1, 0}, fid::RectToPolar);
-BENCHMARK_CAPTURE(KeyOn, factorial170, Level{0, 0}, Level{170, 0}, fid::Factorial);
+BENCHMARK_CAPTURE(KeyOn, sine, Level{0, ValueTag::None}, Level{30, ValueTag::None}, fid::Sin);
+BENCHMARK_CAPTURE(KeyOn, rectangularToPolar, Level{1, ValueTag::None}, Level{-1, ValueTag::None}, fid::RectToPolar);
+BENCHMARK_CAPTURE(KeyOn, factorial170, Level{0, ValueTag::None}, Level{170, ValueTag::None}, fid::Factorial);
 
 // Programmer: NOT of a u16 value; rotate right of an 8-bit value through the evaluator.
-BENCHMARK_CAPTURE(KeyOn, bitwiseNot, Level{0, 0}, Level{1234, 1926}, fid::Not);
-BENCHMARK_CAPTURE(KeyOn, rotateRight, Level{3, 1924}, Level{-1, 0}, fid::RotateRight);
+BENCHMARK_CAPTURE(KeyOn, bitwiseNot, Level{0, ValueTag::None}, Level{1234, ValueTag::U16}, fid::Not);
+BENCHMARK_CAPTURE(KeyOn, rotateRight, Level{3, ValueTag::U8}, Level{-1, ValueTag::None}, fid::RotateRight);
 
 // Conversion: a unit key converting inches to feet; meters plus centimetres (X converted into
 // Y's unit); 100 km / 50 mi/h.
-BENCHMARK_CAPTURE(KeyOn, inchesToFeet, Level{0, 0}, Level{12, 1900}, 143);
-BENCHMARK_CAPTURE(KeyOn, metersPlusCm, Level{2, 1903}, Level{50, 1930}, fid::Add);
-BENCHMARK_CAPTURE(KeyOn, kmPerMph, Level{100, 1933}, Level{50, 1911}, fid::Divide);
+BENCHMARK_CAPTURE(KeyOn, inchesToFeet, Level{0, ValueTag::None}, Level{12, ValueTag::Inches}, fid::Feet);
+BENCHMARK_CAPTURE(KeyOn, metersPlusCm, Level{2, ValueTag::Meters}, Level{50, ValueTag::Centimeters}, fid::Add);
+BENCHMARK_CAPTURE(KeyOn, kmPerMph, Level{100, ValueTag::Kilometers}, Level{50, ValueTag::MilesPerHour}, fid::Divide);
 
 // Date & Time: Y.MMDD to a date; decimal hours to h.mmss; a date-time plus one day; 90 minutes
 // to hours through the duration chain.
-BENCHMARK_CAPTURE(KeyOn, dateEntry, Level{0, 0}, Level{5.0315, 0}, fid::Date);
-BENCHMARK_CAPTURE(KeyOn, hoursToHms, Level{0, 0}, Level{1.5125, 1808}, fid::ToHms);
-BENCHMARK_CAPTURE(KeyOn, dateTimePlusDay, Level{3193739130.0, 1803}, Level{1, 0}, fid::Add);
-BENCHMARK_CAPTURE(KeyOn, minutesToHours, Level{0, 0}, Level{90, 1809}, 193);
+BENCHMARK_CAPTURE(KeyOn, dateEntry, Level{0, ValueTag::None}, Level{5.0315, ValueTag::None}, fid::Date);
+BENCHMARK_CAPTURE(KeyOn, hoursToHms, Level{0, ValueTag::None}, Level{1.5125, ValueTag::Hours}, fid::ToHms);
+BENCHMARK_CAPTURE(KeyOn, dateTimePlusDay, Level{3193739130.0, ValueTag::DateTime}, Level{1, ValueTag::None}, fid::Add);
+BENCHMARK_CAPTURE(KeyOn, minutesToHours, Level{0, ValueTag::None}, Level{90, ValueTag::Minutes}, fid::Hours);
 
 // Constants: the list's OK through the session, with its undo step.
 class NoHost : public Host {

@@ -35,7 +35,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     UserKeyMap userKeys = EmptyUserKeyMap();
     LoadState(*engine, userKeys, store);
     brinto::fuzz::CheckEngineInvariants(*engine);
-    constexpr FunctionId kProbeKeys[] = {1, 21, 2, 22, 38, 213, 215, 45, 9, 20};
+    constexpr FunctionId kProbeKeys[] = {fid::Digit1,   fid::Enter,     fid::Digit2,    fid::Add,
+                                         fid::RollDown, fid::MacroPlay, fid::MacroStop, fid::Recall,
+                                         fid::Digit9,   fid::Backspace};
     for (const FunctionId id : kProbeKeys) {
         engine->Dispatch(id);
         brinto::fuzz::CheckEngineInvariants(*engine);

@@ -42,7 +42,11 @@ bool SameCalculator(const Engine& a, const UserKeyMap& aKeys, const Engine& b, c
 
 // Keys that read every part of the loaded state: the stack, the pending operators, the registers
 // and the macro, and undo of what they did.
-constexpr FunctionId kProbeKeys[] = {1, 21, 22, 26, 48, 38, 39, 45, 7, 213, 214, 213, 215, 20, 44, 83, 110, 87, 88};
+constexpr FunctionId kProbeKeys[] = {fid::Digit1,     fid::Enter,     fid::Add,        fid::Equals,
+                                     fid::CloseParen, fid::RollDown,  fid::RollUp,     fid::Recall,
+                                     fid::Digit7,     fid::MacroPlay, fid::MacroPause, fid::MacroPlay,
+                                     fid::MacroStop,  fid::Backspace, fid::LastX,      fid::Amortize,
+                                     fid::SigmaPlus,  fid::Npv,       fid::Irr};
 
 }  // namespace
 

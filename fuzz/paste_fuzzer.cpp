@@ -71,8 +71,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     engine.prefs.SetMethod(static_cast<InputMethod>(setup % 3));
     engine.ClearStack();
     session.SelectKeyboard(4);
-    engine.Dispatch(130 + (setup >> 2) % 4);  // binary, octal, decimal, hexadecimal
-    if (setup & 0x40) engine.Dispatch(1);     // a number is being typed
+    constexpr FunctionId kBases[] = {fid::BaseBinary, fid::BaseOctal, fid::BaseDecimal, fid::BaseHex};
+    engine.Dispatch(kBases[(setup >> 2) % 4]);
+    if (setup & 0x40) engine.Dispatch(fid::Digit1);     // a number is being typed
     const u16 base = engine.EntryBase();
     const auto expected = ParsePasted(span, base);
     const double before = engine.X();

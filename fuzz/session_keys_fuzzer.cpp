@@ -120,8 +120,8 @@ struct Calculator {
     void Run(const Action& a) {
         switch (a.step) {
             case Step::TapKey:
-            case Step::TapRawId: session.Tap(a.value); break;
-            case Step::DispatchKey: engine.Dispatch(a.value); break;
+            case Step::TapRawId: session.Tap(FunctionIdFrom(a.value)); break;
+            case Step::DispatchKey: engine.Dispatch(FunctionIdFrom(a.value)); break;
             case Step::Character: session.CharacterKey(a.value); break;
             case Step::Special: session.Special(static_cast<SpecialKey>(a.value)); break;
             case Step::Action: session.ActionButton(); break;
@@ -138,7 +138,7 @@ struct Calculator {
             case Step::PreferenceField: SetPreferenceField(engine.prefs, a.value, a.extra); break;
             case Step::UserKey:
                 session.AssignUserKey(a.value < 12 ? KeyHalf::Unshifted : KeyHalf::Shifted,
-                                      static_cast<int>(a.value % 12) + 1, a.extra);
+                                      static_cast<int>(a.value % 12) + 1, FunctionIdFrom(a.extra));
                 break;
             case Step::HostAnswers:
                 host.confirm = a.value;

@@ -62,7 +62,7 @@ QStringList DisplayView::Annunciators() const {
         case status::BaseHex: on << QStringLiteral("HEX"); break;
         default: break;
     }
-    if (e.EntryBase() != 0) on << Utf8(LabelText(static_cast<u32>(DefaultIntegerFormatTag(e.prefs))));
+    if (e.EntryBase() != 0) on << Utf8(LabelText(DefaultIntegerFormatTag(e.prefs)));
     if (e.state.status & status::Hyperbolic) on << QStringLiteral("HYP");
     if (e.state.engineFlags & flags::Recording) on << Utf8(LabelText(fid::TagMemory));
     return on;

@@ -360,7 +360,7 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
         return 0;
     }
     if (options->listKeys) {
-        for (const KeyInfo& k : kKeyTable) out << k.name << ' ' << k.id << '\n';
+        for (const KeyInfo& k : kKeyTable) out << k.name << ' ' << ToNumber(k.id) << '\n';
         for (int i = 0; i < kConstantCount; ++i) out << "const:" << i << ' ' << ConstantName(i) << '\n';
         return 0;
     }

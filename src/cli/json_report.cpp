@@ -43,11 +43,11 @@ void AppendArray(std::string& out, const T* items, int count, F each) {
     out += ']';
 }
 
-void AppendEntry(std::string& out, double value, int tag, int aux) {
+void AppendEntry(std::string& out, double value, ValueTag tag, int aux) {
     out += "{\"value\":";
     AppendNumber(out, value);
     out += ",\"tag\":";
-    AppendInt(out, tag);
+    AppendInt(out, ToNumber(tag));
     out += ",\"aux\":";
     AppendInt(out, aux);
 }
@@ -96,9 +96,9 @@ std::string JsonReport(const Session& session, const Report& report) {
     AppendInt(out, s.engineFlags);
     out += ",\"pending\":";
     AppendArray(out, s.pendingOps, s.pendingCount > kMaxPending ? kMaxPending : s.pendingCount,
-                [](std::string& o, u32 v) { AppendInt(o, v); });
+                [](std::string& o, FunctionId v) { AppendInt(o, ToNumber(v)); });
     out += ",\"repeatOperator\":";
-    AppendInt(out, s.repeatOperator);
+    AppendInt(out, ToNumber(s.repeatOperator));
     out += ",\"parenDepth\":";
     AppendInt(out, s.parenDepth);
     out += ",\"registers\":";
@@ -124,7 +124,7 @@ std::string JsonReport(const Session& session, const Report& report) {
     AppendArray(out, e.prefs.words.data(), 7, [](std::string& o, u16 v) { AppendInt(o, v); });
     out += ",\"macro\":";
     AppendArray(out, e.macro.macroKeys, e.macro.macroLength > kMacroSlots ? kMacroSlots : e.macro.macroLength,
-                [](std::string& o, u32 v) { AppendInt(o, v); });
+                [](std::string& o, FunctionId v) { AppendInt(o, ToNumber(v)); });
     out += ",\"messages\":";
     AppendArray(out, report.messages.data(), static_cast<int>(report.messages.size()),
                 [](std::string& o, const ReportMessage& m) {

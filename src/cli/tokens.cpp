@@ -52,25 +52,25 @@ std::optional<Token> ParseToken(std::string_view text) {
     if (text[0] == '#') {
         const auto id = WholeNumber(text.substr(1), 0, 65535);
         if (!id) return std::nullopt;
-        return Token{TokenKind::ExactKey, static_cast<FunctionId>(*id), {}, 0};
+        return Token{TokenKind::ExactKey, FunctionIdFrom(static_cast<u32>(*id)), {}, 0};
     }
-    if (IsNumberToken(text)) return Token{TokenKind::Number, 0, text, 0};
-    if (StartsWith(text, "keys:")) return Token{TokenKind::Characters, 0, text.substr(5), 0};
-    if (StartsWith(text, "paste:")) return Token{TokenKind::Paste, 0, text.substr(6), 0};
+    if (IsNumberToken(text)) return Token{TokenKind::Number, kNoKey, text, 0};
+    if (StartsWith(text, "keys:")) return Token{TokenKind::Characters, kNoKey, text.substr(5), 0};
+    if (StartsWith(text, "paste:")) return Token{TokenKind::Paste, kNoKey, text.substr(6), 0};
     if (StartsWith(text, "kb:")) {
         const auto n = WholeNumber(text.substr(3), 0, 8);
         if (!n) return std::nullopt;
-        return Token{TokenKind::Keyboard, 0, {}, *n};
+        return Token{TokenKind::Keyboard, kNoKey, {}, *n};
     }
     if (StartsWith(text, "key:")) {
         const auto n = WholeNumber(text.substr(4), 1, 12);
         if (!n) return std::nullopt;
-        return Token{TokenKind::BlockKey, 0, {}, *n};
+        return Token{TokenKind::BlockKey, kNoKey, {}, *n};
     }
     if (StartsWith(text, "const:")) {
         const auto n = WholeNumber(text.substr(6), 0, 32);
         if (!n) return std::nullopt;
-        return Token{TokenKind::Constant, 0, {}, *n};
+        return Token{TokenKind::Constant, kNoKey, {}, *n};
     }
     struct Command {
         std::string_view name;
@@ -80,7 +80,7 @@ std::optional<Token> ParseToken(std::string_view text) {
                                             {"copy", TokenKind::Copy}, {"cut", TokenKind::Cut},
                                             {"basic", TokenKind::Basic}, {"advanced", TokenKind::Advanced}};
     for (const Command& c : kCommands) {
-        if (text == c.name) return Token{c.kind, 0, {}, 0};
+        if (text == c.name) return Token{c.kind, kNoKey, {}, 0};
     }
     if (const auto id = KeyByName(text)) return Token{TokenKind::Key, *id, {}, 0};
     return std::nullopt;

@@ -4,7 +4,7 @@
 #include <optional>
 #include <string_view>
 
-#include "engine/types.h"
+#include "engine/function_ids.h"
 
 namespace brinto {
 
@@ -14,7 +14,7 @@ enum class TokenKind { Key, ExactKey, Number, Characters, Keyboard, BlockKey, Un
 
 struct Token {
     TokenKind kind;
-    FunctionId id = 0;      // Key and ExactKey
+    FunctionId id = kNoKey;  // Key and ExactKey
     std::string_view text;  // Number, Characters and Paste
     int number = 0;         // Keyboard, BlockKey, Constant
 };
@@ -25,22 +25,23 @@ std::optional<Token> ParseToken(std::string_view text);
 // A decimal number such as "12", ".5", "-3" or "-1.5e-3".
 bool IsNumberToken(std::string_view text);
 
-// Types a number token as keys: the mantissa digits and point, 19 if the mantissa is negative,
-// then 18 if an exponent follows, 19 if the exponent is negative, and the exponent digits.
+// Types a number token as keys: the mantissa digits and point, change sign if the mantissa is
+// negative, then the exponent key if an exponent follows, change sign if the exponent is negative,
+// and the exponent digits.
 template <typename Tap>
 void TypeNumber(std::string_view t, Tap&& tap) {
     const bool negative = !t.empty() && t[0] == '-';
     std::size_t i = negative ? 1 : 0;
-    for (; i < t.size() && t[i] != 'e' && t[i] != 'E'; ++i) tap(t[i] == '.' ? FunctionId{16} : FunctionId(t[i] - '0'));
-    if (negative) tap(FunctionId{19});
+    for (; i < t.size() && t[i] != 'e' && t[i] != 'E'; ++i) tap(t[i] == '.' ? fid::Point : DigitKey(t[i] - '0'));
+    if (negative) tap(fid::ChangeSign);
     if (i == t.size()) return;
-    tap(FunctionId{18});
+    tap(fid::Exponent);
     ++i;
     if (t[i] == '-' || t[i] == '+') {
-        if (t[i] == '-') tap(FunctionId{19});
+        if (t[i] == '-') tap(fid::ChangeSign);
         ++i;
     }
-    for (; i < t.size(); ++i) tap(FunctionId(t[i] - '0'));
+    for (; i < t.size(); ++i) tap(DigitKey(t[i] - '0'));
 }
 
 }  // namespace brinto

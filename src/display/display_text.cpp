@@ -45,7 +45,7 @@ void GroupDigits(std::string& text, char radix, char separator) {
 
 // A date or time shown by the platform is the user's own way of writing it, not a number.
 bool ShowsDateText(const Engine& e, ValueTag tag) {
-    return TagCategory(tag) == 9 && !(e.state.status & status::FullDisplay);
+    return TagCategory(tag) == Category::Calendar && !(e.state.status & status::FullDisplay);
 }
 
 void UseRadix(std::string& text, char radix) {
@@ -80,7 +80,7 @@ std::string DisplayText(const Engine& e, std::string_view formatted, ValueTag ta
     const char radix = commaRadix ? ',' : '.';
     std::string text(formatted);
     if (commaRadix && !ShowsDateText(e, tag)) UseRadix(text, radix);
-    if (e.EntryBase() != 0 || TagCategory(tag) == 9) return text;
+    if (e.EntryBase() != 0 || TagCategory(tag) == Category::Calendar) return text;
 
     // With a digit count set, the zeros that fill it are meant to be seen; integer values and the
     // full display show only the digits they have.
@@ -114,7 +114,7 @@ DisplayLine DisplayLevel(const Engine& e, int level, Amortizing amortizing) {
 
 std::optional<std::string> ClipboardText(const Engine& e) {
     const ValueTag tag = e.XTag();
-    const bool integerForm = e.EntryBase() != 0 && TagCategory(tag) != 9;
+    const bool integerForm = e.EntryBase() != 0 && TagCategory(tag) != Category::Calendar;
     FormattedText formatted;
     if (FormatValue(e, e.X(), tag, integerForm, formatted) != 0) return std::nullopt;
     std::string text(formatted.View());

@@ -2,9 +2,9 @@
 
 namespace brinto {
 
-std::string_view LabelText(u32 code) {
+std::string_view LabelText(ValueTag tag) {
     for (const LabelRow& row : kLabelTable) {
-        if (row.code == code) return row.text;
+        if (row.tag == tag) return row.text;
     }
     return {};
 }

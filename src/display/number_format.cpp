@@ -114,7 +114,7 @@ u32 FormatInteger(const Engine& e, double value, ValueTag tag, bool noPoint, For
     // The error value has no integer form; showing it as 0 would hide the failure.
     if (!std::isfinite(value)) return 1;
     ValueTag format = IntegerFormatOf(e.prefs, tag);
-    if (format == 0) format = fid::TagS32;
+    if (format == ValueTag::None) format = ValueTag::S32;
     u32 bits = NarrowBits(value, tag, format);
 
     const int bitsPerDigit = e.EntryBase() == status::BaseBinary ? 1 : e.EntryBase() == status::BaseOctal ? 3 : 4;
@@ -188,7 +188,7 @@ u32 FormatDecimal(double value, NumberFormat format, int digitField, FormattedTe
 
 u32 FormatValue(const Engine& e, double value, ValueTag tag, bool noPoint, FormattedText& out) {
     const bool fullDisplay = e.state.status & status::FullDisplay;
-    if (TagCategory(tag) == 9) {
+    if (TagCategory(tag) == Category::Calendar) {
         if (fullDisplay) return FormatDecimal(value, e.prefs.Format(), 0, out);
         return FormatDateTime(e, value, tag, out);
     }

@@ -10,12 +10,14 @@ enum class Level { None, Additive, Multiplicative, Highest };
 
 Level LevelOf(FunctionId id) {
     switch (id) {
-        case 22: case 23: case 180: case 181:
+        case fid::Add: case fid::Subtract: case fid::IntegerAdd: case fid::IntegerSubtract:
             return Level::Additive;
-        case 24: case 25: case 182: case 183:
+        case fid::Multiply: case fid::Divide: case fid::IntegerMultiply: case fid::IntegerDivide:
             return Level::Multiplicative;
-        case 54: case 55: case 64: case 67: case 128: case 129: case 134: case 135: case 136:
-        case 138: case 139: case 140: case 141: case 166:
+        case fid::PercentTotal: case fid::PercentChange: case fid::Power: case fid::Modulo: case fid::XRoot:
+        case fid::Combinations: case fid::Permutations:
+        case fid::And: case fid::Or: case fid::Xor:
+        case fid::ShiftLeft: case fid::ShiftRight: case fid::ArithmeticShiftRight: case fid::RotateRight:
             return Level::Highest;
         default:
             return Level::None;
@@ -69,13 +71,13 @@ void EvaluatePending(Engine& e, PendingScope scope) {
     }
 }
 
-u32 OpenParen(Engine& e) {
+bool OpenParen(Engine& e) {
     if (!e.LiftEnabled()) {
-        if (!e.PushPending(fid::OpenParen)) return 0;
+        if (!e.PushPending(fid::OpenParen)) return false;
         e.DisableLift();
     }
     ++e.state.parenDepth;
-    return 1;
+    return true;
 }
 
 void CloseParen(Engine& e) {

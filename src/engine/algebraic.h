@@ -13,7 +13,7 @@ void ApplyBinary(Engine& e, FunctionId op);
 // One: one entry. ToParen: entries until a "(" marker has been popped.
 void EvaluatePending(Engine& e, PendingScope scope);
 // "(": false when the pending stack is full.
-u32 OpenParen(Engine& e);
+bool OpenParen(Engine& e);
 void CloseParen(Engine& e);
 
 bool IsBinaryOperator(FunctionId id);

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <type_traits>
 
-#include "engine/types.h"
+#include "engine/function_ids.h"
 
 namespace brinto {
 
@@ -12,6 +12,9 @@ inline constexpr int kStackLevels = 20;
 inline constexpr int kMaxPending = 40;
 inline constexpr int kEntryCapacity = 40;  // 32 binary digits, sign, point, "e", sign, 3 digits, NUL
 inline constexpr u16 kCalcStateVersion = 7;
+
+// pendingArgument when no register prefix waits for its register.
+inline constexpr u32 kNoPendingArgument = ToNumber(kNoKey);
 
 // Bits of CalcState::status.
 namespace status {
@@ -21,7 +24,7 @@ inline constexpr u16 BaseBinary = 0x0010;
 inline constexpr u16 BaseOctal = 0x0020;
 inline constexpr u16 BaseHex = 0x0030;
 inline constexpr u16 FirstShift = 0x0040;
-inline constexpr u16 FullDisplay = 0x0080;   // key 28: all digits, dates as numbers
+inline constexpr u16 FullDisplay = 0x0080;   // display toggle: all digits, dates as numbers
 inline constexpr u16 Entry = 0x0100;         // a number is being typed
 inline constexpr u16 Exponent = 0x0200;      // its exponent is being typed
 inline constexpr u16 KeepEntry = 0x0400;     // the entry stays open across a prefix key
@@ -53,7 +56,7 @@ inline constexpr u16 Paused = 0x0200;
 inline constexpr u16 UndoSuspended = 0x0400;
 inline constexpr u16 Cleared = 0x0800;
 inline constexpr u16 Redraw = 0x1000;
-inline constexpr u16 Begin = 0x2000;  // key 68: payments at the start of each period
+inline constexpr u16 Begin = 0x2000;  // Begin/End: payments at the start of each period
 inline constexpr u16 AngleMask = 0xC000;
 inline constexpr int AngleShift = 14;
 }  // namespace flags
@@ -70,15 +73,15 @@ struct CalcState {
     u8 exponentDigits;
     char entryText[kEntryCapacity];
     double stack[kStackLevels];
-    u16 tags[kStackLevels];
+    ValueTag tags[kStackLevels];
     u16 aux[kStackLevels];
     u16 pendingCount;
     u32 pendingArgument;
-    u32 pendingFormat;
-    u32 pendingOps[kMaxPending];
-    u32 repeatOperator;
+    FunctionId pendingFormat;
+    FunctionId pendingOps[kMaxPending];
+    FunctionId repeatOperator;
     double lastX;
-    u16 lastXTag;
+    ValueTag lastXTag;
     u16 lastXAux;
     double amortInterest;
     double amortPrincipal;
@@ -87,16 +90,17 @@ struct CalcState {
     i16 amortEnd;
     u16 amortStep;
     u16 macroPosition;
-    u32 macroSavedMethod;
+    FunctionId macroSavedMethod;
     u16 parenDepth;
-    u32 lastKey;
-    u32 lastCommand;
-    u32 randomSeed;        // state of the random-number generator (key 123)
+    FunctionId lastKey;
+    FunctionId lastCommand;
+    u32 randomSeed;        // state of the random-number generator
     u16 constantsTopRow;   // first visible row of the "Constants" list
     u16 lastView;          // the last dialog view opened, for the "Open last form" action
     u8 reserved1[32];
 };
 
+static_assert(sizeof(FunctionId) == 4 && sizeof(ValueTag) == 2, "keys and tags keep their saved widths");
 static_assert(std::is_trivially_copyable_v<CalcState>);
 static_assert(sizeof(CalcState) == 576);
 static_assert(offsetof(CalcState, version) == 0);

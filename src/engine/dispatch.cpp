@@ -16,9 +16,16 @@ namespace brinto {
 
 namespace {
 
-constexpr std::array<FamilyHandler, 7> kFamilies = {
-    HandleRegisterKey,  HandleFormatPrefix,  HandleModeKey,  HandleFinancialKey,
-    HandleScientificFamily, HandleConversionKey, HandleOperator,
+struct Family {
+    FamilyHandler handle;
+    // Whether taking a key ends a run of deferred operators; the operator handler keeps that
+    // flag itself.
+    bool endsOperatorRun;
+};
+constexpr std::array kFamilies = {
+    Family{HandleRegisterKey, true},  Family{HandleFormatPrefix, true},     Family{HandleModeKey, true},
+    Family{HandleFinancialKey, true}, Family{HandleScientificFamily, true}, Family{HandleConversionKey, true},
+    Family{HandleOperator, false},
 };
 
 bool IsShiftKey(FunctionId id) { return id == fid::Shift || id == fid::FirstShift || id == fid::SecondShift; }
@@ -26,7 +33,7 @@ bool IsShiftKey(FunctionId id) { return id == fid::Shift || id == fid::FirstShif
 bool IsMacroKey(FunctionId id) { return id >= fid::MacroRecord && id <= fid::MacroStop; }
 
 bool PrefixPending(const CalcState& s) {
-    return s.pendingArgument != kNoKey || s.pendingFormat != kNoKey || (s.status & status::Hyperbolic);
+    return s.pendingArgument != kNoPendingArgument || s.pendingFormat != kNoKey || (s.status & status::Hyperbolic);
 }
 
 void SetBase(CalcState& s, u16 base) {
@@ -35,38 +42,38 @@ void SetBase(CalcState& s, u16 base) {
 
 // What a built-in key did, for the steps after it.
 struct Outcome {
-    u32 accepted = 1;
-    FunctionId actedAs;     // the key whose after-steps apply (backspace can act as 31, 40 or 96)
-    bool endsEntry = false; // change sign outside an entry ends it, although its id is below 21
+    bool accepted = true;
+    FunctionId actedAs;     // the key whose after-steps apply (backspace can act as clear X, drop or hyp)
+    bool endsEntry = false; // change sign outside an entry ends it, although it is an entry key
 };
 
-u32 Digit(Engine& e, FunctionId id) {
+bool Digit(Engine& e, FunctionId id) {
     const u16 base = e.EntryBase();
-    if (id >= 2 && id <= 7 && base == status::BaseBinary) SetBase(e.state, 0);
-    if (id >= 8 && id <= 9 && (base == status::BaseBinary || base == status::BaseOctal)) SetBase(e.state, 0);
+    // A digit the base cannot hold switches the entry to decimal.
+    const int digit = DigitValue(id);
+    if (digit >= 2 && base == status::BaseBinary) SetBase(e.state, 0);
+    if (digit >= 8 && base == status::BaseOctal) SetBase(e.state, 0);
     return EditEntry(e, id);
 }
 
-u32 HexDigit(Engine& e, FunctionId id) {
+bool HexDigit(Engine& e, FunctionId id) {
     // A decimal number already holding a point or an exponent has no hexadecimal reading, so a
     // letter cannot switch it to hexadecimal: the key is refused and the number stays as typed.
     const bool decimalOnly = e.EntryOpen() && e.EntryBase() == 0 &&
                              (std::strchr(e.state.entryText, '.') || std::strchr(e.state.entryText, 'e'));
-    if (decimalOnly) return 0;
+    if (decimalOnly) return false;
     if (e.IntegerEntryAllowed()) SetBase(e.state, status::BaseHex);
-    if (e.EntryBase() != status::BaseHex) return 0;
+    if (e.EntryBase() != status::BaseHex) return false;
     return EditEntry(e, id);
 }
 
 // Change sign outside a decimal entry: a unit or date keeps its tag, any other tag is dropped.
 void NegateX(Engine& e) {
-    const u32 category = TagCategory(e.XTag());
+    const Category category = TagCategory(e.XTag());
     e.state.stack[0] = -e.state.stack[0];
-    if (category == 0 || category == 7) {
-        e.state.tags[0] = 0;
+    if (category == Category::None || category == Category::IntegerFormat) {
+        e.state.tags[0] = ValueTag::None;
         e.state.aux[0] = kNoAux;
-    } else if (e.state.tags[0] < 1800) {
-        e.state.tags[0] = 0;
     }
 }
 
@@ -130,16 +137,17 @@ void ClearAndShow(Engine& e, void (*clear)(Engine&), int registerNumber, ValueTa
 
 Outcome HandleBuiltIn(Engine& e, FunctionId id) {
     CalcState& s = e.state;
-    Outcome out{1, id, false};
+    Outcome out{true, id, false};
     switch (id) {
-        case 0: case 1: case 2: case 3: case 4: case 5: case 6: case 7: case 8: case 9:
+        case fid::Digit0: case fid::Digit1: case fid::Digit2: case fid::Digit3: case fid::Digit4:
+        case fid::Digit5: case fid::Digit6: case fid::Digit7: case fid::Digit8: case fid::Digit9:
             out.accepted = Digit(e, id);
             break;
-        case 10: case 11: case 12: case 13: case 14: case 15:
+        case fid::HexA: case fid::HexB: case fid::HexC: case fid::HexD: case fid::HexE: case fid::HexF:
             out.accepted = HexDigit(e, id);
             break;
         case fid::Point: case fid::Point2: case fid::Exponent:
-            out.accepted = e.EntryBase() == 0 ? EditEntry(e, id) : 0;
+            out.accepted = e.EntryBase() == 0 && EditEntry(e, id);
             break;
         case fid::ChangeSign:
         case fid::IntegerNegate:
@@ -152,7 +160,7 @@ Outcome HandleBuiltIn(Engine& e, FunctionId id) {
             break;
         case fid::Backspace:
             if (s.status & status::Hyperbolic) {
-                out.accepted = 0;
+                out.accepted = false;
                 out.actedAs = fid::Hyperbolic;  // the prefix is cancelled by the toggle below
             } else if (e.EntryOpen()) {
                 out.accepted = EditEntry(e, id);
@@ -165,7 +173,7 @@ Outcome HandleBuiltIn(Engine& e, FunctionId id) {
             }
             break;
         case fid::Enter:
-            if (!e.IsRpn() && s.pendingCount >= kMaxPending) return {0, id, false};
+            if (!e.IsRpn() && s.pendingCount >= kMaxPending) return {false, id, false};
             e.Lift();
             e.DisableLift();
             if (!e.IsRpn()) e.PushPending(fid::Enter);
@@ -187,8 +195,8 @@ Outcome HandleBuiltIn(Engine& e, FunctionId id) {
             ClearStatistics(e);
             e.KeepLiftState();
             break;
-        case fid::ClearFinancial: ClearAndShow(e, ClearFinancial, reg::PYr, 1404); break;
-        case fid::ClearDate: ClearAndShow(e, ClearDateGroup, reg::FramesPerSecond, fid::TagDpy + 4); break;
+        case fid::ClearFinancial: ClearAndShow(e, ClearFinancial, reg::PYr, label::PerYear); break;
+        case fid::ClearDate: ClearAndShow(e, ClearDateGroup, reg::FramesPerSecond, label::FramesPerSecond); break;
         case fid::ClearStatistics: ClearStatistics(e); break;
         case fid::RollDown: e.RollDown(); break;
         case fid::RollUp: e.RollUp(); break;
@@ -207,16 +215,16 @@ Outcome HandleBuiltIn(Engine& e, FunctionId id) {
         case fid::MacroPlay: MacroPlay(e); break;
         case fid::MacroPause: MacroPause(e); break;
         case fid::MacroStop: MacroStop(e); break;
-        default: out.accepted = 0; break;
+        default: out.accepted = false; break;
     }
     return out;
 }
 
 // Ends or keeps the entry and resolves the lift bits after a key.
-u32 EndKey(Engine& e, FunctionId id, const Outcome& out) {
-    u32 accepted = out.accepted;
+bool EndKey(Engine& e, FunctionId id, const Outcome& out) {
+    bool accepted = out.accepted;
     CalcState& s = e.state;
-    if (s.pendingArgument != kNoKey) {
+    if (s.pendingArgument != kNoPendingArgument) {
         s.status |= status::KeepEntry;
         return accepted;
     }
@@ -225,7 +233,7 @@ u32 EndKey(Engine& e, FunctionId id, const Outcome& out) {
     s.status &= static_cast<u16>(~(status::Entry | status::KeepEntry));
     if (out.actedAs == fid::Hyperbolic) {
         s.status ^= status::Hyperbolic;
-        accepted = 1;
+        accepted = true;
     } else {
         s.status &= static_cast<u16>(~status::Hyperbolic);
     }
@@ -299,7 +307,7 @@ bool HandleFormatPrefix(Engine& e, FunctionId id) {
     const u16 code = prefix == fid::FormatStandard ? 0 : prefix == fid::FormatScientific ? 1
                    : prefix == fid::FormatEngineering ? 2 : 3;
     e.prefs.SetFormat(static_cast<NumberFormat>(code));
-    e.prefs.SetDigitField(id <= fid::Digit9 ? static_cast<int>(id) + 1 : 0);
+    e.prefs.SetDigitField(IsDecimalDigit(id) ? DigitValue(id) + 1 : 0);
     e.dirty.preferences = true;
     e.dirty.state = true;
     e.RequestRedraw();
@@ -308,21 +316,23 @@ bool HandleFormatPrefix(Engine& e, FunctionId id) {
 
 bool HandleModeKey(Engine& e, FunctionId id) {
     CalcState& s = e.state;
+    const auto setAngle = [&s](AngleUnit unit) {
+        s.engineFlags = static_cast<u16>((s.engineFlags & ~flags::AngleMask) |
+                                         (static_cast<u16>(unit) << flags::AngleShift));
+    };
+    bool baseChanged = false;
     switch (id) {
         case fid::BeginEnd: s.engineFlags ^= flags::Begin; break;
-        case fid::Degrees:
-        case fid::Radians:
-        case fid::Grads:
-            s.engineFlags = static_cast<u16>((s.engineFlags & ~flags::AngleMask) |
-                                             ((id - fid::Degrees) << flags::AngleShift));
-            break;
-        case fid::BaseBinary: SetBase(s, status::BaseBinary); break;
-        case fid::BaseOctal: SetBase(s, status::BaseOctal); break;
-        case fid::BaseDecimal: SetBase(s, 0); break;
-        case fid::BaseHex: SetBase(s, status::BaseHex); break;
+        case fid::Degrees: setAngle(AngleUnit::Degrees); break;
+        case fid::Radians: setAngle(AngleUnit::Radians); break;
+        case fid::Grads: setAngle(AngleUnit::Grads); break;
+        case fid::BaseBinary: SetBase(s, status::BaseBinary), baseChanged = true; break;
+        case fid::BaseOctal: SetBase(s, status::BaseOctal), baseChanged = true; break;
+        case fid::BaseDecimal: SetBase(s, 0), baseChanged = true; break;
+        case fid::BaseHex: SetBase(s, status::BaseHex), baseChanged = true; break;
         default: return false;
     }
-    if (id >= fid::BaseBinary && id <= fid::BaseHex) RederiveIntegerTag(e);
+    if (baseChanged) RederiveIntegerTag(e);
     e.dirty.state = true;
     e.KeepLiftState();
     e.RequestRedraw();
@@ -334,7 +344,7 @@ bool HandleScientificFamily(Engine& e, FunctionId id) {
            HandleIntegerKey(e, id);
 }
 
-u32 Engine::Dispatch(FunctionId id) {
+bool Engine::Dispatch(FunctionId id) {
     if (id == fid::Enter2) id = fid::Enter;
     CalcState& s = state;
     const bool shiftKey = IsShiftKey(id);
@@ -343,28 +353,30 @@ u32 Engine::Dispatch(FunctionId id) {
     if ((s.status & status::BaseMask) && !IntegerEntryAllowed()) SetBase(s, 0);
     const bool entryWasOpen = EntryOpen();
 
-    Outcome out{0, id, false};
+    Outcome out{false, id, false};
     bool taken = false;
-    for (std::size_t i = 0; i < kFamilies.size() && !taken; ++i) {
-        taken = kFamilies[i](*this, id);
-        if (taken && i < 6) s.engineFlags &= static_cast<u16>(~flags::OperatorLast);
+    for (const Family& family : kFamilies) {
+        taken = family.handle(*this, id);
+        if (!taken) continue;
+        if (family.endsOperatorRun) s.engineFlags &= static_cast<u16>(~flags::OperatorLast);
+        break;
     }
     if (taken) {
-        out.accepted = 1;
+        out.accepted = true;
         dirty.state = true;
     } else {
         out = HandleBuiltIn(*this, id);
         if (out.accepted) dirty.state = true;
     }
 
-    u32 accepted = EndKey(*this, id, out);
+    bool accepted = EndKey(*this, id, out);
     if (accepted && !(s.viewFlags & view::ShiftHeld) && !shiftKey) {
         if ((s.status & status::FirstShift) || (s.viewFlags & view::SecondShift)) RequestRedraw();
         s.status &= static_cast<u16>(~status::FirstShift);
         s.viewFlags &= static_cast<u16>(~view::SecondShift);
     }
     if ((s.engineFlags & flags::Recording) && !(s.engineFlags & flags::Playing) && !IsMacroKey(id)) {
-        if (!MacroRecordKey(*this, id)) accepted = 0;
+        if (!MacroRecordKey(*this, id)) accepted = false;
     }
     if (accepted && !shiftKey && !PrefixPending(s) && !(s.engineFlags & flags::UndoSuspended) &&
         !(entryWasOpen && EntryOpen())) {

@@ -20,7 +20,7 @@ void Engine::ResetState() {
     state.version = kCalcStateVersion;
     for (int k = 0; k < kStackLevels; ++k) state.aux[k] = kNoAux;
     state.lastXAux = kNoAux;
-    state.pendingArgument = kNoKey;
+    state.pendingArgument = kNoPendingArgument;
     state.pendingFormat = kNoKey;
     state.repeatOperator = kNoKey;
     state.lastKey = kNoKey;
@@ -60,7 +60,7 @@ void Engine::SetLevel(int k, const StackEntry& entry) {
 
 void Engine::SetX(double value) {
     state.stack[0] = value;
-    state.tags[0] = 0;
+    state.tags[0] = ValueTag::None;
     state.aux[0] = kNoAux;
 }
 
@@ -68,7 +68,7 @@ void Engine::SetXTag(ValueTag tag) { state.tags[0] = tag; }
 
 void Engine::SetY(double value) {
     state.stack[1] = value;
-    state.tags[1] = 0;
+    state.tags[1] = ValueTag::None;
 }
 
 void Engine::SetYTag(ValueTag tag) { state.tags[1] = tag; }
@@ -154,10 +154,10 @@ void Engine::ClearStack() {
                                          ((prefs.words[2] & 0x3) << 5));
     state.pendingCount = 0;
     state.status &= 0x0FFF | status::Markup;
-    state.pendingArgument = kNoKey;
+    state.pendingArgument = kNoPendingArgument;
     state.pendingFormat = kNoKey;
     state.lastX = 0.0;
-    state.lastXTag = 0;
+    state.lastXTag = ValueTag::None;
     state.lastXAux = kNoAux;
     state.repeatOperator = kNoKey;
     state.parenDepth = 0;

@@ -15,7 +15,7 @@ namespace brinto {
 // One level of the operating stack: a value with its tag and aux code; the three move together.
 struct StackEntry {
     double value = 0.0;
-    ValueTag tag = 0;
+    ValueTag tag = ValueTag::None;
     u16 aux = kNoAux;
 };
 
@@ -43,8 +43,8 @@ public:
     const Platform& platform() const { return *m_platform; }
     void SetPlatform(const Platform* platform);
 
-    // Nonzero when the key was accepted.
-    u32 Dispatch(FunctionId id);
+    // True when the key was accepted.
+    bool Dispatch(FunctionId id);
 
     // The reset values of each record. ResetState keeps nothing of the old CalcState but the
     // method bits derived from Preferences.
@@ -92,7 +92,7 @@ public:
     bool IsRpn() const { return state.engineFlags & flags::Rpn; }
     bool IsPrecedence() const { return !IsRpn() && (state.engineFlags & flags::Precedence); }
     InputMethod Method() const;
-    FunctionId MethodKey() const;  // 209, 210 or 211 for the current input method
+    FunctionId MethodKey() const;  // the key of the current input method
     AngleUnit Angle() const { return static_cast<AngleUnit>((state.engineFlags & flags::AngleMask) >> flags::AngleShift); }
     bool EntryOpen() const { return state.status & status::Entry; }
     bool LiftEnabled() const { return state.status & status::LiftEnabled; }

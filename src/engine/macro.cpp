@@ -21,21 +21,21 @@ void RunMacro(Engine& e) {
 
 }  // namespace
 
-u32 MacroRecordKey(Engine& e, FunctionId id) {
+bool MacroRecordKey(Engine& e, FunctionId id) {
     MacroRecord& m = e.macro;
     if (m.macroLength >= kMacroKeyLimit) {
         if (id == fid::MacroStop && m.macroLength < kMacroSlots) {
             m.macroKeys[m.macroLength++] = id;
             e.dirty.macro = true;
-            return 1;
+            return true;
         }
         MacroStop(e);
-        return 0;
+        return false;
     }
     if (e.IntegerEntryAllowed()) id = IntegerVariant(id);
     m.macroKeys[m.macroLength++] = id;
     e.dirty.macro = true;
-    return 1;
+    return true;
 }
 
 void MacroStartRecording(Engine& e) {

@@ -6,12 +6,12 @@
 
 namespace brinto {
 
-// Appends a key to the macro being recorded; 0 when it is full (recording then stops).
-u32 MacroRecordKey(Engine& e, FunctionId id);
-void MacroStartRecording(Engine& e);  // key 212
-void MacroPlay(Engine& e);            // key 213
-void MacroPause(Engine& e);           // key 214
-void MacroStop(Engine& e);            // key 215
+// Appends a key to the macro being recorded; false when it is full (recording then stops).
+bool MacroRecordKey(Engine& e, FunctionId id);
+void MacroStartRecording(Engine& e);
+void MacroPlay(Engine& e);
+void MacroPause(Engine& e);
+void MacroStop(Engine& e);
 
 // Shortest macro that can be played: the method key, one key and the stop key.
 inline constexpr int kMinimumMacroLength = 3;

@@ -14,7 +14,7 @@ inline constexpr u16 kMacroVersion = 2;
 struct MacroRecord {
     u16 macroVersion;
     u16 macroLength;
-    u32 macroKeys[kMacroSlots];
+    FunctionId macroKeys[kMacroSlots];
 };
 
 static_assert(std::is_trivially_copyable_v<MacroRecord>);

@@ -77,7 +77,7 @@ double ParseEntryText(const char* text, u16 base) {
     return value;
 }
 
-u32 EditEntry(Engine& e, FunctionId id) {
+bool EditEntry(Engine& e, FunctionId id) {
     CalcState& s = e.state;
     if (!(s.status & status::Entry)) {
         if (s.status & status::LiftEnabled) e.Lift();
@@ -87,30 +87,30 @@ u32 EditEntry(Engine& e, FunctionId id) {
         s.entryDigits = 0;
         s.exponentDigits = 0;
     }
-    u32 accepted = 1;
+    bool accepted = true;
     const bool inExponent = s.status & status::Exponent;
     u8& count = inExponent ? s.exponentDigits : s.entryDigits;
     const int baseLimit = MantissaLimit(s.status);
-    if (id <= 9) {
+    if (IsDecimalDigit(id)) {
         const int limit = inExponent ? kExponentLimit : baseLimit;
         if (count >= limit) {
-            accepted = 0;
+            accepted = false;
         } else {
-            Append(s, static_cast<char>('0' + id));
+            Append(s, static_cast<char>('0' + DigitValue(id)));
             ++count;
         }
-    } else if (id <= 15) {
+    } else if (IsHexLetter(id)) {
         if (count >= baseLimit) {
-            accepted = 0;
+            accepted = false;
         } else {
-            Append(s, static_cast<char>('A' + (id - 10)));
+            Append(s, static_cast<char>('A' + (DigitValue(id) - 10)));
             ++count;
         }
     } else if (id == fid::Point || id == fid::Point2) {
         if (!std::strchr(s.entryText, '.') && !std::strchr(s.entryText, 'e')) Append(s, '.');
     } else if (id == fid::Exponent) {
         if (inExponent) {
-            accepted = 0;
+            accepted = false;
         } else {
             if (s.entryText[0] == '\0') Append(s, '1');  // a bare exponent means 1 x 10^n
             Append(s, 'e');
@@ -136,7 +136,7 @@ u32 EditEntry(Engine& e, FunctionId id) {
             *place = '-';
         }
     } else {
-        accepted = 0;
+        accepted = false;
     }
     e.SetX(ParseEntryText(s.entryText, s.status));
     return accepted;

@@ -7,7 +7,7 @@ namespace brinto {
 
 // Digits 0..15, points 16 and 17, exponent 18, change sign 19 and 178, backspace 20.
 // Returns 1 when the key was accepted, 0 when it was refused (the text is then unchanged).
-u32 EditEntry(Engine& e, FunctionId id);
+bool EditEntry(Engine& e, FunctionId id);
 
 // The value of an entry text in an entry base (0 decimal, 0x10 binary, 0x20 octal, 0x30 hex).
 // Integer bases read the digits as a 32-bit word and take it as signed; an empty text is 0.

@@ -46,8 +46,8 @@ struct RegisterBank {
     i16 cashFlowCount;        // index of the last cash-flow entry; -1 when the list is empty
     u32 reserved0;
     u32 financeWords[2];      // cleared with everything else by Clear All
-    u16 lastRegister;         // register last named by a register key, for key 85
-    u16 tags[kUserRegisters]; // per user register: 1419 once it holds a cash-flow entry, else 0
+    u16 lastRegister;         // register last named by a register key, for the CFj key
+    ValueTag tags[kUserRegisters];  // per user register: "CFj" once it holds a cash-flow entry
     u32 aux[kUserRegisters];  // per user register: the cash-flow group count Nj
     u32 reserved1;
     double values[kRegisterCount];

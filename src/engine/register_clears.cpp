@@ -14,7 +14,7 @@ void ResetPaymentsPerYear(Engine& e) {
 
 void EmptyCashFlowList(Engine& e) {
     for (int j = 0; j < kUserRegisters; ++j) {
-        e.registers.tags[j] = 0;
+        e.registers.tags[j] = ValueTag::None;
         e.registers.aux[j] = 0;
     }
     e.registers.cashFlowCount = -1;

@@ -11,9 +11,14 @@ namespace {
 
 // pendingArgument holds the prefix key in its low byte, the arithmetic key chosen after it in the
 // next byte, and the first of two register digits plus one in the third.
-constexpr u32 KeyOf(u32 pending) { return pending & 0xFF; }
-constexpr u32 OperatorOf(u32 pending) { return (pending >> 8) & 0xFF; }
+constexpr FunctionId KeyOf(u32 pending) { return FunctionIdFrom(pending & 0xFF); }
+constexpr bool HasOperator(u32 pending) { return ((pending >> 8) & 0xFF) != 0; }
+constexpr FunctionId OperatorOf(u32 pending) {
+    return HasOperator(pending) ? FunctionIdFrom((pending >> 8) & 0xFF) : kNoKey;
+}
 constexpr int FirstDigitOf(u32 pending) { return static_cast<int>((pending >> 16) & 0xFF) - 1; }
+constexpr u32 WithOperator(u32 pending, FunctionId op) { return pending | (ToNumber(op) << 8); }
+constexpr u32 WithFirstDigit(u32 pending, int digit) { return pending | (static_cast<u32>(digit + 1) << 16); }
 
 struct KeyRegister {
     FunctionId key;
@@ -30,9 +35,9 @@ constexpr std::array kKeyRegisters = {
     KeyRegister{fid::RecallSumX, reg::SumX}, KeyRegister{fid::RecallSumX2, reg::SumX2},
     KeyRegister{fid::RecallSumY, reg::SumY}, KeyRegister{fid::RecallSumY2, reg::SumY2},
     KeyRegister{fid::RecallSumXY, reg::SumXY}, KeyRegister{fid::RecallN, reg::StatN},
-    KeyRegister{198, reg::DaysPerYear},   KeyRegister{199, reg::DaysPerMonth},
-    KeyRegister{200, reg::DaysPerWeek},   KeyRegister{201, reg::HoursPerDay},
-    KeyRegister{202, reg::FramesPerSecond},
+    KeyRegister{fid::DaysPerYear, reg::DaysPerYear},   KeyRegister{fid::DaysPerMonth, reg::DaysPerMonth},
+    KeyRegister{fid::DaysPerWeek, reg::DaysPerWeek},   KeyRegister{fid::HoursPerDay, reg::HoursPerDay},
+    KeyRegister{fid::FramesPerSecond, reg::FramesPerSecond},
 };
 
 bool IsRegisterPrefix(FunctionId id) {
@@ -49,8 +54,16 @@ bool TwoDigitArgument(const Engine& e, FunctionId prefix) {
 }
 
 FunctionId PlainArithmetic(FunctionId id) {
-    return (id >= fid::IntegerAdd && id <= fid::IntegerDivide) ? id - (fid::IntegerAdd - fid::Add) : id;
+    switch (id) {
+        case fid::IntegerAdd: return fid::Add;
+        case fid::IntegerSubtract: return fid::Subtract;
+        case fid::IntegerMultiply: return fid::Multiply;
+        case fid::IntegerDivide: return fid::Divide;
+        default: return id;
+    }
 }
+
+bool IsPlainArithmetic(FunctionId id) { return id >= fid::Add && id <= fid::Divide; }
 
 double Combine(double left, FunctionId op, double right) {
     switch (op) {
@@ -64,37 +77,40 @@ double Combine(double left, FunctionId op, double right) {
 
 void Complete(Engine& e, int registerNumber) {
     const u32 pending = e.state.pendingArgument;
-    e.state.pendingArgument = kNoKey;
-    RegisterOperation(e, RegisterBase(KeyOf(pending)), OperatorOf(pending) ? OperatorOf(pending) : kNoKey,
-                      registerNumber);
+    e.state.pendingArgument = kNoPendingArgument;
+    RegisterOperation(e, RegisterBase(KeyOf(pending)), OperatorOf(pending), registerNumber);
 }
 
 }  // namespace
 
 ValueTag RegisterLabel(const Engine& e, int r) {
-    if (r < kUserRegisters) return fid::TagCashFlow;
+    if (r < kUserRegisters) return label::CashFlow;
     switch (r) {
         case reg::N: {
             const double perYear = e.registers.values[reg::PYr];
-            return perYear == 1.0 ? fid::TagYears : perYear == 12.0 ? fid::TagMonths : 1407;
+            return perYear == 1.0 ? label::Years : perYear == 12.0 ? label::Months : label::Periods;
         }
-        case reg::IYr: return 1408;
-        case reg::PV: return 1410;
-        case reg::PMT: return 1409;
-        case reg::FV: return 1411;
-        case reg::Eff: return 1406;
-        case reg::PYr: return 1404;
-        case reg::Cost: return 1400;
-        case reg::Price: return 1401;
-        case reg::Margin: return (e.state.status & status::Markup) ? 1403 : 1402;
-        case reg::SumX: return 1301;
-        case reg::SumX2: return 1302;
-        case reg::SumY: return 1303;
-        case reg::SumY2: return 1304;
-        case reg::SumXY: return 1305;
-        case reg::StatN: return 1300;
-        default:
-            return r >= reg::DaysPerYear ? static_cast<ValueTag>(fid::TagDpy + (r - reg::DaysPerYear)) : 0;
+        case reg::IYr: return label::YearlyRate;
+        case reg::PV: return label::PresentValue;
+        case reg::PMT: return label::Payment;
+        case reg::FV: return label::FutureValue;
+        case reg::Eff: return label::Effective;
+        case reg::PYr: return label::PerYear;
+        case reg::Cost: return label::Cost;
+        case reg::Price: return label::Price;
+        case reg::Margin: return (e.state.status & status::Markup) ? label::Markup : label::Margin;
+        case reg::SumX: return label::SumX;
+        case reg::SumX2: return label::SumX2;
+        case reg::SumY: return label::SumY;
+        case reg::SumY2: return label::SumY2;
+        case reg::SumXY: return label::SumXY;
+        case reg::StatN: return label::Count;
+        case reg::DaysPerYear: return label::DaysPerYear;
+        case reg::DaysPerMonth: return label::DaysPerMonth;
+        case reg::DaysPerWeek: return label::DaysPerWeek;
+        case reg::HoursPerDay: return label::HoursPerDay;
+        case reg::FramesPerSecond: return label::FramesPerSecond;
+        default: return ValueTag::None;
     }
 }
 
@@ -140,9 +156,9 @@ void RegisterOperation(Engine& e, FunctionId base, FunctionId op, int r) {
 
 bool HandleRegisterKey(Engine& e, FunctionId id) {
     CalcState& s = e.state;
-    if (s.pendingArgument == kNoKey) {
+    if (s.pendingArgument == kNoPendingArgument) {
         if (!IsRegisterPrefix(id)) return false;
-        s.pendingArgument = id;
+        s.pendingArgument = ToNumber(id);
         return true;
     }
     // A register prefix is waiting for its argument.
@@ -152,26 +168,26 @@ bool HandleRegisterKey(Engine& e, FunctionId id) {
     const int firstDigit = FirstDigitOf(pending);
     const FunctionId arithmetic = PlainArithmetic(id);
     if (id == fid::Backspace) {
-        s.pendingArgument = kNoKey;
+        s.pendingArgument = kNoPendingArgument;
         return true;
     }
-    if (arithmetic >= fid::Add && arithmetic <= fid::Divide && OperatorOf(pending) == 0 && firstDigit < 0 &&
-        base != fid::Exchange) {
-        s.pendingArgument = pending | (arithmetic << 8);
+    if (IsPlainArithmetic(arithmetic) && !HasOperator(pending) && firstDigit < 0 && base != fid::Exchange) {
+        s.pendingArgument = WithOperator(pending, arithmetic);
         return true;
     }
-    if (id <= fid::Digit9) {
+    if (IsDecimalDigit(id)) {
+        const int digit = DigitValue(id);
         if (TwoDigitArgument(e, KeyOf(pending)) && firstDigit < 0) {
-            s.pendingArgument = pending | (static_cast<u32>(id + 1) << 16);
+            s.pendingArgument = WithFirstDigit(pending, digit);
             return true;
         }
-        Complete(e, firstDigit < 0 ? static_cast<int>(id) : firstDigit * 10 + static_cast<int>(id));
+        Complete(e, firstDigit < 0 ? digit : firstDigit * 10 + digit);
         return true;
     }
     if (firstDigit < 0 && id == fid::CashFlow) {
         const int next = e.registers.lastRegister + 1;
         if (next >= kUserRegisters) {
-            s.pendingArgument = kNoKey;
+            s.pendingArgument = kNoPendingArgument;
             return true;  // no register after the last one: the prefix is simply dropped
         }
         Complete(e, next);
@@ -192,7 +208,7 @@ bool HandleRegisterKey(Engine& e, FunctionId id) {
         }
     }
     // Any other key cancels the prefix and is dispatched as usual.
-    s.pendingArgument = kNoKey;
+    s.pendingArgument = kNoPendingArgument;
     return false;
 }
 

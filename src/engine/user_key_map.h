@@ -2,12 +2,12 @@
 // UserKeyMap: the functions assigned to the User keyboard, saved as a 96-byte image.
 #include <type_traits>
 
-#include "engine/types.h"
+#include "engine/function_ids.h"
 
 namespace brinto {
 
 struct UserKeyMap {
-    u32 keys[24];  // 0..11 unshifted, 12..23 shifted; 255 where nothing is assigned
+    FunctionId keys[24];  // 0..11 unshifted, 12..23 shifted; kNoKey where nothing is assigned
 };
 
 static_assert(std::is_trivially_copyable_v<UserKeyMap>);
@@ -15,7 +15,7 @@ static_assert(sizeof(UserKeyMap) == 96);
 
 inline UserKeyMap EmptyUserKeyMap() {
     UserKeyMap map{};
-    for (u32& k : map.keys) k = kNoKey;
+    for (FunctionId& k : map.keys) k = kNoKey;
     return map;
 }
 

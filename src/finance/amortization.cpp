@@ -3,7 +3,7 @@
 #include <cmath>
 
 #include "engine/families.h"
-#include "finance/result_labels.h"
+#include "engine/value_tags.h"
 #include "finance/tvm.h"
 
 namespace brinto {

@@ -3,7 +3,7 @@
 #include <cmath>
 #include <limits>
 
-#include "finance/result_labels.h"
+#include "engine/value_tags.h"
 #include "finance/solver.h"
 #include "finance/tvm.h"
 

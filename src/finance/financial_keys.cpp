@@ -8,7 +8,7 @@
 #include "finance/amortization.h"
 #include "finance/cash_flows.h"
 #include "finance/interest_and_margins.h"
-#include "finance/result_labels.h"
+#include "engine/value_tags.h"
 #include "finance/statistics.h"
 #include "finance/tvm.h"
 

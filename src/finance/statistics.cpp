@@ -5,7 +5,7 @@
 
 #include "finance/clean_difference.h"
 #include "engine/register_keys.h"
-#include "finance/result_labels.h"
+#include "engine/value_tags.h"
 
 namespace brinto {
 

@@ -19,7 +19,7 @@ struct CentredSums {
 StatisticsSums SumsFromRegisters(const Engine& e);
 CentredSums Centre(const StatisticsSums& s);
 
-// The keys 110..122, 126 and 127; false for any other key.
+// The statistics keys; false for any other key.
 bool HandleStatisticsKey(Engine& e, FunctionId id);
 
 }  // namespace brinto

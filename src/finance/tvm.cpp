@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "finance/result_labels.h"
+#include "engine/value_tags.h"
 #include "finance/solver.h"
 
 namespace brinto {
@@ -89,9 +89,9 @@ void DividePerYearKey(Engine& e) {
     const ValueTag before = e.XTag();
     e.SetX(e.X() / perYear);
     // A count of periods becomes years; a value already labelled otherwise loses its label.
-    const bool inYears = before == 0 || (before == label::Months && perYear == 12.0) ||
+    const bool inYears = before == ValueTag::None || (before == label::Months && perYear == 12.0) ||
                          (before == label::Years && perYear == 1.0);
-    e.SetXTag(inYears ? label::Years : 0);
+    e.SetXTag(inYears ? label::Years : ValueTag::None);
 }
 
 }  // namespace brinto

@@ -86,7 +86,7 @@ std::string BlockSection(int keyboard) {
         html += "<tr>";
         for (int column = 0; column < 6; ++column) {
             const int k = row * 6 + column;
-            html += Cell(static_cast<FunctionId>(plain[k]), static_cast<FunctionId>(shifted[k]));
+            html += Cell(plain[k], shifted[k]);
         }
         html += "</tr>\n";
     }
@@ -94,7 +94,7 @@ std::string BlockSection(int keyboard) {
     html += kKeys;
     html += kMeaningHeader;
     for (int k = 0; k < kBlockKeys; ++k)
-        html += MeaningRow(static_cast<FunctionId>(plain[k]), static_cast<FunctionId>(shifted[k]));
+        html += MeaningRow(plain[k], shifted[k]);
     return html + "</table>\n";
 }
 
@@ -152,9 +152,9 @@ std::string ConstantsSection() {
     for (const PhysicalConstant& constant : kPhysicalConstants) {
         std::array<char, 32> digits{};
         const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), constant.value).ptr;
-        html += "<tr><td>" + Escape(LabelText(constant.code)) + "</td><td>" +
+        html += "<tr><td>" + Escape(LabelText(constant.name)) + "</td><td>" +
                 std::string(digits.data(), end) + "</td><td>" +
-                (constant.tag ? Escape(LabelText(constant.tag)) : std::string()) + "</td></tr>\n";
+                (constant.tag != ValueTag::None ? Escape(LabelText(constant.tag)) : std::string()) + "</td></tr>\n";
     }
     return html + "</table>\n";
 }

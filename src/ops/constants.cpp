@@ -6,7 +6,7 @@ namespace brinto {
 
 std::string_view ConstantName(int index) {
     if (index < 0 || index >= kConstantCount) return {};
-    return LabelText(kPhysicalConstants[static_cast<std::size_t>(index)].code);
+    return LabelText(kPhysicalConstants[static_cast<std::size_t>(index)].name);
 }
 
 bool RecallConstant(Engine& e, int index, u16 topRow) {

@@ -3,6 +3,7 @@
 // and subtract.
 #include "ops/date_time.h"
 
+#include <array>
 #include <cmath>
 
 #include "engine/families.h"
@@ -14,15 +15,11 @@ namespace brinto {
 
 namespace {
 
-constexpr ValueTag kHms = 1800, kDate = 1801, kTime = 1802, kDateTime = 1803;
-constexpr ValueTag kDays = 1807, kHours = 1808, kFrames = 1811;
-constexpr ValueTag kYears = 1804, kMonths = 1805, kWeeks = 1806, kMinutes = 1809, kSeconds = 1810;
-
 constexpr double kSecondsPerHour = 3600.0;
 
-bool IsDateKind(ValueTag t) { return TagCategory(t) == 9; }
+bool IsDateKind(ValueTag t) { return TagCategory(t) == Category::Calendar; }
 
-TaggedValue Error() { return {kErrorValue, 0}; }
+TaggedValue Error() { return {kErrorValue, ValueTag::None}; }
 
 // The whole part and the next two digits of a packed number (Y.MMDD, H.MMSS): the two digits come
 // from the fraction, cleaned and nudged by 0.0005 so that 3.15 typed reads as 3 and 15 however
@@ -41,12 +38,12 @@ Packed Unpack(double v) {
 // A duration operand in seconds: its own unit when it has one (h.mmss as hours), else the unit
 // the date kind implies.
 double DurationSeconds(TaggedValue d, ValueTag defaultUnit) {
-    if (d.tag == kHms) return HmsToHours(d.value) * SecondsPerTimeUnit(kHours);
-    const ValueTag unit = TagCategory(d.tag) == 8 ? d.tag : defaultUnit;
+    if (d.tag == ValueTag::Hms) return HmsToHours(d.value) * SecondsPerTimeUnit(ValueTag::Hours);
+    const ValueTag unit = TagCategory(d.tag) == Category::Duration ? d.tag : defaultUnit;
     return d.value * SecondsPerTimeUnit(unit);
 }
 
-ValueTag DefaultUnitBeside(ValueTag kind) { return kind == kTime ? kHours : kDays; }
+ValueTag DefaultUnitBeside(ValueTag kind) { return kind == ValueTag::Time ? ValueTag::Hours : ValueTag::Days; }
 
 TaggedValue InRange(double value, ValueTag kind) {
     return IsDateInRange(value) ? TaggedValue{value, kind} : Error();
@@ -55,13 +52,13 @@ TaggedValue InRange(double value, ValueTag kind) {
 // The next smaller unit for "fraction to next unit"; frames and h.mmss keep their own.
 ValueTag NextSmallerUnit(ValueTag t) {
     switch (t) {
-        case kYears: return kMonths;
-        case kMonths:
-        case kWeeks: return kDays;
-        case kDays: return kHours;
-        case kHours: return kMinutes;
-        case kMinutes: return kSeconds;
-        case kSeconds: return kFrames;
+        case ValueTag::Years: return ValueTag::Months;
+        case ValueTag::Months:
+        case ValueTag::Weeks: return ValueTag::Days;
+        case ValueTag::Days: return ValueTag::Hours;
+        case ValueTag::Hours: return ValueTag::Minutes;
+        case ValueTag::Minutes: return ValueTag::Seconds;
+        case ValueTag::Seconds: return ValueTag::Frames;
         default: return t;
     }
 }
@@ -79,19 +76,19 @@ void Now(Engine& e) {
                       now.day >= 1 && now.day <= 31 && now.hour >= 0 && now.hour < 24 && now.minute >= 0 &&
                       now.minute < 60 && now.second >= 0 && now.second < 62;
     const double value = sane ? ComposeDate(now) : kErrorValue;
-    SetResult(e, IsDateInRange(value) ? value : kErrorValue, kDateTime);
+    SetResult(e, IsDateInRange(value) ? value : kErrorValue, ValueTag::DateTime);
 }
 
-// Keys 187 and 188: a typed number becomes a date or a time; a date kind is reduced to its date
+// The date and time keys: a typed number becomes a date or a time; a date kind is reduced to its date
 // or time of day; a value already of the key's kind is left alone.
 void DateOrTimeKey(Engine& e, ValueTag kind) {
     if (e.XTag() == kind) return;
     const double x = e.X();
     double value;
     if (IsDateKind(e.XTag())) {
-        value = kind == kDate ? DatePartOf(x) : TimePartOf(x);
+        value = kind == ValueTag::Date ? DatePartOf(x) : TimePartOf(x);
     } else {
-        value = kind == kDate ? DateFromEntry(x) : TimeFromEntry(x);
+        value = kind == ValueTag::Date ? DateFromEntry(x) : TimeFromEntry(x);
     }
     SetResult(e, value, kind);
 }
@@ -102,21 +99,21 @@ void PartKey(Engine& e, ValueTag kind) {
         return;
     }
     e.SaveLastX();
-    SetResult(e, kind == kDate ? DatePartOf(e.X()) : TimePartOf(e.X()), kind);
+    SetResult(e, kind == ValueTag::Date ? DatePartOf(e.X()) : TimePartOf(e.X()), kind);
 }
 
 void ToHmsKey(Engine& e) {
     e.SaveLastX();
     double hours = e.X();
     const ValueTag t = e.XTag();
-    if (TagCategory(t) == 8 && t != kHours) hours = ConvertDuration(hours, t, kHours, DurationSettingsOf(e));
-    SetResult(e, HoursToHms(hours), kHms);
+    if (TagCategory(t) == Category::Duration && t != ValueTag::Hours) hours = ConvertDuration(hours, t, ValueTag::Hours, DurationSettingsOf(e));
+    SetResult(e, HoursToHms(hours), ValueTag::Hms);
 }
 
 void FractionKey(Engine& e) {
     e.SaveLastX();
     const ValueTag t = e.XTag();
-    if (TagCategory(t) != 8) {
+    if (TagCategory(t) != Category::Duration) {
         e.SetXError();
         return;
     }
@@ -125,10 +122,27 @@ void FractionKey(Engine& e) {
     SetResult(e, next == t ? fraction : ConvertDuration(fraction, t, next, DurationSettingsOf(e)), next);
 }
 
+struct DurationSetting {
+    FunctionId key;
+    int registerNumber;
+    ValueTag label;
+};
+constexpr std::array kDurationSettings = {
+    DurationSetting{fid::DaysPerYear, reg::DaysPerYear, label::DaysPerYear},
+    DurationSetting{fid::DaysPerMonth, reg::DaysPerMonth, label::DaysPerMonth},
+    DurationSetting{fid::DaysPerWeek, reg::DaysPerWeek, label::DaysPerWeek},
+    DurationSetting{fid::HoursPerDay, reg::HoursPerDay, label::HoursPerDay},
+    DurationSetting{fid::FramesPerSecond, reg::FramesPerSecond, label::FramesPerSecond},
+};
+
 // dpy, dpm, dpw, hpd, fps: a number being typed is stored; otherwise the setting is recalled.
-void DurationSettingKey(Engine& e, FunctionId id) {
-    const int offset = static_cast<int>(id - fid::DaysPerYear);
-    double& setting = e.registers.values[reg::DaysPerYear + offset];
+bool DurationSettingKey(Engine& e, FunctionId id) {
+    const DurationSetting* key = nullptr;
+    for (const DurationSetting& row : kDurationSettings) {
+        if (row.key == id) key = &row;
+    }
+    if (!key) return false;
+    double& setting = e.registers.values[key->registerNumber];
     if (e.EntryOpen()) {
         e.FinishEntry();
         e.DisableLift();
@@ -137,8 +151,9 @@ void DurationSettingKey(Engine& e, FunctionId id) {
         if (e.LiftEnabled()) e.Lift();
         e.SetX(setting);
     }
-    e.SetXTag(static_cast<ValueTag>(fid::TagDpy + offset));
+    e.SetXTag(key->label);
     e.dirty.registers = true;
+    return true;
 }
 
 }  // namespace
@@ -197,8 +212,8 @@ double TimePartOf(double value) {
 
 TaggedValue DateSum(TaggedValue y, TaggedValue x) {
     if (IsDateKind(y.tag) && IsDateKind(x.tag)) {
-        const bool dateAndTime = (y.tag == kDate && x.tag == kTime) || (y.tag == kTime && x.tag == kDate);
-        return dateAndTime ? InRange(y.value + x.value, kDateTime) : Error();
+        const bool dateAndTime = (y.tag == ValueTag::Date && x.tag == ValueTag::Time) || (y.tag == ValueTag::Time && x.tag == ValueTag::Date);
+        return dateAndTime ? InRange(y.value + x.value, ValueTag::DateTime) : Error();
     }
     const TaggedValue& moment = IsDateKind(y.tag) ? y : x;
     const TaggedValue& duration = IsDateKind(y.tag) ? x : y;
@@ -208,36 +223,35 @@ TaggedValue DateSum(TaggedValue y, TaggedValue x) {
 TaggedValue DateDifference(TaggedValue y, TaggedValue x) {
     if (IsDateKind(y.tag) && IsDateKind(x.tag)) {
         const double seconds = y.value - x.value;  // may be negative
-        if (y.tag == kDate && x.tag == kDate) return {seconds / 86400.0, kDays};
-        if (y.tag == kDateTime && x.tag == kDate) return {seconds / 86400.0, kDays};
-        if (y.tag == x.tag) return {seconds / kSecondsPerHour, kHours};  // time - time, dt - dt
+        if (y.tag == ValueTag::Date && x.tag == ValueTag::Date) return {seconds / 86400.0, ValueTag::Days};
+        if (y.tag == ValueTag::DateTime && x.tag == ValueTag::Date) return {seconds / 86400.0, ValueTag::Days};
+        if (y.tag == x.tag) return {seconds / kSecondsPerHour, ValueTag::Hours};  // time - time, dt - dt
         return Error();
     }
     if (!IsDateKind(y.tag)) return Error();  // a duration minus a date means nothing
     const double value = y.value - DurationSeconds(x, DefaultUnitBeside(y.tag));
-    if (y.tag == kDate) return InRange(DatePartOf(value), kDate);
+    if (y.tag == ValueTag::Date) return InRange(DatePartOf(value), ValueTag::Date);
     return InRange(value, y.tag);
 }
 
 bool HandleDateKey(Engine& e, FunctionId id) {
     switch (id) {
         case fid::Now: Now(e); return true;
-        case fid::Date: DateOrTimeKey(e, kDate); return true;
-        case fid::Time: DateOrTimeKey(e, kTime); return true;
-        case fid::DatePart: PartKey(e, kDate); return true;
-        case fid::TimePart: PartKey(e, kTime); return true;
+        case fid::Date: DateOrTimeKey(e, ValueTag::Date); return true;
+        case fid::Time: DateOrTimeKey(e, ValueTag::Time); return true;
+        case fid::DatePart: PartKey(e, ValueTag::Date); return true;
+        case fid::TimePart: PartKey(e, ValueTag::Time); return true;
         case fid::ToHms: ToHmsKey(e); return true;
         case fid::ToHours:
             e.SaveLastX();
-            SetResult(e, HmsToHours(e.X()), kHours);
+            SetResult(e, HmsToHours(e.X()), ValueTag::Hours);
             return true;
         case fid::HmsToFrames:
             e.SaveLastX();
-            SetResult(e, ConvertDuration(HmsToHours(e.X()), kHours, kFrames, DurationSettingsOf(e)), kFrames);
+            SetResult(e, ConvertDuration(HmsToHours(e.X()), ValueTag::Hours, ValueTag::Frames, DurationSettingsOf(e)), ValueTag::Frames);
             return true;
         case fid::FractionToNextUnit: FractionKey(e); return true;
-        case 198: case 199: case 200: case 201: case 202: DurationSettingKey(e, id); return true;
-        default: return false;
+        default: return DurationSettingKey(e, id);
     }
 }
 

@@ -14,8 +14,6 @@ namespace {
 
 using i64 = std::int64_t;
 
-constexpr ValueTag kU32 = 1928, kS32 = 1929;
-
 // The word shifted right n steps within the low `bits` bits; each step clears the top bit of the
 // width, or (arithmetic shift of a word whose top bit was set) sets it again. A negative count
 // shifts left. Counts beyond the width give the same word as the width itself, so they are capped
@@ -51,8 +49,8 @@ u32 RotateRight(u32 word, i32 n, IntegerFormat f) {
 TaggedValue ShiftOperation(const Preferences& prefs, FunctionId op, TaggedValue y, TaggedValue x) {
     const ValueTag formatTag = IntegerFormatOf(prefs, y.tag);
     const IntegerFormat f = FormatOfTag(formatTag);
-    const u32 word = NarrowBits(y.value, y.tag, kU32);
-    const i32 count = static_cast<i32>(NarrowBits(x.value, x.tag, kS32));
+    const u32 word = NarrowBits(y.value, y.tag, ValueTag::U32);
+    const i32 count = static_cast<i32>(NarrowBits(x.value, x.tag, ValueTag::S32));
     u32 bits = 0;
     switch (op) {
         case fid::ShiftLeft: bits = ShiftRight(word, -i64{count}, f, false); break;
@@ -65,7 +63,7 @@ TaggedValue ShiftOperation(const Preferences& prefs, FunctionId op, TaggedValue 
 
 // Both operands in the default format; the result wraps to it.
 TaggedValue WordOperation(const Preferences& prefs, FunctionId op, TaggedValue y, TaggedValue x) {
-    const ValueTag formatTag = IntegerFormatOf(prefs, 0);
+    const ValueTag formatTag = IntegerFormatOf(prefs, ValueTag::None);
     const IntegerFormat f = FormatOfTag(formatTag);
     const u32 a = NarrowBits(y.value, y.tag, formatTag);
     const u32 b = NarrowBits(x.value, x.tag, formatTag);
@@ -78,7 +76,7 @@ TaggedValue WordOperation(const Preferences& prefs, FunctionId op, TaggedValue y
         case fid::IntegerSubtract: bits = a - b; break;
         case fid::IntegerMultiply: bits = a * b; break;
         default: {
-            if (b == 0) return {kErrorValue, 0};
+            if (b == 0) return {kErrorValue, ValueTag::None};
             // Signed division truncates toward zero; -2^31 / -1 fits in 64 bits and then wraps
             // back to -2^31 like any other result beyond the format.
             const i64 quotient = static_cast<i64>(ValueOfBits(a, f)) / static_cast<i64>(ValueOfBits(b, f));
@@ -89,7 +87,7 @@ TaggedValue WordOperation(const Preferences& prefs, FunctionId op, TaggedValue y
     return {ValueOfBits(bits, f), formatTag};
 }
 
-// X narrowed from its own tag into a format and tagged with it (0: the s32 width, untagged).
+// X narrowed from its own tag into a format and tagged with it (none: the s32 width, untagged).
 void SetFormat(Engine& e, ValueTag formatTag) {
     const double value = Narrow(e.X(), e.XTag(), formatTag);
     e.SetX(value);
@@ -119,15 +117,16 @@ std::optional<TaggedValue> IntegerOperation(const Preferences& prefs, FunctionId
 }
 
 bool HandleIntegerKey(Engine& e, FunctionId id) {
-    if (id >= fid::FormatU8 && id <= fid::FormatS32) {
+    for (const IntegerFormatRow& row : kIntegerFormats) {
+        if (row.key != id) continue;
         if (!e.EntryOpen()) e.SaveLastX();
-        SetFormat(e, static_cast<ValueTag>(kFirstIntegerTag + (id - fid::FormatU8)));
+        SetFormat(e, row.tag);
         return true;
     }
     switch (id) {
         case fid::ToDefaultFormat:
             e.SaveLastX();
-            SetFormat(e, static_cast<ValueTag>(DefaultIntegerFormatTag(e.prefs)));
+            SetFormat(e, DefaultIntegerFormatTag(e.prefs));
             return true;
         case fid::Not: BitwiseNot(e); return true;
         default: return false;
@@ -139,7 +138,7 @@ void RederiveIntegerTag(Engine& e) {
     // format; it becomes that number, so that what is stored is what is shown. Units, dates and
     // values already in a format keep theirs, and decimal changes nothing.
     if (e.EntryBase() == 0 || !e.IntegerEntryAllowed()) return;
-    if (TagCategory(e.XTag()) != 0) return;
+    if (TagCategory(e.XTag()) != Category::None) return;
     SetFormat(e, IntegerFormatOf(e.prefs, e.XTag()));
 }
 

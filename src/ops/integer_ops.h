@@ -10,7 +10,8 @@
 
 namespace brinto {
 
-// Y op X for op 134..136, 138..141 and 180..183; nothing for any other id. Dates are not
+// Y op X for AND, OR, XOR, the shifts, the rotate and the integer arithmetic keys; nothing for
+// any other key. Dates are not
 // handled here (the caller routes integer add and subtract of a date to the date rules).
 // Division by a divisor that narrows to 0 gives the error value.
 std::optional<TaggedValue> IntegerOperation(const Preferences& prefs, FunctionId op, TaggedValue y, TaggedValue x);

@@ -61,12 +61,12 @@ void StoreResult(Engine& e, double result, ValueTag tag) {
     e.SetXTag(tag);
 }
 
-ValueTag KeptTag(ValueTag t) { return TagCategory(t) != 0 ? t : 0; }
+ValueTag KeptTag(ValueTag t) { return HasCategory(t) ? t : ValueTag::None; }
 
 bool ApplyUnary(Engine& e, FunctionId id) {
     for (const UnaryRow& row : kUnary) {
         if (row.id != id) continue;
-        const ValueTag tag = row.tag == ResultTag::Kept ? KeptTag(e.XTag()) : 0;
+        const ValueTag tag = row.tag == ResultTag::Kept ? KeptTag(e.XTag()) : ValueTag::None;
         if (row.savesLastX == SavesLastX::Yes) e.SaveLastX();
         StoreResult(e, row.f(e.X()), tag);
         return true;
@@ -216,13 +216,13 @@ void RandomKey(Engine& e) {
 // sqrt of sq feet is feet and the square of feet is sq feet; other tags give a plain number.
 void SquareRootKey(Engine& e) {
     e.SaveLastX();
-    const ValueTag tag = TagCategory(e.XTag()) == 2 ? ToLength(e.XTag()) : 0;
+    const ValueTag tag = TagCategory(e.XTag()) == Category::Area ? ToLength(e.XTag()) : ValueTag::None;
     StoreResult(e, std::sqrt(e.X()), tag);
 }
 
 void SquareKey(Engine& e) {
     e.SaveLastX();
-    const ValueTag tag = TagCategory(e.XTag()) == 1 ? LengthToArea(e.XTag()) : 0;
+    const ValueTag tag = TagCategory(e.XTag()) == Category::Length ? LengthToArea(e.XTag()) : ValueTag::None;
     StoreResult(e, e.X() * e.X(), tag);
 }
 

@@ -20,8 +20,6 @@ double Factorial(double x) {
 
 namespace {
 
-constexpr ValueTag kHms = 1800, kHours = 1808;
-
 // The factorial of Y - X for combinations and permutations. With whole Y below X there is no
 // way to choose more items than there are: the formula's (Y - X)! of a negative number is the
 // error value, infinity, and dividing by it gives 0, which is also the count. Any argument that
@@ -43,17 +41,17 @@ double Permutations(double y, double x) {
     return top / FactorialOfDifference(y, x);
 }
 
-bool IsDateKind(const TaggedValue& v) { return TagCategory(v.tag) == 9; }
+bool IsDateKind(const TaggedValue& v) { return TagCategory(v.tag) == Category::Calendar; }
 
 // Add and subtract (plain or integer) of a date, time or date-time follow the date rules;
 // multiply and divide have no meaning for them.
 TaggedValue DateArithmetic(FunctionId op, TaggedValue y, TaggedValue x) {
     if (op == fid::Add || op == fid::IntegerAdd) return DateSum(y, x);
     if (op == fid::Subtract || op == fid::IntegerSubtract) return DateDifference(y, x);
-    return {kErrorValue, 0};
+    return {kErrorValue, ValueTag::None};
 }
 
-TaggedValue HmsAsHours(TaggedValue v) { return v.tag == kHms ? TaggedValue{HmsToHours(v.value), kHours} : v; }
+TaggedValue HmsAsHours(TaggedValue v) { return v.tag == ValueTag::Hms ? TaggedValue{HmsToHours(v.value), ValueTag::Hours} : v; }
 
 // The four basic operations on doubles: the units decide the tag and convert an operand into the
 // unit the arithmetic needs; a result in an integer format loses it (a float operation on
@@ -62,7 +60,7 @@ TaggedValue BasicArithmetic(const Engine& e, FunctionId op, TaggedValue y, Tagge
     y = HmsAsHours(y);
     x = HmsAsHours(x);
     ValueTag tag = ArithmeticResultTag(op, y, x, DurationSettingsOf(e));
-    if (TagCategory(tag) == 7) tag = 0;
+    if (TagCategory(tag) == Category::IntegerFormat) tag = ValueTag::None;
     switch (op) {
         case fid::Add: return {y.value + x.value, tag};
         case fid::Subtract: return {RoundTo14(y.value - x.value), tag};  // so that 0.3 - 0.1 is 0.2
@@ -80,13 +78,13 @@ std::optional<TaggedValue> Evaluate(const Engine& e, FunctionId op, TaggedValue 
         case fid::IntegerAdd: case fid::IntegerSubtract: case fid::IntegerMultiply: case fid::IntegerDivide:
             if (IsDateKind(y) || IsDateKind(x)) return DateArithmetic(op, y, x);
             return IntegerOperation(e.prefs, op, y, x);
-        case fid::PercentTotal: return TaggedValue{b / a * 100.0, 0};
-        case fid::PercentChange: return TaggedValue{RoundTo14(b - a) / a * 100.0, 0};
-        case fid::Power: return TaggedValue{std::pow(a, b), 0};
-        case fid::Modulo: return TaggedValue{std::fmod(a, b), 0};
-        case fid::Combinations: return TaggedValue{Combinations(a, b), 0};
-        case fid::Permutations: return TaggedValue{Permutations(a, b), 0};
-        case fid::XRoot: return TaggedValue{std::pow(a, 1.0 / b), 0};
+        case fid::PercentTotal: return TaggedValue{b / a * 100.0, ValueTag::None};
+        case fid::PercentChange: return TaggedValue{RoundTo14(b - a) / a * 100.0, ValueTag::None};
+        case fid::Power: return TaggedValue{std::pow(a, b), ValueTag::None};
+        case fid::Modulo: return TaggedValue{std::fmod(a, b), ValueTag::None};
+        case fid::Combinations: return TaggedValue{Combinations(a, b), ValueTag::None};
+        case fid::Permutations: return TaggedValue{Permutations(a, b), ValueTag::None};
+        case fid::XRoot: return TaggedValue{std::pow(a, 1.0 / b), ValueTag::None};
         default: return IntegerOperation(e.prefs, op, y, x);  // AND .. rotate, or nothing
     }
 }

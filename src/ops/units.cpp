@@ -15,14 +15,6 @@ namespace brinto {
 
 namespace {
 
-// Time tags, in the order of their keys 189..196.
-namespace tag {
-constexpr ValueTag Hms = 1800, Date = 1801, Time = 1802, DateTime = 1803;
-constexpr ValueTag Years = 1804, Months = 1805, Weeks = 1806, Days = 1807;
-constexpr ValueTag Hours = 1808, Minutes = 1809, Seconds = 1810, Frames = 1811;
-constexpr ValueTag DegC = 1922, DegF = 1923;
-}  // namespace tag
-
 struct UnitRow {
     FunctionId key;
     ValueTag tag;
@@ -31,103 +23,113 @@ struct UnitRow {
 
 // Rows in their stored order; lookups take the first match.
 constexpr std::array kLength = {
-    UnitRow{142, 1900, 0.0254},      // inches
-    UnitRow{143, 1901, 0.3048},      // feet
-    UnitRow{144, 1902, 1609.344},    // miles
-    UnitRow{145, 1903, 1.0},         // meters: the base
-    UnitRow{216, 1930, 0.01},        // cm
-    UnitRow{217, 1931, 0.001},       // mm
-    UnitRow{218, 1932, 0.9144},      // yards
-    UnitRow{219, 1933, 1000.0},      // km
-    UnitRow{220, 1934, 1852.0},      // nmi
+    UnitRow{fid::Inches, ValueTag::Inches, 0.0254},
+    UnitRow{fid::Feet, ValueTag::Feet, 0.3048},
+    UnitRow{fid::Miles, ValueTag::Miles, 1609.344},
+    UnitRow{fid::Meters, ValueTag::Meters, 1.0},  // the base
+    UnitRow{fid::Centimeters, ValueTag::Centimeters, 0.01},
+    UnitRow{fid::Millimeters, ValueTag::Millimeters, 0.001},
+    UnitRow{fid::Yards, ValueTag::Yards, 0.9144},
+    UnitRow{fid::Kilometers, ValueTag::Kilometers, 1000.0},
+    UnitRow{fid::NauticalMiles, ValueTag::NauticalMiles, 1852.0},
 };
 constexpr std::array kArea = {
-    UnitRow{146, 1914, 0.00064516},     // sq inches
-    UnitRow{147, 1915, 0.09290304},     // sq feet
-    UnitRow{148, 1916, 2589988.11034},  // sq miles
-    UnitRow{149, 1917, 1.0},            // sq meters: the base
-    UnitRow{221, 1935, 1e-06},          // sq mm
-    UnitRow{222, 1936, 0.0001},         // sq cm
-    UnitRow{223, 1937, 1000000.0},      // sq km
-    UnitRow{224, 1938, 0.83612736},     // sq yards
-    UnitRow{225, 1939, 4046.87260987},  // acres
+    UnitRow{fid::SquareInches, ValueTag::SquareInches, 0.00064516},
+    UnitRow{fid::SquareFeet, ValueTag::SquareFeet, 0.09290304},
+    UnitRow{fid::SquareMiles, ValueTag::SquareMiles, 2589988.11034},
+    UnitRow{fid::SquareMeters, ValueTag::SquareMeters, 1.0},  // the base
+    UnitRow{fid::SquareMillimeters, ValueTag::SquareMillimeters, 1e-06},
+    UnitRow{fid::SquareCentimeters, ValueTag::SquareCentimeters, 0.0001},
+    UnitRow{fid::SquareKilometers, ValueTag::SquareKilometers, 1000000.0},
+    UnitRow{fid::SquareYards, ValueTag::SquareYards, 0.83612736},
+    UnitRow{fid::Acres, ValueTag::Acres, 4046.87260987},
 };
 constexpr std::array kVolume = {
-    UnitRow{160, 1918, 0.003785411784},     // gallons
-    UnitRow{161, 1919, 1e-06},              // ml
-    UnitRow{162, 1920, 0.001},              // liters
-    UnitRow{163, 1921, 2.95735295625e-05},  // fl. oz
-    UnitRow{229, 1943, 1.0},                // cubic m: the base
-    UnitRow{230, 1944, 1e-06},              // cubic cm
-    UnitRow{231, 1945, 0.764554857984},     // cubic yd
-    UnitRow{232, 1946, 0.028316846592},     // cubic ft
-    UnitRow{233, 1947, 1.6387064e-05},      // cubic in
-    UnitRow{234, 1948, 0.000946352946},     // quarts
-    UnitRow{235, 1949, 0.000473176473},     // pints
-    UnitRow{236, 1950, 0.0002365882365},    // cups
-    UnitRow{237, 1951, 1.478676478125e-05}, // tbsp
-    UnitRow{238, 1952, 4.92892159375e-06},  // tsp
-    UnitRow{239, 1953, 0.004546092},        // gallons UK
-    UnitRow{240, 1954, 2.8413075e-05},      // fl. oz UK
+    UnitRow{fid::Gallons, ValueTag::Gallons, 0.003785411784},
+    UnitRow{fid::Milliliters, ValueTag::Milliliters, 1e-06},
+    UnitRow{fid::Liters, ValueTag::Liters, 0.001},
+    UnitRow{fid::FluidOunces, ValueTag::FluidOunces, 2.95735295625e-05},
+    UnitRow{fid::CubicMeters, ValueTag::CubicMeters, 1.0},  // the base
+    UnitRow{fid::CubicCentimeters, ValueTag::CubicCentimeters, 1e-06},
+    UnitRow{fid::CubicYards, ValueTag::CubicYards, 0.764554857984},
+    UnitRow{fid::CubicFeet, ValueTag::CubicFeet, 0.028316846592},
+    UnitRow{fid::CubicInches, ValueTag::CubicInches, 1.6387064e-05},
+    UnitRow{fid::Quarts, ValueTag::Quarts, 0.000946352946},
+    UnitRow{fid::Pints, ValueTag::Pints, 0.000473176473},
+    UnitRow{fid::Cups, ValueTag::Cups, 0.0002365882365},
+    UnitRow{fid::Tablespoons, ValueTag::Tablespoons, 1.478676478125e-05},
+    UnitRow{fid::Teaspoons, ValueTag::Teaspoons, 4.92892159375e-06},
+    UnitRow{fid::GallonsUk, ValueTag::GallonsUk, 0.004546092},
+    UnitRow{fid::FluidOuncesUk, ValueTag::FluidOuncesUk, 2.8413075e-05},
 };
 constexpr std::array kSpeed = {
-    UnitRow{154, 1908, 0.0254},          // in/s
-    UnitRow{155, 1909, 0.3048},          // ft/s
-    UnitRow{157, 1911, 0.44704},         // mi/h (stored before m/s)
-    UnitRow{156, 1910, 1.0},             // m/s: the base
-    UnitRow{158, 1912, 0.277777777778},  // km/h
-    UnitRow{159, 1913, 0.01},            // cm/s
-    UnitRow{228, 1942, 0.514444444444},  // knots
+    UnitRow{fid::InchesPerSecond, ValueTag::InchesPerSecond, 0.0254},
+    UnitRow{fid::FeetPerSecond, ValueTag::FeetPerSecond, 0.3048},
+    UnitRow{fid::MilesPerHour, ValueTag::MilesPerHour, 0.44704},  // stored before m/s
+    UnitRow{fid::MetersPerSecond, ValueTag::MetersPerSecond, 1.0},  // m/s: the base
+    UnitRow{fid::KilometersPerHour, ValueTag::KilometersPerHour, 0.277777777778},
+    UnitRow{fid::CentimetersPerSecond, ValueTag::CentimetersPerSecond, 0.01},
+    UnitRow{fid::Knots, ValueTag::Knots, 0.514444444444},
 };
 constexpr std::array kMass = {
-    UnitRow{150, 1904, 0.45359237},      // pounds
-    UnitRow{151, 1905, 0.028349523125},  // ounces
-    UnitRow{152, 1906, 1.0},             // kg: the base
-    UnitRow{153, 1907, 0.001},           // grams
-    UnitRow{226, 1940, 907.18474},       // tons
-    UnitRow{227, 1941, 1e-06},           // mg
+    UnitRow{fid::Pounds, ValueTag::Pounds, 0.45359237},
+    UnitRow{fid::Ounces, ValueTag::Ounces, 0.028349523125},
+    UnitRow{fid::Kilograms, ValueTag::Kilograms, 1.0},  // the base
+    UnitRow{fid::Grams, ValueTag::Grams, 0.001},
+    UnitRow{fid::Tons, ValueTag::Tons, 907.18474},
+    UnitRow{fid::Milligrams, ValueTag::Milligrams, 1e-06},
 };
 // Base day. The time keys convert through the duration chain; these fixed factors serve a speed
 // meeting a time and the durations added to dates.
 constexpr std::array kTime = {
-    UnitRow{189, tag::Years, 365.25},
-    UnitRow{190, tag::Months, 30.4375},
-    UnitRow{191, tag::Weeks, 7.0},
-    UnitRow{192, tag::Days, 1.0},
-    UnitRow{193, tag::Hours, 1.0 / 24.0},
-    UnitRow{194, tag::Minutes, 1.0 / 1440.0},
-    UnitRow{195, tag::Seconds, 1.0 / 86400.0},
-    UnitRow{196, tag::Frames, 3.8580246913580245e-07},  // 1 / (86400 x 30)
+    UnitRow{fid::Years, ValueTag::Years, 365.25},
+    UnitRow{fid::Months, ValueTag::Months, 30.4375},
+    UnitRow{fid::Weeks, ValueTag::Weeks, 7.0},
+    UnitRow{fid::Days, ValueTag::Days, 1.0},
+    UnitRow{fid::Hours, ValueTag::Hours, 1.0 / 24.0},
+    UnitRow{fid::Minutes, ValueTag::Minutes, 1.0 / 1440.0},
+    UnitRow{fid::Seconds, ValueTag::Seconds, 1.0 / 86400.0},
+    UnitRow{fid::Frames, ValueTag::Frames, 3.8580246913580245e-07},  // 1 / (86400 x 30)
 };
 
 static_assert(kLength.size() == 9 && kArea.size() == 9 && kVolume.size() == 16 && kSpeed.size() == 7 &&
               kMass.size() == 6 && kTime.size() == 8);
 
-consteval bool UniqueKeysAndTags() {
+// The table of a category; empty for the categories without conversion factors.
+constexpr std::span<const UnitRow> TableOfCategory(Category category) {
+    switch (category) {
+        case Category::Length: return kLength;
+        case Category::Area: return kArea;
+        case Category::Volume: return kVolume;
+        case Category::Speed: return kSpeed;
+        case Category::Mass: return kMass;
+        case Category::Duration: return kTime;
+        case Category::None:
+        case Category::Temperature:
+        case Category::IntegerFormat:
+        case Category::Calendar: return {};
+    }
+    return {};
+}
+
+// Each key and each tag in one row only, and each row in the table of its tag's category.
+consteval bool UnitRowsAreConsistent() {
     const std::span<const UnitRow> tables[] = {kLength, kArea, kVolume, kSpeed, kMass, kTime};
-    std::array<u32, 256 + 155> seen{};  // keys 0..255, then tags 1800..1954
-    for (const auto& table : tables) {
-        for (const UnitRow& row : table) {
-            if (row.key > 255 || row.tag < 1800 || row.tag > 1954) return false;
-            if (seen[row.key]++ || seen[256 + row.tag - 1800]++) return false;
+    const Category categories[] = {Category::Length, Category::Area, Category::Volume,
+                                      Category::Speed,  Category::Mass, Category::Duration};
+    for (std::size_t t = 0; t < std::size(tables); ++t) {
+        for (const UnitRow& row : tables[t]) {
+            if (TableOfCategory(categories[t]).data() != tables[t].data()) return false;
+            for (std::size_t u = 0; u < std::size(tables); ++u) {
+                for (const UnitRow& other : tables[u]) {
+                    if (&other != &row && (other.key == row.key || other.tag == row.tag)) return false;
+                }
+            }
         }
     }
     return true;
 }
-static_assert(UniqueKeysAndTags(), "a unit key or tag appears twice");
-
-// The table of a category 1..5 or 8; empty for the others.
-std::span<const UnitRow> TableOfCategory(u32 category) {
-    switch (category) {
-        case 1: return kLength;
-        case 2: return kArea;
-        case 3: return kVolume;
-        case 4: return kSpeed;
-        case 5: return kMass;
-        case 8: return kTime;
-        default: return {};
-    }
-}
+static_assert(UnitRowsAreConsistent(), "a unit key or tag appears twice");
 
 const UnitRow* FindTag(std::span<const UnitRow> table, ValueTag t) {
     for (const UnitRow& row : table) {
@@ -143,9 +145,6 @@ struct KeyRow {
 };
 
 KeyRow FindUnitKey(FunctionId id) {
-    // Every other family's keys pass through here; only the two blocks of unit keys are looked up.
-    const bool unitKey = (id >= fid::Inches && id <= 163) || (id >= 216 && id <= 240);
-    if (!unitKey) return {};
     const std::span<const UnitRow> tables[] = {kLength, kArea, kVolume, kSpeed, kMass};
     for (const auto& table : tables) {
         for (const UnitRow& row : table) {
@@ -161,41 +160,41 @@ struct TagPair {
 };
 
 constexpr std::array kLengthToArea = {
-    TagPair{1900, 1914}, TagPair{1901, 1915}, TagPair{1902, 1916}, TagPair{1903, 1917},  // in ft mi m
-    TagPair{1930, 1936}, TagPair{1931, 1935}, TagPair{1932, 1938}, TagPair{1933, 1937},  // cm mm yd km
-    TagPair{1943, 1917}, TagPair{1944, 1936}, TagPair{1945, 1938}, TagPair{1946, 1915},  // cubic m cm yd ft
-    TagPair{1947, 1914},                                                                 // cubic in
+    TagPair{ValueTag::Inches, ValueTag::SquareInches}, TagPair{ValueTag::Feet, ValueTag::SquareFeet}, TagPair{ValueTag::Miles, ValueTag::SquareMiles}, TagPair{ValueTag::Meters, ValueTag::SquareMeters},  // in ft mi m
+    TagPair{ValueTag::Centimeters, ValueTag::SquareCentimeters}, TagPair{ValueTag::Millimeters, ValueTag::SquareMillimeters}, TagPair{ValueTag::Yards, ValueTag::SquareYards}, TagPair{ValueTag::Kilometers, ValueTag::SquareKilometers},  // cm mm yd km
+    TagPair{ValueTag::CubicMeters, ValueTag::SquareMeters}, TagPair{ValueTag::CubicCentimeters, ValueTag::SquareCentimeters}, TagPair{ValueTag::CubicYards, ValueTag::SquareYards}, TagPair{ValueTag::CubicFeet, ValueTag::SquareFeet},  // cubic m cm yd ft
+    TagPair{ValueTag::CubicInches, ValueTag::SquareInches},                                                                 // cubic in
 };
 constexpr std::array kToLength = {
-    TagPair{1914, 1900}, TagPair{1915, 1901}, TagPair{1916, 1902}, TagPair{1917, 1903},  // square units
-    TagPair{1935, 1931}, TagPair{1936, 1930}, TagPair{1937, 1933}, TagPair{1938, 1932},  //
-    TagPair{1908, 1900}, TagPair{1909, 1901}, TagPair{1910, 1903}, TagPair{1911, 1902},  // speeds
-    TagPair{1912, 1933}, TagPair{1913, 1930}, TagPair{1942, 1934},                       //
-    TagPair{1943, 1903}, TagPair{1944, 1930}, TagPair{1945, 1932}, TagPair{1946, 1901},  // cubic units
-    TagPair{1947, 1900},                                                                 // (acres: none)
+    TagPair{ValueTag::SquareInches, ValueTag::Inches}, TagPair{ValueTag::SquareFeet, ValueTag::Feet}, TagPair{ValueTag::SquareMiles, ValueTag::Miles}, TagPair{ValueTag::SquareMeters, ValueTag::Meters},  // square units
+    TagPair{ValueTag::SquareMillimeters, ValueTag::Millimeters}, TagPair{ValueTag::SquareCentimeters, ValueTag::Centimeters}, TagPair{ValueTag::SquareKilometers, ValueTag::Kilometers}, TagPair{ValueTag::SquareYards, ValueTag::Yards},  //
+    TagPair{ValueTag::InchesPerSecond, ValueTag::Inches}, TagPair{ValueTag::FeetPerSecond, ValueTag::Feet}, TagPair{ValueTag::MetersPerSecond, ValueTag::Meters}, TagPair{ValueTag::MilesPerHour, ValueTag::Miles},  // speeds
+    TagPair{ValueTag::KilometersPerHour, ValueTag::Kilometers}, TagPair{ValueTag::CentimetersPerSecond, ValueTag::Centimeters}, TagPair{ValueTag::Knots, ValueTag::NauticalMiles},                       //
+    TagPair{ValueTag::CubicMeters, ValueTag::Meters}, TagPair{ValueTag::CubicCentimeters, ValueTag::Centimeters}, TagPair{ValueTag::CubicYards, ValueTag::Yards}, TagPair{ValueTag::CubicFeet, ValueTag::Feet},  // cubic units
+    TagPair{ValueTag::CubicInches, ValueTag::Inches},                                                                 // (acres: none)
 };
 constexpr std::array kToVolume = {
-    TagPair{1900, 1947}, TagPair{1914, 1947}, TagPair{1901, 1946}, TagPair{1915, 1946},  // in, ft
-    TagPair{1903, 1943}, TagPair{1917, 1943}, TagPair{1930, 1944}, TagPair{1936, 1944},  // m, cm
-    TagPair{1932, 1945}, TagPair{1938, 1945},                                            // yd
+    TagPair{ValueTag::Inches, ValueTag::CubicInches}, TagPair{ValueTag::SquareInches, ValueTag::CubicInches}, TagPair{ValueTag::Feet, ValueTag::CubicFeet}, TagPair{ValueTag::SquareFeet, ValueTag::CubicFeet},  // in, ft
+    TagPair{ValueTag::Meters, ValueTag::CubicMeters}, TagPair{ValueTag::SquareMeters, ValueTag::CubicMeters}, TagPair{ValueTag::Centimeters, ValueTag::CubicCentimeters}, TagPair{ValueTag::SquareCentimeters, ValueTag::CubicCentimeters},  // m, cm
+    TagPair{ValueTag::Yards, ValueTag::CubicYards}, TagPair{ValueTag::SquareYards, ValueTag::CubicYards},                                            // yd
 };
 constexpr std::array kLengthToSpeed = {
-    TagPair{1900, 1908}, TagPair{1901, 1909}, TagPair{1902, 1911}, TagPair{1903, 1910},
-    TagPair{1930, 1913}, TagPair{1933, 1912}, TagPair{1934, 1942},
+    TagPair{ValueTag::Inches, ValueTag::InchesPerSecond}, TagPair{ValueTag::Feet, ValueTag::FeetPerSecond}, TagPair{ValueTag::Miles, ValueTag::MilesPerHour}, TagPair{ValueTag::Meters, ValueTag::MetersPerSecond},
+    TagPair{ValueTag::Centimeters, ValueTag::CentimetersPerSecond}, TagPair{ValueTag::Kilometers, ValueTag::KilometersPerHour}, TagPair{ValueTag::NauticalMiles, ValueTag::Knots},
 };
 constexpr std::array kSpeedTimeBase = {
-    TagPair{1908, tag::Seconds}, TagPair{1909, tag::Seconds}, TagPair{1910, tag::Seconds},
-    TagPair{1913, tag::Seconds}, TagPair{1911, tag::Hours}, TagPair{1912, tag::Hours},
-    TagPair{1942, tag::Hours},
+    TagPair{ValueTag::InchesPerSecond, ValueTag::Seconds}, TagPair{ValueTag::FeetPerSecond, ValueTag::Seconds}, TagPair{ValueTag::MetersPerSecond, ValueTag::Seconds},
+    TagPair{ValueTag::CentimetersPerSecond, ValueTag::Seconds}, TagPair{ValueTag::MilesPerHour, ValueTag::Hours}, TagPair{ValueTag::KilometersPerHour, ValueTag::Hours},
+    TagPair{ValueTag::Knots, ValueTag::Hours},
 };
 
 // A category's own units map to themselves; the others through the pairs.
-ValueTag Map(std::span<const TagPair> pairs, u32 selfCategory, ValueTag t) {
-    if (t != 0 && TagCategory(t) == selfCategory) return t;
+ValueTag Map(std::span<const TagPair> pairs, Category selfCategory, ValueTag t) {
+    if (t != ValueTag::None && TagCategory(t) == selfCategory) return t;
     for (const TagPair& p : pairs) {
         if (p.from == t) return p.to;
     }
-    return 0;
+    return ValueTag::None;
 }
 
 bool IsOneOf(ValueTag t, std::initializer_list<ValueTag> tags) {
@@ -207,12 +206,12 @@ bool IsOneOf(ValueTag t, std::initializer_list<ValueTag> tags) {
 
 // Converts X into Y's unit for add and subtract: durations through the chain, the rest by table.
 double ConvertLike(double v, ValueTag from, ValueTag to, const DurationSettings& settings) {
-    return TagCategory(to) == 8 ? ConvertDuration(v, from, to, settings) : ConvertUnit(v, from, to);
+    return TagCategory(to) == Category::Duration ? ConvertDuration(v, from, to, settings) : ConvertUnit(v, from, to);
 }
 
 ValueTag AdditiveTag(TaggedValue& y, TaggedValue& x, const DurationSettings& settings) {
-    const u32 category = TagCategory(y.tag);
-    if (category != TagCategory(x.tag) || category == 6) return 0;  // temperatures never add
+    const Category category = TagCategory(y.tag);
+    if (category != TagCategory(x.tag) || category == Category::Temperature) return ValueTag::None;  // temperatures never add
     if (y.tag != x.tag) x.value = ConvertLike(x.value, x.tag, y.tag, settings);
     return y.tag;
 }
@@ -224,63 +223,63 @@ void ConvertUnlessIn(TaggedValue& operand, ValueTag unit) {
 
 // A product or quotient whose unit does not exist (sq miles x feet) is untagged and unconverted.
 ValueTag MultiplyTag(TaggedValue& y, TaggedValue& x) {
-    const u32 cy = TagCategory(y.tag), cx = TagCategory(x.tag);
-    if (cy == 1 && cx == 1) {
+    const Category cy = TagCategory(y.tag), cx = TagCategory(x.tag);
+    if (cy == Category::Length && cx == Category::Length) {
         const ValueTag area = LengthToArea(y.tag);
-        if (area != 0) ConvertUnlessIn(x, y.tag);
+        if (area != ValueTag::None) ConvertUnlessIn(x, y.tag);
         return area;
     }
-    if (cy == 2 && cx == 1) {
+    if (cy == Category::Area && cx == Category::Length) {
         const ValueTag volume = ToVolume(y.tag);
-        if (volume != 0) ConvertUnlessIn(x, ToLength(volume));
+        if (volume != ValueTag::None) ConvertUnlessIn(x, ToLength(volume));
         return volume;
     }
-    if (cy == 1 && cx == 2) {
+    if (cy == Category::Length && cx == Category::Area) {
         const ValueTag volume = ToVolume(y.tag);
         // X is an area but is converted with the length table: only the division by the length's
         // factor applies. This is how products of a length and an area have always come out.
-        if (volume != 0 && x.tag != LengthToArea(volume)) x.value = ConvertUnit(x.value, x.tag, ToLength(volume));
+        if (volume != ValueTag::None && x.tag != LengthToArea(volume)) x.value = ConvertUnit(x.value, x.tag, ToLength(volume));
         return volume;
     }
-    if (cy == 4 && cx == 8) {
+    if (cy == Category::Speed && cx == Category::Duration) {
         ConvertUnlessIn(x, SpeedTimeBase(y.tag));
         return ToLength(y.tag);
     }
-    if (cy == 8 && cx == 4) {
+    if (cy == Category::Duration && cx == Category::Speed) {
         ConvertUnlessIn(y, SpeedTimeBase(x.tag));
         return ToLength(x.tag);
     }
-    return 0;
+    return ValueTag::None;
 }
 
 ValueTag DivideTag(TaggedValue& y, TaggedValue& x) {
-    const u32 cy = TagCategory(y.tag), cx = TagCategory(x.tag);
-    if (cy == 2 && cx == 1) {
+    const Category cy = TagCategory(y.tag), cx = TagCategory(x.tag);
+    if (cy == Category::Area && cx == Category::Length) {
         const ValueTag length = ToLength(y.tag);
-        if (length != 0) ConvertUnlessIn(x, length);
+        if (length != ValueTag::None) ConvertUnlessIn(x, length);
         return length;
     }
-    if (cy == 3 && cx == 1) {
+    if (cy == Category::Volume && cx == Category::Length) {
         const ValueTag area = LengthToArea(y.tag);
-        if (area != 0) ConvertUnlessIn(x, ToLength(area));
+        if (area != ValueTag::None) ConvertUnlessIn(x, ToLength(area));
         return area;
     }
-    if (cy == 3 && cx == 2) {
+    if (cy == Category::Volume && cx == Category::Area) {
         const ValueTag length = ToLength(y.tag);
-        if (length != 0) ConvertUnlessIn(x, LengthToArea(length));
+        if (length != ValueTag::None) ConvertUnlessIn(x, LengthToArea(length));
         return length;
     }
-    if (cy == 1 && cx == 8) {
+    if (cy == Category::Length && cx == Category::Duration) {
         const ValueTag speed = LengthToSpeed(y.tag);
-        if (speed != 0) ConvertUnlessIn(x, SpeedTimeBase(speed));
+        if (speed != ValueTag::None) ConvertUnlessIn(x, SpeedTimeBase(speed));
         return speed;
     }
-    if (cy == 1 && cx == 4) {
+    if (cy == Category::Length && cx == Category::Speed) {
         // 100 km / 50 mi/h: the speed's miles are turned into km, so the quotient is in hours.
         x.value = ConvertUnit(x.value, ToLength(x.tag), y.tag);
         return SpeedTimeBase(x.tag);
     }
-    return 0;
+    return ValueTag::None;
 }
 
 // Time keys on a date or clock time: the field of the key, or the error value where the value's
@@ -288,34 +287,34 @@ ValueTag DivideTag(TaggedValue& y, TaggedValue& x) {
 double DateField(double value, ValueTag kind, FunctionId key) {
     if (!IsDateInRange(value)) return kErrorValue;
     const DateFields f = SplitDate(value);
-    const bool hasDate = kind != tag::Time, hasTime = kind != tag::Date;
+    const bool hasDate = kind != ValueTag::Time, hasTime = kind != ValueTag::Date;
     switch (key) {
-        case 189: return hasDate ? f.year : kErrorValue;
-        case 190: return hasDate ? f.month : kErrorValue;
-        case 192: return hasDate ? f.day : kErrorValue;
-        case 193: return hasTime ? f.hour : kErrorValue;
-        case 194: return hasTime ? f.minute : kErrorValue;
-        case 195: return hasTime ? f.second : kErrorValue;
+        case fid::Years: return hasDate ? f.year : kErrorValue;
+        case fid::Months: return hasDate ? f.month : kErrorValue;
+        case fid::Days: return hasDate ? f.day : kErrorValue;
+        case fid::Hours: return hasTime ? f.hour : kErrorValue;
+        case fid::Minutes: return hasTime ? f.minute : kErrorValue;
+        case fid::Seconds: return hasTime ? f.second : kErrorValue;
         default: return kErrorValue;  // weeks and frames are no field of a date
     }
 }
 
-void TimeKey(Engine& e, FunctionId id) {
+void TimeKey(Engine& e, const UnitRow& key) {
     const ValueTag xTag = e.XTag();
-    if (TagCategory(xTag) == 9) {
+    if (TagCategory(xTag) == Category::Calendar) {
         e.SaveLastX();
-        e.SetX(DateField(e.X(), xTag, id));
+        e.SetX(DateField(e.X(), xTag, key.key));
         return;
     }
-    const ValueTag target = static_cast<ValueTag>(tag::Years + (id - fid::Years));
-    if (TagCategory(xTag) == 8) e.SetX(ConvertDuration(e.X(), xTag, target, DurationSettingsOf(e)));
+    const ValueTag target = key.tag;
+    if (TagCategory(xTag) == Category::Duration) e.SetX(ConvertDuration(e.X(), xTag, target, DurationSettingsOf(e)));
     e.SetXTag(target);
 }
 
 void TemperatureKey(Engine& e, FunctionId id) {
-    if (id == fid::DegF && e.XTag() == tag::DegC) e.SetX(e.X() * 1.8 + 32.0);
-    if (id == fid::DegC && e.XTag() == tag::DegF) e.SetX(RoundTo14(e.X() - 32.0) * 0.5555555555555556);
-    e.SetXTag(id == fid::DegF ? tag::DegF : tag::DegC);
+    if (id == fid::DegF && e.XTag() == ValueTag::DegC) e.SetX(e.X() * 1.8 + 32.0);
+    if (id == fid::DegC && e.XTag() == ValueTag::DegF) e.SetX(RoundTo14(e.X() - 32.0) * 0.5555555555555556);
+    e.SetXTag(id == fid::DegF ? ValueTag::DegF : ValueTag::DegC);
 }
 
 // A unit key converts a value already in a unit of its table, and only labels any other value
@@ -345,7 +344,7 @@ double ConvertUnit(double v, ValueTag from, ValueTag to) {
 }
 
 double ConvertDuration(double v, ValueTag s, ValueTag t, const DurationSettings& d) {
-    using namespace tag;
+    using enum ValueTag;
     if (s == t) return v;
     if (s == Hms) {
         v = HmsToHours(v);
@@ -421,28 +420,29 @@ double SecondsPerTimeUnit(ValueTag t) {
     return row ? row->factor * 86400.0 : 0.0;
 }
 
-ValueTag LengthToArea(ValueTag t) { return Map(kLengthToArea, 2, t); }
-ValueTag ToLength(ValueTag t) { return Map(kToLength, 1, t); }
-ValueTag ToVolume(ValueTag t) { return Map(kToVolume, 3, t); }
-ValueTag LengthToSpeed(ValueTag t) { return Map(kLengthToSpeed, 4, t); }
-ValueTag SpeedTimeBase(ValueTag t) { return t != tag::Hms ? Map(kSpeedTimeBase, 8, t) : 0; }
+ValueTag LengthToArea(ValueTag t) { return Map(kLengthToArea, Category::Area, t); }
+ValueTag ToLength(ValueTag t) { return Map(kToLength, Category::Length, t); }
+ValueTag ToVolume(ValueTag t) { return Map(kToVolume, Category::Volume, t); }
+ValueTag LengthToSpeed(ValueTag t) { return Map(kLengthToSpeed, Category::Speed, t); }
+ValueTag SpeedTimeBase(ValueTag t) { return t != ValueTag::Hms ? Map(kSpeedTimeBase, Category::Duration, t) : ValueTag::None; }
 
 ValueTag ArithmeticResultTag(FunctionId op, TaggedValue& y, TaggedValue& x, const DurationSettings& settings) {
-    const bool yTagged = TagCategory(y.tag) != 0, xTagged = TagCategory(x.tag) != 0;
+    const bool yTagged = HasCategory(y.tag), xTagged = HasCategory(x.tag);
     if (yTagged != xTagged) return yTagged ? y.tag : x.tag;  // 5 feet x 3 is 15 feet
-    if (!yTagged) return 0;
+    if (!yTagged) return ValueTag::None;
     switch (op) {
         case fid::Add:
         case fid::Subtract: return AdditiveTag(y, x, settings);
         case fid::Multiply: return MultiplyTag(y, x);
         case fid::Divide: return DivideTag(y, x);
-        default: return 0;
+        default: return ValueTag::None;
     }
 }
 
 bool HandleConversionKey(Engine& e, FunctionId id) {
-    if (id >= fid::Years && id <= fid::Frames) {
-        TimeKey(e, id);
+    for (const UnitRow& row : kTime) {
+        if (row.key != id) continue;
+        TimeKey(e, row);
         return true;
     }
     if (id == fid::DegC || id == fid::DegF) {

@@ -127,7 +127,7 @@ ScreenColours MakeScreenColours(const ThemeSet& themes, const Preferences& prefs
 }
 
 Rgb ValueTextColour(const ScreenColours& colours, ValueTag tag, double value) {
-    if (TagCategory(tag) == TagCategory(fid::TagU8)) return colours.displayInteger;
+    if (TagCategory(tag) == Category::IntegerFormat) return colours.displayInteger;
     return value < 0 ? colours.displayNegative : colours.displayText;
 }
 

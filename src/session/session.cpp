@@ -16,7 +16,7 @@ Session::Session(Engine& engine, Host& host) : m_engine(engine), m_host(host) { 
 
 bool Session::Execute(FunctionId id) {
     const bool wasRecording = m_engine.state.engineFlags & flags::Recording;
-    const bool accepted = m_engine.Dispatch(id) != 0;
+    const bool accepted = m_engine.Dispatch(id);
     if (id == fid::MacroPlay && m_engine.macro.macroLength < 3 &&
         !(m_engine.state.engineFlags & flags::Playing)) {
         m_host.ShowMessage(message::NoMacroCaption, message::NoMacroText);
@@ -43,7 +43,7 @@ bool Session::Tap(FunctionId id) {
 
 FunctionId Session::Remap(FunctionId id) const {
     if (m_engine.IntegerEntryAllowed()) id = IntegerVariant(id);
-    return RegisterVariant(id, m_engine.prefs.HundredRegisters());
+    return RegisterVariant(id, m_engine.prefs.HundredRegisters() ? RegisterSet::Large : RegisterSet::Small);
 }
 
 bool Session::TapBlockKey(int k) {
@@ -59,13 +59,13 @@ bool Session::CharacterKey(char32_t c) {
     FunctionId id = kNoKey;
     const bool integerBase = m_engine.state.status & status::BaseMask;
     if (c >= '0' && c <= '9') {
-        id = c - '0';
+        id = DigitKey(static_cast<int>(c - '0'));
     } else if ((c == 'E' || c == 'e') && !integerBase) {
         id = fid::Exponent;
     } else if (c >= 'A' && c <= 'F') {
-        id = 10 + (c - 'A');
+        id = DigitKey(10 + static_cast<int>(c - 'A'));
     } else if (c >= 'a' && c <= 'f') {
-        id = 10 + (c - 'a');
+        id = DigitKey(10 + static_cast<int>(c - 'a'));
     } else {
         switch (c) {
             case '.': case ',': id = fid::Point; break;
@@ -155,11 +155,11 @@ void Session::AfterRestore() {
 
 // Undo and redo are commands, not keys: the last-key words keep what the user last pressed, so
 // "Repeat last key" still repeats it.
-bool Session::Restore(bool undo) {
+bool Session::Restore(HistoryStep step) {
     CalcState& s = m_engine.state;
-    const u32 lastKey = s.lastKey, lastCommand = s.lastCommand;
+    const FunctionId lastKey = s.lastKey, lastCommand = s.lastCommand;
     const bool keepShift = m_engine.prefs.StickyShift();
-    const bool restored = undo ? m_engine.history.Undo(m_engine.Records(), keepShift)
+    const bool restored = step == HistoryStep::Undo ? m_engine.history.Undo(m_engine.Records(), keepShift)
                                : m_engine.history.Redo(m_engine.Records(), keepShift);
     if (!restored) return false;
     s.lastKey = lastKey;
@@ -169,11 +169,11 @@ bool Session::Restore(bool undo) {
 }
 
 void Session::Undo() {
-    if (!Restore(true)) m_host.ShowMessage(message::NothingToUndoCaption, message::NothingToUndoText);
+    if (!Restore(HistoryStep::Undo)) m_host.ShowMessage(message::NothingToUndoCaption, message::NothingToUndoText);
 }
 
 void Session::Redo() {
-    if (!Restore(false)) m_host.ShowMessage(message::NothingToRedoCaption, message::NothingToRedoText);
+    if (!Restore(HistoryStep::Redo)) m_host.ShowMessage(message::NothingToRedoCaption, message::NothingToRedoText);
 }
 
 void Session::Copy() {
@@ -221,11 +221,11 @@ void Session::PasteText(std::string_view text) {
     const auto value = ParsePasted(PasteSpan(text), base);
     if (!value) return;
     if (base == 0) {
-        EnterValue(*value, 0);
+        EnterValue(*value, ValueTag::None);
         return;
     }
-    const ValueTag format = IntegerFormatOf(m_engine.prefs, 0);
-    EnterValue(Narrow(*value, 1928, format), format);  // the pasted digits are an unsigned word
+    const ValueTag format = IntegerFormatOf(m_engine.prefs, ValueTag::None);
+    EnterValue(Narrow(*value, ValueTag::U32, format), format);  // the pasted digits are an unsigned word
 }
 
 bool Session::EnterDate(int year, int month, int day) {
@@ -280,7 +280,7 @@ void Session::SelectTheme(u16 themeId) {
     m_host.Repaint();
 }
 
-u32* Session::Half(KeyHalf half) { return m_userKeys.keys + (half == KeyHalf::Shifted ? kBlockKeys : 0); }
+FunctionId* Session::Half(KeyHalf half) { return m_userKeys.keys + (half == KeyHalf::Shifted ? kBlockKeys : 0); }
 
 bool Session::AssignUserKey(KeyHalf half, int key, FunctionId id) {
     if (key < 1 || key > kBlockKeys) return false;

@@ -115,11 +115,12 @@ private:
 
     // Dispatches one key and raises the macro messages that the key caused.
     bool Execute(FunctionId id);
-    bool Restore(bool undo);
+    enum class HistoryStep { Undo, Redo };
+    bool Restore(HistoryStep step);
     void AfterRestore();
     // Enters a value into X as a recall does, as one undoable step.
     void EnterValue(double value, ValueTag tag);
-    u32* Half(KeyHalf half);
+    FunctionId* Half(KeyHalf half);
 
     Engine& m_engine;
     Host& m_host;

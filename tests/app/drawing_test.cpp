@@ -46,21 +46,21 @@ TEST(Drawing, EveryThemeDrawsLegibleKeysAndDisplayAtTwoSizes) {
             const QImage image = Grab(desk);
             const ScreenColours& colours = desk.window.colours();
             KeyView* keys = desk.window.keyboardView();
-            for (FunctionId id : {FunctionId{5}, fid::Add, fid::Shift, fid::ClearX}) {
+            for (FunctionId id : {fid::Digit5, fid::Add, fid::Shift, fid::ClearX}) {
                 int index = 0;
                 while (index < keys->KeyCount() && keys->ActiveId(index) != id) ++index;
                 ASSERT_LT(index, keys->KeyCount());
                 const KeyColours& c = colours.Key(KeyClassOf(id));
-                EXPECT_GE(ContrastRatio(c.face, c.text), 3.0) << theme << ' ' << id;
+                EXPECT_GE(ContrastRatio(c.face, c.text), 3.0) << theme << ' ' << ToNumber(id);
                 const QRect face = InWindow(desk, keys, keys->CellRect(index));
                 const int ink = CountInk(image, face, ToQColor(c.text), ToQColor(c.face));
-                EXPECT_GT(ink, face.width() * face.height() / 100) << theme << ' ' << id << ' ' << size.width();
-                EXPECT_LT(ink, face.width() * face.height() / 2) << theme << ' ' << id << ' ' << size.width();
+                EXPECT_GT(ink, face.width() * face.height() / 100) << theme << ' ' << ToNumber(id) << ' ' << size.width();
+                EXPECT_LT(ink, face.width() * face.height() / 2) << theme << ' ' << ToNumber(id) << ' ' << size.width();
             }
             // X is drawn in its colour, large enough to read.
             const QRect display = InWindow(desk, desk.window.display(), desk.window.display()->rect());
-            const QColor valueColour = ToQColor(ValueTextColour(colours, 0, -12345.0));
-            EXPECT_GE(ContrastRatio(colours.displayBackground, ValueTextColour(colours, 0, -12345.0)), 3.0) << theme;
+            const QColor valueColour = ToQColor(ValueTextColour(colours, ValueTag::None, -12345.0));
+            EXPECT_GE(ContrastRatio(colours.displayBackground, ValueTextColour(colours, ValueTag::None, -12345.0)), 3.0) << theme;
             const int ink = CountInk(image, display, valueColour, ToQColor(colours.displayBackground));
             EXPECT_GT(ink, 150 * size.width() / 240) << theme << ' ' << size.width();
         }

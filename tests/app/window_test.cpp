@@ -43,7 +43,7 @@ std::string LevelOf(const Engine& e, int level) {
     char buffer[64];
     const double value = e.state.stack[level];
     const auto end = std::to_chars(buffer, buffer + sizeof buffer, std::isnan(value) ? NAN : value).ptr;
-    return "\"value\":\"" + std::string(buffer, end) + "\",\"tag\":" + std::to_string(e.state.tags[level]);
+    return "\"value\":\"" + std::string(buffer, end) + "\",\"tag\":" + std::to_string(ToNumber(e.state.tags[level]));
 }
 
 std::vector<std::string> CliLevels(const std::string& json) {
@@ -115,8 +115,8 @@ TEST(Window, KeypadAndHardwareKeysInEachInputMethod) {
         Desk desk;
         if (basic) desk.Press(Qt::Key_Left);
         ASSERT_EQ(desk.window.basicView()->isVisible(), basic);
-        for (FunctionId id : {FunctionId{2}, fid::Add, FunctionId{3}, fid::Multiply, FunctionId{5}, fid::Equals}) {
-            ASSERT_TRUE(desk.Click(id)) << id;
+        for (FunctionId id : {fid::Digit2, fid::Add, fid::Digit3, fid::Multiply, fid::Digit5, fid::Equals}) {
+            ASSERT_TRUE(desk.Click(id)) << ToNumber(id);
         }
         EXPECT_EQ(desk.XLine(), "25.");
     }
@@ -259,7 +259,7 @@ TEST(Window, KeysAndDisplayAreVisibleToAccessibilityTools) {
         EXPECT_EQ(key->role(), QAccessible::Button);
         EXPECT_FALSE(key->text(QAccessible::Name).isEmpty()) << i;
         EXPECT_EQ(view->indexOfChild(key), i);
-        if (keys->ActiveId(i) == 7) seven = i;
+        if (keys->ActiveId(i) == fid::Digit7) seven = i;
     }
     ASSERT_GE(seven, 0);
     QAccessibleInterface* key = view->child(seven);

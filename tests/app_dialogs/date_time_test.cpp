@@ -55,7 +55,7 @@ private slots:
         QCOMPARE(run.engine.XTag(), fid::TagDate);
         QCOMPARE(run.engine.YTag(), fid::TagDate);
         run.session.Undo();
-        QCOMPARE(run.engine.YTag(), ValueTag{0});
+        QCOMPARE(run.engine.YTag(), ValueTag::None);
         run.Type("7");
         run.host.clock.now = {2010, 6, 1, 9, 0, 0, 2};
         d = run.dialogs.OpenEnterDate();

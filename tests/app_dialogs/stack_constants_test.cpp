@@ -84,7 +84,7 @@ private slots:
             Click(Button(list, QDialogButtonBox::Ok));
             QVERIFY(!list->isVisible());
             QCOMPARE(run.engine.X(), 299792458.0);
-            QCOMPARE(run.engine.XTag(), ValueTag{1910});
+            QCOMPARE(run.engine.XTag(), ValueTag::MetersPerSecond);
             run.dialogs.Open(dialogs::View::Constants);
             QVERIFY(list->list()->selectedItems().isEmpty());
             const QPoint second = list->list()->visualItemRect(list->list()->item(top + 1)).center();
@@ -109,7 +109,7 @@ private slots:
         QTest::keyClick(list->list(), Qt::Key_Return);
         QVERIFY(!list->isVisible());
         QCOMPARE(again.engine.X(), 6.6260755e-34);
-        QCOMPARE(again.engine.XTag(), ValueTag{0});
+        QCOMPARE(again.engine.XTag(), ValueTag::None);
     }
 };
 

@@ -12,14 +12,15 @@
 #include "display/labels.h"
 #include "display/number_format.h"
 #include "engine/engine.h"
+#include "engine/engine_test_support.h"
 #include "engine/numeric/date_fields.h"
 
 namespace brinto {
 namespace {
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
-constexpr ValueTag kU8 = 1924, kS8 = 1925, kS16 = 1927, kU32 = 1928, kS32 = 1929, kMeters = 1903;
-constexpr ValueTag kDate = 1801, kTime = 1802, kDateTime = 1803, kCashFlow = 1419, kGroupCount = 1420;
+constexpr ValueTag kU8 = ValueTag::U8, kS8 = ValueTag::S8, kS16 = ValueTag::S16, kU32 = ValueTag::U32, kS32 = ValueTag::S32, kMeters = ValueTag::Meters;
+constexpr ValueTag kDate = ValueTag::Date, kTime = ValueTag::Time, kDateTime = ValueTag::DateTime, kCashFlow = ValueTag::CashFlow, kGroupCount = ValueTag::GroupCount;
 const double kMarch15 = ComposeDate(DateFields{2005, 3, 15, 14, 5, 30, 0});
 
 struct DisplayTextTest : testing::Test {
@@ -28,13 +29,13 @@ struct DisplayTextTest : testing::Test {
         e.state.status = 0;
         e.registers.cashFlowCount = -1;
     }
-    void Put(int level, double value, ValueTag tag = 0, u16 aux = kNoAux) { e.SetLevel(level, {value, tag, aux}); }
-    std::string Shown(double value, ValueTag tag = 0) {
+    void Put(int level, double value, ValueTag tag = ValueTag::None, u16 aux = kNoAux) { e.SetLevel(level, {value, tag, aux}); }
+    std::string Shown(double value, ValueTag tag = ValueTag::None) {
         Put(0, value, tag);
         return DisplayLevel(e, 0).text;
     }
     // What FormatValue makes of a value, before the display's own rules.
-    std::string Formatted(double value, ValueTag tag = 0, bool noPoint = false) {
+    std::string Formatted(double value, ValueTag tag = ValueTag::None, bool noPoint = false) {
         FormattedText out;
         return FormatValue(e, value, tag, noPoint, out) != 0 ? "refused" : std::string(out.View());
     }
@@ -87,10 +88,10 @@ TEST_F(DisplayTextTest, IntegerBasesShowTheBitsOfTheValuesFormatUngrouped) {
     const u16 hex = status::BaseHex, binary = status::BaseBinary, octal = status::BaseOctal;
     const Case cases[] = {
         {hex, 5, 300, kU8, "2C."},        {hex, 5, -1, kS8, "FF."},     {hex, 5, -2, kS16, "FFFE."},
-        {hex, 0, 256, 0, "0."},           {hex, 2, -1, kMeters, "FFFF."}, {hex, 6, -1, 0, "FFFFFFFF."},
-        {hex, 5, 255.9, 0, "FF."},        {hex, 5, 3735928559, kU32, "DEADBEEF."}, {hex, 5, 0x12345678, kU32, "12345678."},
+        {hex, 0, 256, ValueTag::None, "0."},           {hex, 2, -1, kMeters, "FFFF."}, {hex, 6, -1, ValueTag::None, "FFFFFFFF."},
+        {hex, 5, 255.9, ValueTag::None, "FF."},        {hex, 5, 3735928559, kU32, "DEADBEEF."}, {hex, 5, 0x12345678, kU32, "12345678."},
         {binary, 5, -128, kS8, "10000000."}, {binary, 5, 16, kU8, "10000."}, {octal, 5, -1, kS32, "37777777777."},
-        {octal, 5, 8, 0, "10."},          {octal, 5, 0, 0, "0."},
+        {octal, 5, 8, ValueTag::None, "10."},          {octal, 5, 0, ValueTag::None, "0."},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(testing::Message() << c.value << " tag " << c.tag << " preference " << c.preference);
@@ -146,8 +147,8 @@ TEST(EmptyEntry, AnEntryEditedToNothingShowsZero) {
     // Typing a digit, changing the sign, then erasing both leaves the entry open with X zero: the
     // display shows the zero a cleared X shows, not a blank line.
     const FunctionId cases[][6] = {
-        {1, fid::ChangeSign, 4, fid::Backspace, fid::Backspace, fid::ChangeSign},
-        {2, fid::Add, 5, fid::ChangeSign, fid::Backspace, fid::ChangeSign},
+        {fid::Digit1, fid::ChangeSign, fid::Digit4, fid::Backspace, fid::Backspace, fid::ChangeSign},
+        {fid::Digit2, fid::Add, fid::Digit5, fid::ChangeSign, fid::Backspace, fid::ChangeSign},
     };
     const std::string zero = DisplayLevel(*std::make_unique<Engine>(), 0).text;
     for (const auto& keys : cases) {
@@ -171,7 +172,7 @@ TEST_F(DisplayTextTest, ValuesTheFormatterRefusesShowError) {
 TEST_F(DisplayTextTest, LabelsComeFromTheTagWithCashFlowDecorations) {
     struct Case { ValueTag tag; u16 aux; i16 flowCount; u32 groupCount; std::string_view label; };
     const Case cases[] = {
-        {1234, kNoAux, -1, 0, ""},        {3607, kNoAux, -1, 0, "Speed of light in vacuum, c"},
+        {ValueTagFrom(1234), kNoAux, -1, 0, ""},        {ValueTag::SpeedOfLight, kNoAux, -1, 0, "Speed of light in vacuum, c"},
         {kCashFlow, 3, 5, 4, "CFj 3 x4"}, {kCashFlow, 3, 5, 1, "CFj 3"},   {kGroupCount, 3, 5, 4, "Nj 3"},
         {kCashFlow, 3, -1, 4, "CFj"},     {kCashFlow, 0, 0, 2, "CFj 0 x2"},
     };
@@ -184,15 +185,17 @@ TEST_F(DisplayTextTest, LabelsComeFromTheTagWithCashFlowDecorations) {
     }
     e.state.amortStart = 1;
     e.state.amortEnd = 12;
-    Put(0, 250.5, 1412);
+    Put(0, 250.5, ValueTag::Interest);
     EXPECT_EQ(DisplayLevel(e, 0, Amortizing::Yes).label, "Calculating...  1-12");
     EXPECT_EQ(DisplayLevel(e, 0).label, "Int");
-    // The label table, across its rows; codes are 16 bits wide.
-    const std::pair<u32, std::string_view> rows[] = {
-        {1200, "error"}, {1811, "frames"}, {1929, "s32"}, {2504, "fps"}, {1954, "fl. oz UK"},
-        {3632, "Reference intensity, I0"}, {1421, ""}, {1955, ""}, {0x10000 + 1200, ""},
+    // The label table, across its rows.
+    const std::pair<ValueTag, std::string_view> rows[] = {
+        {ValueTag::Error, "error"},         {ValueTag::Frames, "frames"},
+        {ValueTag::S32, "s32"},             {ValueTag::FramesPerSecond, "fps"},
+        {ValueTag::FluidOuncesUk, "fl. oz UK"}, {ValueTag::ReferenceIntensity, "Reference intensity, I0"},
+        {ValueTagFrom(1421), ""},           {ValueTagFrom(1955), ""},
     };
-    for (const auto& [code, text] : rows) EXPECT_EQ(LabelText(code), text) << code;
+    for (const auto& [tag, text] : rows) EXPECT_EQ(LabelText(tag), text) << tag;
 }
 
 TEST_F(DisplayTextTest, ClipboardGetsThePlainNumber) {

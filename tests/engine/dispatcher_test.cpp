@@ -47,13 +47,13 @@ TEST(Dispatcher, BackspaceOutsideAnEntryClearsXOrDrops) {
 TEST(Dispatcher, ChangeSignOutsideEntryKeepsOnlyUnitTags) {
     Engine e = MakeEngine(InputMethod::Rpn);
     Press(e, {5, fid::Enter});
-    e.SetXTag(1903);
+    e.SetXTag(ValueTag::Meters);
     e.Dispatch(fid::ChangeSign);
     EXPECT_EQ(e.X(), -5.0);
-    EXPECT_EQ(e.XTag(), 1903);
-    e.SetXTag(1410);  // "PV" is a label, not a unit
+    EXPECT_EQ(e.XTag(), ValueTag::Meters);
+    e.SetXTag(ValueTag::PresentValue);  // "PV" is a label, not a unit
     e.Dispatch(fid::ChangeSign);
-    EXPECT_EQ(e.XTag(), 0);
+    EXPECT_EQ(e.XTag(), ValueTag::None);
     Press(e, {2});  // change sign ended the entry and enabled lift
     EXPECT_EQ(e.Y(), 5.0);
 }
@@ -61,8 +61,8 @@ TEST(Dispatcher, ChangeSignOutsideEntryKeepsOnlyUnitTags) {
 TEST(Dispatcher, UnknownKeyIsNotAcceptedAndChangesNothing) {
     Engine e = MakeEngine(InputMethod::Rpn);
     Press(e, {1, 2});
-    EXPECT_FALSE(e.Dispatch(9999));
-    EXPECT_EQ(e.state.lastCommand, 2u);
+    EXPECT_FALSE(e.Dispatch(FunctionIdFrom(9999)));
+    EXPECT_EQ(e.state.lastCommand, fid::Digit2);
 }
 
 TEST(Dispatcher, ModeKeysKeepTheLiftState) {
@@ -79,13 +79,13 @@ TEST(ShiftKeys, StandardLastsOneKeyStickyUntilPressedAgain) {
     Engine e = MakeEngine(InputMethod::Rpn);
     e.Dispatch(fid::Shift);
     EXPECT_TRUE(e.state.status & status::FirstShift);
-    e.Dispatch(1);
+    e.Dispatch(fid::Digit1);
     EXPECT_FALSE(e.state.status & status::FirstShift);
 
     e.prefs.SetShift(ShiftMode::Sticky);
     e.Dispatch(fid::Shift);
-    e.Dispatch(2);
-    e.Dispatch(3);
+    e.Dispatch(fid::Digit2);
+    e.Dispatch(fid::Digit3);
     EXPECT_TRUE(e.state.status & status::FirstShift);
     e.Dispatch(fid::Shift);
     EXPECT_FALSE(e.state.status & status::FirstShift);
@@ -145,7 +145,7 @@ TEST(RegisterKeys, EntryStaysOpenAcrossThePrefix) {
     Engine e = MakeEngine(InputMethod::Rpn);
     Press(e, {1, 2, fid::StoreLarge});
     EXPECT_TRUE(e.EntryOpen());
-    EXPECT_NE(e.state.pendingArgument, kNoKey);
+    EXPECT_NE(e.state.pendingArgument, kNoPendingArgument);
     Press(e, {0, 5});
     EXPECT_FALSE(e.EntryOpen());
     EXPECT_EQ(e.registers.values[5], 12.0);
@@ -155,10 +155,10 @@ TEST(RegisterKeys, EntryStaysOpenAcrossThePrefix) {
 TEST(RegisterKeys, BackspaceCancelsAndOtherKeysCancelThenAct) {
     Engine e = MakeEngine(InputMethod::Rpn);
     Press(e, {5, fid::Enter, fid::Store, fid::Backspace});
-    EXPECT_EQ(e.state.pendingArgument, kNoKey);
+    EXPECT_EQ(e.state.pendingArgument, kNoPendingArgument);
     EXPECT_EQ(e.X(), 5.0);
     Press(e, {fid::Store, fid::Swap});
-    EXPECT_EQ(e.state.pendingArgument, kNoKey);
+    EXPECT_EQ(e.state.pendingArgument, kNoPendingArgument);
     EXPECT_EQ(e.Y(), 5.0);  // the swap happened
 }
 
@@ -166,13 +166,13 @@ TEST(RegisterKeys, FinancialKeysNameTheirRegisters) {
     Engine e = MakeEngine(InputMethod::Rpn);
     Press(e, {fid::Recall, fid::PYr});
     EXPECT_EQ(e.X(), 12.0);
-    EXPECT_EQ(e.XTag(), 1404);
+    EXPECT_EQ(e.XTag(), ValueTag::PerYear);
     Press(e, {9, fid::Store, fid::PV, fid::Recall, fid::PV});
     EXPECT_EQ(e.registers.values[reg::PV], 9.0);
-    EXPECT_EQ(e.XTag(), 1410);
-    Press(e, {fid::Recall, 202});
+    EXPECT_EQ(e.XTag(), ValueTag::PresentValue);
+    Press(e, {fid::Recall, fid::FramesPerSecond});
     EXPECT_EQ(e.X(), 30.0);
-    EXPECT_EQ(e.XTag(), fid::TagDpy + 4);
+    EXPECT_EQ(e.XTag(), ValueTag::FramesPerSecond);
 }
 
 TEST(RegisterClears, KeysClearTheirGroups) {
@@ -184,7 +184,7 @@ TEST(RegisterClears, KeysClearTheirGroups) {
     EXPECT_EQ(e.registers.values[reg::PV], 0.0);
     EXPECT_EQ(e.registers.values[reg::PYr], 12.0);
     EXPECT_EQ(e.X(), 12.0);
-    EXPECT_EQ(e.XTag(), 1404);
+    EXPECT_EQ(e.XTag(), ValueTag::PerYear);
     EXPECT_EQ(e.registers.cashFlowCount, -1);
     EXPECT_EQ(e.registers.values[reg::DaysPerYear], 1.0);
     e.Dispatch(fid::ClearStatistics);
@@ -192,7 +192,7 @@ TEST(RegisterClears, KeysClearTheirGroups) {
     EXPECT_EQ(e.DurationSetting(reg::DaysPerYear), 365.25);
     e.Dispatch(fid::ClearDate);
     EXPECT_EQ(e.X(), 30.0);
-    EXPECT_EQ(e.XTag(), fid::TagDpy + 4);
+    EXPECT_EQ(e.XTag(), ValueTag::FramesPerSecond);
     EXPECT_EQ(e.registers.values[reg::DaysPerYear], 365.25);
 }
 

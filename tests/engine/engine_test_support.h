@@ -1,8 +1,28 @@
 #pragma once
 // Helpers for driving an engine with keys, as a user does.
 #include <initializer_list>
+#include <ostream>
 
+#include "display/labels.h"
 #include "engine/engine.h"
+#include "engine/key_table.h"
+
+namespace brinto {
+
+// Keys and tags in test messages: the name and the number.
+inline std::ostream& operator<<(std::ostream& os, FunctionId id) {
+    for (const KeyInfo& k : kKeyTable) {
+        if (k.id == id) return os << '"' << k.name << "\" (" << ToNumber(id) << ')';
+    }
+    return os << "key " << ToNumber(id);
+}
+inline std::ostream& operator<<(std::ostream& os, ValueTag tag) {
+    const std::string_view text = LabelText(tag);
+    if (text.empty()) return os << "tag " << ToNumber(tag);
+    return os << '"' << text << "\" (" << ToNumber(tag) << ')';
+}
+
+}  // namespace brinto
 
 namespace brinto::test {
 
@@ -13,8 +33,18 @@ inline Engine MakeEngine(InputMethod method) {
     return e;
 }
 
-inline void Press(Engine& e, std::initializer_list<FunctionId> keys) {
-    for (const FunctionId k : keys) e.Dispatch(k);
+// A key in a test's key sequence: a named key, or a digit key written as its digit. Any other
+// number does not compile.
+struct Key {
+    FunctionId id;
+    constexpr Key(FunctionId key) : id(key) {}
+    consteval Key(int digit) : id(DigitKey(digit)) {
+        if (digit < 0 || digit > 9) throw "only the digits 0..9 are written as numbers";
+    }
+};
+
+inline void Press(Engine& e, std::initializer_list<Key> keys) {
+    for (const Key k : keys) e.Dispatch(k.id);
 }
 
 }  // namespace brinto::test

@@ -17,7 +17,7 @@ using test::MakeEngine;
 TEST(HexLetterEntry, SwitchesOnlyNumbersThatHaveAHexadecimalReading) {
     struct Case {
         std::string_view name;
-        std::vector<FunctionId> keys;
+        std::vector<test::Key> keys;
         std::string_view text;
         double x;
         u16 base;
@@ -28,13 +28,13 @@ TEST(HexLetterEntry, SwitchesOnlyNumbersThatHaveAHexadecimalReading) {
         {"pointRefused", {8, 5, fid::Point, 5, fid::HexA}, "85.5", 85.5, 0},
         {"exponentRefused", {8, 5, fid::Point, 5, fid::Exponent, fid::HexA}, "85.5e", 85.5, 0},
         {"bareExponentRefused", {fid::Exponent, 2, fid::HexF}, "1e2", 100.0, 0},
-        {"freshEntrySwitches", {fid::HexA, 11}, "AB", 0xAB, status::BaseHex},
+        {"freshEntrySwitches", {fid::HexA, fid::HexB}, "AB", 0xAB, status::BaseHex},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
         Engine e = MakeEngine(InputMethod::Rpn);
         e.state.status = static_cast<u16>((e.state.status & ~status::KeyboardMask) | 4);  // programmer
-        for (const FunctionId id : c.keys) e.Dispatch(id);
+        for (const test::Key k : c.keys) e.Dispatch(k.id);
         EXPECT_EQ(std::string_view(e.state.entryText), c.text);
         EXPECT_EQ(e.X(), c.x);
         EXPECT_EQ(e.EntryBase(), c.base);

@@ -27,7 +27,7 @@ TEST(History, RefusedKeyIsNotAStep) {
     Engine e = MakeEngine(InputMethod::Rpn);
     Press(e, {5, fid::Enter});
     const int steps = e.history.UndoCount();
-    EXPECT_FALSE(e.Dispatch(9999));
+    EXPECT_FALSE(e.Dispatch(FunctionIdFrom(9999)));
     EXPECT_EQ(e.history.UndoCount(), steps);
 }
 
@@ -146,7 +146,7 @@ TEST(Robustness, RandomKeysKeepInvariants) {
     for (const InputMethod method : {InputMethod::Simple, InputMethod::Precedence, InputMethod::Rpn}) {
         Engine e = MakeEngine(method);
         for (int i = 0; i < 200000; ++i) {
-            FunctionId id = static_cast<FunctionId>(key(random));
+            FunctionId id = FunctionIdFrom(key(random));
             if (id == fid::MacroPlay && (i % 7) != 0) id = fid::Enter;  // keep playback occasional
             e.Dispatch(id);
             ASSERT_LE(e.state.pendingCount, kMaxPending);

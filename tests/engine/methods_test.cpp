@@ -12,7 +12,7 @@ using test::MakeEngine;
 struct MethodCase {
     const char* name;
     InputMethod method;
-    std::vector<FunctionId> keys;
+    std::vector<test::Key> keys;
     double x;
 };
 
@@ -32,7 +32,7 @@ TEST(InputMethods, KeySequencesLeaveExpectedX) {
         {"parentheses", InputMethod::Simple, {2, Times, Open, 3, Plus, 4, Close, Eq}, 14},
         {"nested parentheses", InputMethod::Precedence, {Open, Open, 1, Plus, 2, Close, Times, 3, Close, By, 9, Eq}, 1},
         {"enter works in algebraic", InputMethod::Simple, {2, fid::Enter, 3, Plus}, 5},
-        {"subtraction is cleaned", InputMethod::Simple, {0, 16, 3, Minus, 0, 16, 1, Eq}, 0.2},
+        {"subtraction is cleaned", InputMethod::Simple, {0, fid::Point, 3, Minus, 0, fid::Point, 1, Eq}, 0.2},
         {"power binds tightest", InputMethod::Precedence, {2, Times, 3, fid::Power, 2, Eq}, 18},
         {"percent of total", InputMethod::Simple, {5, 0, fid::PercentTotal, 2, 0, 0, Eq}, 400},
         {"percent change", InputMethod::Rpn, {5, 0, fid::Enter, 7, 5, fid::PercentChange}, 50},
@@ -42,14 +42,14 @@ TEST(InputMethods, KeySequencesLeaveExpectedX) {
     for (const MethodCase& c : cases) {
         SCOPED_TRACE(c.name);
         Engine e = MakeEngine(c.method);
-        for (FunctionId k : c.keys) e.Dispatch(k);
+        for (const test::Key k : c.keys) e.Dispatch(k.id);
         EXPECT_DOUBLE_EQ(e.X(), c.x);
     }
 }
 
 TEST(InputMethods, EqualsWithNothingPendingAndNoOperatorChangesNothing) {
     Engine e = MakeEngine(InputMethod::Simple);
-    e.Dispatch(5);
+    e.Dispatch(fid::Digit5);
     const CalcState before = e.state;
     e.Dispatch(fid::Equals);
     EXPECT_EQ(e.X(), before.stack[0]);
@@ -70,7 +70,7 @@ TEST(InputMethods, PendingStackRefusesTheFortyFirstEntry) {
     const CalcState before = e.state;
     EXPECT_FALSE(e.Dispatch(fid::OpenParen));
     EXPECT_EQ(e.state.pendingCount, kMaxPending);
-    e.Dispatch(1);
+    e.Dispatch(fid::Digit1);
     EXPECT_FALSE(e.Dispatch(fid::Add));  // cannot wait either
     EXPECT_EQ(e.state.pendingCount, kMaxPending);
     EXPECT_EQ(before.pendingCount, kMaxPending);

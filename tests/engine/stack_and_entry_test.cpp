@@ -25,20 +25,20 @@ TEST(Stack, LiftAndDropUseTheRpnDepth) {
 
 TEST(Stack, MovementsCarryTagsAndAuxCodes) {
     Engine e = MakeEngine(InputMethod::Rpn);
-    e.SetLevel(0, {1.0, 1903, 7});
-    e.SetLevel(1, {2.0, 1808, kNoAux});
-    e.SetLevel(2, {3.0, 0, kNoAux});
+    e.SetLevel(0, {1.0, ValueTag::Meters, 7});
+    e.SetLevel(1, {2.0, ValueTag::Hours, kNoAux});
+    e.SetLevel(2, {3.0, ValueTag::None, kNoAux});
     e.Rotate3();  // X = old Z, Y = old X, Z = old Y
     EXPECT_EQ(e.Level(0).value, 3.0);
-    EXPECT_EQ(e.Level(1).tag, 1903);
+    EXPECT_EQ(e.Level(1).tag, ValueTag::Meters);
     EXPECT_EQ(e.Level(1).aux, 7);
-    EXPECT_EQ(e.Level(2).tag, 1808);
+    EXPECT_EQ(e.Level(2).tag, ValueTag::Hours);
     e.RollDown();
     EXPECT_EQ(e.Level(3).value, 3.0);
-    EXPECT_EQ(e.Level(0).tag, 1903);
+    EXPECT_EQ(e.Level(0).tag, ValueTag::Meters);
     e.RollUp();
     e.Swap();
-    EXPECT_EQ(e.Level(0).tag, 1903);
+    EXPECT_EQ(e.Level(0).tag, ValueTag::Meters);
     EXPECT_EQ(e.Level(1).value, 3.0);
 }
 
@@ -62,11 +62,11 @@ TEST(Stack, DepthOneMakesMovementsIdle) {
 
 TEST(Stack, ClearStackResetsAllTwentyLevels) {
     Engine e = MakeEngine(InputMethod::Rpn);
-    for (int k = 0; k < kStackLevels; ++k) e.SetLevel(k, {double(k + 1), 1903, 3});
+    for (int k = 0; k < kStackLevels; ++k) e.SetLevel(k, {double(k + 1), ValueTag::Meters, 3});
     e.Dispatch(fid::ClearStack);
     for (int k = 0; k < kStackLevels; ++k) {
         EXPECT_EQ(e.Level(k).value, 0.0);
-        EXPECT_EQ(e.Level(k).tag, 0);
+        EXPECT_EQ(e.Level(k).tag, ValueTag::None);
         EXPECT_EQ(e.Level(k).aux, kNoAux);
     }
 }
@@ -93,7 +93,7 @@ TEST(Stack, LastXLiftsUnlessLiftIsDisabled) {
 
 struct EntryCase {
     const char* name;
-    std::vector<FunctionId> keys;
+    std::vector<test::Key> keys;
     const char* text;
     double x;
 };
@@ -101,22 +101,22 @@ struct EntryCase {
 TEST(NumberEntry, KeysBuildTheTextAndX) {
     const EntryCase cases[] = {
         {"thirteenth digit refused", {1, 2, 3, 4, 5, 6, 7, 8, 9, 0, 1, 2, 3}, "123456789012", 123456789012.0},
-        {"point is not a digit", {1, 2, 3, 4, 5, 6, 7, 8, 9, 0, 1, 2, 16, 3}, "123456789012.", 123456789012.0},
-        {"bare exponent", {18}, "1e", 1.0},
-        {"fourth exponent digit refused", {2, 18, 1, 2, 3, 4}, "2e123", 2e123},
-        {"second exponent refused", {2, 18, 1, 18}, "2e1", 20.0},
-        {"second point ignored", {1, 16, 5, 16, 2}, "1.52", 1.52},
-        {"point after e ignored", {1, 18, 16, 2}, "1e2", 100.0},
-        {"exponent sign toggles", {1, 18, 5, 19}, "1e-5", 1e-5},
-        {"exponent sign toggles back", {1, 18, 5, 19, 19}, "1e5", 1e5},
-        {"mantissa sign", {1, 19, 2}, "-12", -12.0},
-        {"backspace over e", {1, 18, 20, 2}, "12", 12.0},
-        {"exponent beyond a double", {9, 18, 9, 9, 9}, "9e999", std::numeric_limits<double>::infinity()},
+        {"point is not a digit", {1, 2, 3, 4, 5, 6, 7, 8, 9, 0, 1, 2, fid::Point, 3}, "123456789012.", 123456789012.0},
+        {"bare exponent", {fid::Exponent}, "1e", 1.0},
+        {"fourth exponent digit refused", {2, fid::Exponent, 1, 2, 3, 4}, "2e123", 2e123},
+        {"second exponent refused", {2, fid::Exponent, 1, fid::Exponent}, "2e1", 20.0},
+        {"second point ignored", {1, fid::Point, 5, fid::Point, 2}, "1.52", 1.52},
+        {"point after e ignored", {1, fid::Exponent, fid::Point, 2}, "1e2", 100.0},
+        {"exponent sign toggles", {1, fid::Exponent, 5, fid::ChangeSign}, "1e-5", 1e-5},
+        {"exponent sign toggles back", {1, fid::Exponent, 5, fid::ChangeSign, fid::ChangeSign}, "1e5", 1e5},
+        {"mantissa sign", {1, fid::ChangeSign, 2}, "-12", -12.0},
+        {"backspace over e", {1, fid::Exponent, fid::Backspace, 2}, "12", 12.0},
+        {"exponent beyond a double", {9, fid::Exponent, 9, 9, 9}, "9e999", std::numeric_limits<double>::infinity()},
     };
     for (const EntryCase& c : cases) {
         SCOPED_TRACE(c.name);
         Engine e = MakeEngine(InputMethod::Rpn);
-        for (FunctionId k : c.keys) e.Dispatch(k);
+        for (const test::Key k : c.keys) e.Dispatch(k.id);
         EXPECT_STREQ(e.state.entryText, c.text);
         EXPECT_EQ(e.X(), c.x);
         EXPECT_TRUE(e.EntryOpen());
@@ -125,8 +125,8 @@ TEST(NumberEntry, KeysBuildTheTextAndX) {
 
 TEST(NumberEntry, RefusedDigitIsNotAccepted) {
     Engine e = MakeEngine(InputMethod::Rpn);
-    for (int i = 0; i < 12; ++i) EXPECT_TRUE(e.Dispatch(9));
-    EXPECT_FALSE(e.Dispatch(9));
+    for (int i = 0; i < 12; ++i) EXPECT_TRUE(e.Dispatch(fid::Digit9));
+    EXPECT_FALSE(e.Dispatch(fid::Digit9));
 }
 
 TEST(NumberEntry, BackspaceOverTheLastCharacterClosesTheEntry) {
@@ -139,11 +139,11 @@ TEST(NumberEntry, BackspaceOverTheLastCharacterClosesTheEntry) {
 TEST(NumberEntry, HexLettersAreNotCountedDownByBackspace) {
     Engine e = MakeEngine(InputMethod::Rpn);
     e.state.status |= 4;  // programmer keyboard
-    Press(e, {fid::BaseHex, 1, 15, 15, fid::Backspace, fid::Backspace});
+    Press(e, {fid::BaseHex, 1, fid::HexF, fid::HexF, fid::Backspace, fid::Backspace});
     EXPECT_STREQ(e.state.entryText, "1");
     EXPECT_EQ(e.state.entryDigits, 3);
     int accepted = 0;
-    for (int i = 0; i < 8; ++i) accepted += e.Dispatch(1) ? 1 : 0;
+    for (int i = 0; i < 8; ++i) accepted += e.Dispatch(fid::Digit1) ? 1 : 0;
     EXPECT_EQ(accepted, 5);
 }
 
@@ -171,9 +171,9 @@ TEST(NumberEntry, IntegerBaseIsDroppedOffTheProgrammerKeyboard) {
     e.state.status |= 4;
     e.Dispatch(fid::BaseHex);
     e.state.status &= static_cast<u16>(~status::KeyboardMask);  // General keyboard
-    e.Dispatch(1);
+    e.Dispatch(fid::Digit1);
     EXPECT_EQ(e.EntryBase(), 0);
-    EXPECT_FALSE(e.Dispatch(10));  // hex digits only in hexadecimal
+    EXPECT_FALSE(e.Dispatch(fid::HexA));  // hex digits only in hexadecimal
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ struct Loan {
 Engine LoanEngine(const Loan& loan) {
     Engine e = MakeEngine(InputMethod::Rpn);
     for (const auto& [number, key] : loan.registers) Store(e, number, key);
-    if (loan.decimals >= 0) Press(e, {fid::FormatFixed, static_cast<FunctionId>(loan.decimals)});
+    if (loan.decimals >= 0) Press(e, {fid::FormatFixed, DigitKey(loan.decimals)});
     if (loan.begin) e.Dispatch(fid::BeginEnd);
     return e;
 }

@@ -5,7 +5,7 @@
 #include <tuple>
 
 #include "finance/amortization.h"
-#include "finance/result_labels.h"
+#include "engine/value_tags.h"
 #include "finance_test_support.h"
 
 namespace brinto {

@@ -6,7 +6,7 @@
 
 #include "display/display_text.h"
 #include "finance/cash_flows.h"
-#include "finance/result_labels.h"
+#include "engine/value_tags.h"
 #include "finance_test_support.h"
 
 namespace brinto {
@@ -65,7 +65,7 @@ TEST(CashFlows, ReturnRateFromTypedOrStoredGuess) {
 
 TEST(CashFlows, EntryKeysStoreAndLabelWithoutMovingTheStack) {
     Engine e = MakeEngine(InputMethod::Rpn);
-    EXPECT_EQ((Type(e, "3"), e.Dispatch(fid::GroupCount)), 0u);  // no entry to count
+    EXPECT_FALSE((Type(e, "3"), e.Dispatch(fid::GroupCount)));  // no entry to count
     Press(e, {7, fid::Enter, 2, 5, 0, fid::Enter, fid::CashFlow});  // nothing typed: X is appended
     EXPECT_EQ(std::tuple(e.registers.values[0], e.registers.tags[0], e.state.stack[2]),
               std::tuple(250.0, label::CashFlow, 7.0));
@@ -79,7 +79,7 @@ TEST(CashFlows, EntryKeysStoreAndLabelWithoutMovingTheStack) {
     Store(e, "1e30", fid::GroupCount);
     EXPECT_EQ(e.registers.aux[1], 0x7FFFFFFFu);
     while (e.registers.cashFlowCount < 99) Store(e, "1", fid::CashFlow);
-    EXPECT_EQ((Type(e, "2"), e.Dispatch(fid::CashFlow)), 0u);  // the 101st entry is refused
+    EXPECT_FALSE((Type(e, "2"), e.Dispatch(fid::CashFlow)));  // the 101st entry is refused
     EXPECT_EQ(e.registers.cashFlowCount, 99);
     e.Dispatch(fid::ClearFinancial);
     const RegisterBank& r = e.registers;

@@ -10,7 +10,7 @@ namespace brinto::test {
 inline void Type(Engine& e, std::string_view number) {
     const bool negative = !number.empty() && number.front() == '-';
     for (const char c : number.substr(negative ? 1 : 0)) {
-        e.Dispatch(c == '.' ? fid::Point : c == 'e' ? fid::Exponent : static_cast<FunctionId>(c - '0'));
+        e.Dispatch(c == '.' ? fid::Point : c == 'e' ? fid::Exponent : DigitKey(c - '0'));
     }
     if (negative) e.Dispatch(fid::ChangeSign);
 }

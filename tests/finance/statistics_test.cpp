@@ -4,7 +4,7 @@
 #include <string>
 #include <tuple>
 
-#include "finance/result_labels.h"
+#include "engine/value_tags.h"
 #include "finance_test_support.h"
 
 namespace brinto {
@@ -47,7 +47,7 @@ TEST_F(Statistics, PointsOnALine) {
 }
 
 TEST_F(Statistics, SigmaKeysKeepYAndShowTheCount) {
-    ExpectX(fid::SigmaMinus, kErrorValue, 0);  // nothing to remove
+    ExpectX(fid::SigmaMinus, kErrorValue, ValueTag::None);  // nothing to remove
     Add("3", "8");
     EXPECT_EQ(std::tuple(e.X(), e.Y()), std::tuple(1.0, 8.0));
     Type(e, "5");  // the next x replaces the count

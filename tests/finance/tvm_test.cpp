@@ -4,7 +4,7 @@
 #include <tuple>
 #include <vector>
 
-#include "finance/result_labels.h"
+#include "engine/value_tags.h"
 #include "finance/solver.h"
 #include "finance/tvm.h"
 #include "finance_test_support.h"
@@ -138,8 +138,8 @@ TEST(TvmKeys, LabelsBalanceRestartAndChangedFlag) {
     }
     // ÷P/YR: years for a plain number or matching periods; any other label is dropped.
     const struct { double perYear; ValueTag before, after; } divisions[] = {
-        {12, 0, label::Years},           {12, label::Months, label::Years}, {4, label::Months, 0},
-        {1, label::Years, label::Years}, {12, label::Years, 0},             {12, label::PresentValue, 0}};
+        {12, ValueTag::None, label::Years},           {12, label::Months, label::Years}, {4, label::Months, ValueTag::None},
+        {1, label::Years, label::Years}, {12, label::Years, ValueTag::None},             {12, label::PresentValue, ValueTag::None}};
     for (const auto& c : divisions) {
         e.registers.values[reg::PYr] = c.perYear;
         e.SetLevel(0, {360, c.before, kNoAux});

@@ -14,30 +14,30 @@ namespace brinto {
 namespace {
 
 using namespace test;
-using namespace test::unit;
+using enum ValueTag;
 
 double DateOf(int year, int month, int day, int hour = 0, int minute = 0, int second = 0) {
     return ComposeDate(DateFields{year, month, day, hour, minute, second, 0});
 }
 
-constexpr FunctionId kDpy = 198, kHpd = 201;
+constexpr FunctionId kDpy = fid::DaysPerYear, kHpd = fid::HoursPerDay;
 constexpr double kDay = 86400, kErr = kErrorValue;
 
 TEST(DateEntry, ReadsYearMonthDayWithItsYearRulesAndTimesAsHoursMinutesSeconds) {
     const FunctionId D = fid::Date, T = fid::Time;
     // A year before the calendar's first is taken as 1904 with its month and day kept.
     CheckKeys({
-        {D, {5.0315, 0}, {DateOf(2005, 3, 15), Date}},    {D, {99.1231, 0}, {DateOf(1999, 12, 31), Date}},
-        {D, {31.0101, 0}, {DateOf(2031, 1, 1), Date}},    {D, {32.0101, 0}, {DateOf(1932, 1, 1), Date}},
-        {D, {0.0101, 0}, {DateOf(2000, 1, 1), Date}},     {D, {1903.1231, 0}, {DateOf(1904, 12, 31), Date}},
-        {D, {1904.0101, 0}, {0, Date}},                   {D, {2000.0229, 0}, {DateOf(2000, 2, 29), Date}},
-        {D, {2001.0229, 0}, {DateOf(2001, 3, 1), Date}},  {D, {2005.0000, 0}, {DateOf(2005, 1, 1), Date}},
-        {D, {2004.1301, 0}, {DateOf(2005, 1, 1), Date}},  {D, {2031.1231, 0}, {DateOf(2031, 12, 31), Date}},
-        {D, {2031.1232, 0}, {kErr, 0}},  {D, {2032.0101, 0}, {kErr, 0}},  {D, {kErr, 0}, {kErr, 0}},
-        {T, {13.3015, 0}, {48615, Time}}, {T, {0.0001, 0}, {1, Time}}, {T, {25, 0}, {90000, Time}},
-        {T, {23.5959, 0}, {86399, Time}},
+        {D, {5.0315, None}, {DateOf(2005, 3, 15), Date}},    {D, {99.1231, None}, {DateOf(1999, 12, 31), Date}},
+        {D, {31.0101, None}, {DateOf(2031, 1, 1), Date}},    {D, {32.0101, None}, {DateOf(1932, 1, 1), Date}},
+        {D, {0.0101, None}, {DateOf(2000, 1, 1), Date}},     {D, {1903.1231, None}, {DateOf(1904, 12, 31), Date}},
+        {D, {1904.0101, None}, {0, Date}},                   {D, {2000.0229, None}, {DateOf(2000, 2, 29), Date}},
+        {D, {2001.0229, None}, {DateOf(2001, 3, 1), Date}},  {D, {2005.0000, None}, {DateOf(2005, 1, 1), Date}},
+        {D, {2004.1301, None}, {DateOf(2005, 1, 1), Date}},  {D, {2031.1231, None}, {DateOf(2031, 12, 31), Date}},
+        {D, {2031.1232, None}, {kErr, None}},  {D, {2032.0101, None}, {kErr, None}},  {D, {kErr, None}, {kErr, None}},
+        {T, {13.3015, None}, {48615, Time}}, {T, {0.0001, None}, {1, Time}}, {T, {25, None}, {90000, Time}},
+        {T, {23.5959, None}, {86399, Time}},
     });
-    EXPECT_EQ(XText(After({{13.3015, 0}}, fid::Time)), "13:30");
+    EXPECT_EQ(XText(After({{13.3015, None}}, fid::Time)), "13:30");
 }
 
 TEST(DateAndTimeKeys, ReduceDateKindsAndLeaveTheirOwnKindAlone) {
@@ -47,9 +47,9 @@ TEST(DateAndTimeKeys, ReduceDateKindsAndLeaveTheirOwnKindAlone) {
         {fid::Date, {moment, DateTime}, {day, Date}, false},     {fid::Date, {12345, Date}, {12345, Date}, false},
         {fid::Time, {moment, DateTime}, {49510, Time}, false},   {fid::Time, {2.5, Time}, {2.5, Time}, false},
         {fid::DatePart, {moment, DateTime}, {day, Date}, true},  {fid::DatePart, {49510, Time}, {0, Date}, true},
-        {fid::TimePart, {moment, DateTime}, {49510, Time}, true}, {fid::DatePart, {moment, 0}, {kErr, 0}, false},
-        {fid::TimePart, {3, Hours}, {kErr, 0}, false},           {fid::TimePart, {-1, DateTime}, {kErr, 0}, true},
-        {fid::DatePart, {4039372800.0, DateTime}, {kErr, 0}, true},
+        {fid::TimePart, {moment, DateTime}, {49510, Time}, true}, {fid::DatePart, {moment, None}, {kErr, None}, false},
+        {fid::TimePart, {3, Hours}, {kErr, None}, false},           {fid::TimePart, {-1, DateTime}, {kErr, None}, true},
+        {fid::DatePart, {4039372800.0, DateTime}, {kErr, None}, true},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(testing::Message() << "key " << c.key << " " << c.x.value << " tag " << c.x.tag);
@@ -93,16 +93,16 @@ void CheckArithmetic(std::initializer_list<FunctionId> ops, const ArithmeticCase
 TEST(DateArithmetic, AddForEveryPairOfKinds) {
     const double d = DateOf(2005, 3, 15), t = 49510, dt = DateOf(2005, 3, 15, 13, 45, 10);
     const ArithmeticCase cases[] = {
-        {{d, Date}, {1, 0}, {d + kDay, Date}},                  {{1, 0}, {d, Date}, {d + kDay, Date}},
-        {{DateOf(2001, 2, 28), Date}, {1, 0}, {DateOf(2001, 3, 1), Date}},
+        {{d, Date}, {1, None}, {d + kDay, Date}},                  {{1, None}, {d, Date}, {d + kDay, Date}},
+        {{DateOf(2001, 2, 28), Date}, {1, None}, {DateOf(2001, 3, 1), Date}},
         {{d, Date}, {36, Hours}, {d + 1.5 * kDay, Date}},       {{d, Date}, {1, Years}, {d + 365.25 * kDay, Date}},
-        {{d, Date}, {1, Meters}, {d + kDay, Date}},             {{t, Time}, {1.5, 0}, {t + 5400, Time}},
+        {{d, Date}, {1, Meters}, {d + kDay, Date}},             {{t, Time}, {1.5, None}, {t + 5400, Time}},
         {{t, Time}, {1.3, Hms}, {t + 5400, Time}},              {{t, Time}, {30, Frames}, {t + 1, Time}},
-        {{t, Time}, {24, 0}, {t + kDay, Time}},                 {{dt, DateTime}, {1, 0}, {dt + kDay, DateTime}},
+        {{t, Time}, {24, None}, {t + kDay, Time}},                 {{dt, DateTime}, {1, None}, {dt + kDay, DateTime}},
         {{d, Date}, {t, Time}, {dt, DateTime}},                 {{t, Time}, {d, Date}, {dt, DateTime}},
-        {{d, Date}, {d, Date}, {kErr, 0}},                      {{dt, DateTime}, {t, Time}, {kErr, 0}},
-        {{kMaxDateValue, DateTime}, {1, Seconds}, {kErr, 0}},   {{0, Date}, {-1, 0}, {kErr, 0}},
-        {{d, Date}, {NAN, 0}, {kErr, 0}},
+        {{d, Date}, {d, Date}, {kErr, None}},                      {{dt, DateTime}, {t, Time}, {kErr, None}},
+        {{kMaxDateValue, DateTime}, {1, Seconds}, {kErr, None}},   {{0, Date}, {-1, None}, {kErr, None}},
+        {{d, Date}, {NAN, None}, {kErr, None}},
     };
     for (const ArithmeticCase& c : cases) CheckArithmetic({fid::Add, fid::IntegerAdd}, c);
 }
@@ -113,16 +113,16 @@ TEST(DateArithmetic, SubtractForEveryPairOfKinds) {
         {{DateOf(2005, 1, 1), Date}, {d, Date}, {-73, Days}},   {{dt, DateTime}, {d, Date}, {49510 / kDay, Days}},
         {{DateOf(2004, 3, 1), Date}, {DateOf(2004, 2, 28), Date}, {2, Days}},
         {{t, Time}, {t - 5400, Time}, {1.5, Hours}},          {{dt, DateTime}, {dt - kDay, DateTime}, {24, Hours}},
-        {{d, Date}, {dt, DateTime}, {kErr, 0}},                 {{d, Date}, {t, Time}, {kErr, 0}},
-        {{d, Date}, {1, 0}, {d - kDay, Date}},                  {{d, Date}, {0.5, 0}, {d - kDay, Date}},
-        {{d, Date}, {12, Hours}, {d - kDay, Date}},             {{t, Time}, {1, 0}, {t - 3600, Time}},
-        {{dt, DateTime}, {1, 0}, {dt - kDay, DateTime}},        {{0, Date}, {1, 0}, {kErr, 0}},
-        {{t, Time}, {14, Hours}, {kErr, 0}},                    {{DateOf(2031, 12, 31), Date}, {-1, 0}, {kErr, 0}},
-        {{5, 0}, {d, Date}, {kErr, 0}},                         {{5, Hours}, {t, Time}, {kErr, 0}},
+        {{d, Date}, {dt, DateTime}, {kErr, None}},                 {{d, Date}, {t, Time}, {kErr, None}},
+        {{d, Date}, {1, None}, {d - kDay, Date}},                  {{d, Date}, {0.5, None}, {d - kDay, Date}},
+        {{d, Date}, {12, Hours}, {d - kDay, Date}},             {{t, Time}, {1, None}, {t - 3600, Time}},
+        {{dt, DateTime}, {1, None}, {dt - kDay, DateTime}},        {{0, Date}, {1, None}, {kErr, None}},
+        {{t, Time}, {14, Hours}, {kErr, None}},                    {{DateOf(2031, 12, 31), Date}, {-1, None}, {kErr, None}},
+        {{5, None}, {d, Date}, {kErr, None}},                         {{5, Hours}, {t, Time}, {kErr, None}},
     };
     for (const ArithmeticCase& c : cases) CheckArithmetic({fid::Subtract, fid::IntegerSubtract}, c);
     // A date is neither multiplied nor divided.
-    for (const ArithmeticCase& c : {ArithmeticCase{{100, Date}, {2, 0}, {kErr, 0}}, {{2, 0}, {100, Time}, {kErr}}}) {
+    for (const ArithmeticCase& c : {ArithmeticCase{{100, Date}, {2, None}, {kErr, None}}, {{2, None}, {100, Time}, {kErr}}}) {
         CheckArithmetic({fid::Multiply, fid::Divide, fid::IntegerMultiply, fid::IntegerDivide}, c);
     }
 }
@@ -130,8 +130,8 @@ TEST(DateArithmetic, SubtractForEveryPairOfKinds) {
 TEST(Hms, ConversionsBothWays) {
     const FunctionId ToHms = fid::ToHms, ToHours = fid::ToHours, ToFrames = fid::HmsToFrames;
     CheckKeys({
-        {ToHms, {90, Minutes}, {1.3, Hms}},   {ToHms, {1, Days}, {24, Hms}},        {ToHms, {2.75, 0}, {2.45, Hms}},
-        {ToHours, {1.3, Hms}, {1.5, Hours}},  {ToHours, {-1.3, 0}, {-1.5, Hours}},  {ToFrames, {0.0001, 0}, {30, Frames}},
+        {ToHms, {90, Minutes}, {1.3, Hms}},   {ToHms, {1, Days}, {24, Hms}},        {ToHms, {2.75, None}, {2.45, Hms}},
+        {ToHours, {1.3, Hms}, {1.5, Hours}},  {ToHours, {-1.3, None}, {-1.5, Hours}},  {ToFrames, {0.0001, None}, {30, Frames}},
         {ToFrames, {1.3, Hms}, {162000, Frames}},
     });
     EXPECT_EQ(After({{1.3, Hms}}, ToHours).state.lastX, 1.3);
@@ -143,7 +143,7 @@ TEST(FractionToNextUnit, StepsDownOneUnit) {
         {F, {1.5, Months}, {15.21875, Days}}, {F, {1.5, Weeks}, {3.5, Days}},     {F, {1.25, Days}, {6, Hours}},
         {F, {2.5, Hours}, {30, Minutes}},     {F, {3.25, Minutes}, {15, Seconds}}, {F, {0.5, Seconds}, {15, Frames}},
         {F, {2.5, Frames}, {0.5, Frames}},    {F, {1.3, Hms}, {0.3, Hms}},         {F, {-2.5, Hours}, {-30, Minutes}},
-        {F, {2.5, 0}, {kErr, 0}},             {F, {2.5, Date}, {kErr, 0}},
+        {F, {2.5, None}, {kErr, None}},             {F, {2.5, Date}, {kErr, None}},
     });
     EXPECT_EQ(After({{2.5, Hours}}, F).state.lastX, 2.5);
 }
@@ -155,10 +155,10 @@ TEST(DurationSettings, StoreWhileTypingRecallOtherwise) {
     Press(e, {2, kHpd});  // storing disabled the lift: 2 replaced X, and is stored as hours per day
     EXPECT_EQ(e.Y(), 0.0);
     EXPECT_EQ(e.registers.values[reg::HoursPerDay], 2.0);
-    Press(e, {1, fid::Years, 192});  // 192: the days key, which uses the stored days per year
+    Press(e, {1, fid::Years, fid::Days});  // the days key uses the stored days per year
     EXPECT_EQ(e.X(), 360.0);
 
-    e = After({{5, 0}}, kDpy);  // nothing typed: recalled, lifting the 5
+    e = After({{5, None}}, kDpy);  // nothing typed: recalled, lifting the 5
     EXPECT_EQ(XOf(e), Tagged(365.25, fid::TagDpy));
     EXPECT_EQ(e.Y(), 5.0);
 }
@@ -169,7 +169,7 @@ TEST(DateFunctions, PureFunctionsHoldForEveryDouble) {
         SCOPED_TRACE(v);
         EXPECT_TRUE(inRange(DatePartOf(v)));
         EXPECT_TRUE(inRange(DateFromEntry(v)));
-        EXPECT_TRUE(inRange(DateSum({v, Date}, {v, 0}).value));
+        EXPECT_TRUE(inRange(DateSum({v, Date}, {v, None}).value));
         EXPECT_TRUE(inRange(DateDifference({v, DateTime}, {v, Years}).value));
     }
 }

@@ -25,13 +25,16 @@ std::vector<FunctionId> KeysUnderTest() {
     const UserKeyMap none = EmptyUserKeyMap();
     for (const int keyboard : {0, 2, 4, 5, 6, 7}) {
         for (const int shift : {0, 1}) {
-            for (const u32 id : KeyLayout(keyboard, shift, none)) {
+            for (const FunctionId id : KeyLayout(keyboard, shift, none)) {
                 if (id == kNoKey || (id >= fid::MacroRecord && id <= fid::MacroStop)) continue;
                 keys.push_back(keyboard == 4 ? IntegerVariant(id) : id);
             }
         }
     }
-    for (FunctionId id = fid::IntegerNegate; id <= fid::IntegerDivide; ++id) keys.push_back(id);
+    for (const FunctionId id : {fid::IntegerNegate, fid::ToDefaultFormat, fid::IntegerAdd, fid::IntegerSubtract,
+                                fid::IntegerMultiply, fid::IntegerDivide}) {
+        keys.push_back(id);
+    }
     return keys;
 }
 
@@ -45,8 +48,8 @@ TEST(ExtremeValues, EveryKeyOnEveryKindOfValue) {
     const double inf = std::numeric_limits<double>::infinity();
     const double values[] = {std::nan(""), inf, -inf, std::numeric_limits<double>::denorm_min(), -0.0,
                              1e300, -1e300, 4294967296.0 * 3 + 5, -2147483649.0, 4039372800.0, 0.5, 170.0};
-    const ValueTag tags[] = {0, 1903, 1915, 1918, 1910, 1904, 1922, 1924, 1925, 1928, 1929,
-                             1800, 1801, 1802, 1803, 1804, 1808, 1811, 1404};
+    const ValueTag tags[] = {ValueTag::None, ValueTag::Meters, ValueTag::SquareFeet, ValueTag::Gallons, ValueTag::MetersPerSecond, ValueTag::Pounds, ValueTag::DegC, ValueTag::U8, ValueTag::S8, ValueTag::U32, ValueTag::S32,
+                             ValueTag::Hms, ValueTag::Date, ValueTag::Time, ValueTag::DateTime, ValueTag::Years, ValueTag::Hours, ValueTag::Frames, ValueTag::PerYear};
     const FunctionId angles[] = {fid::Degrees, fid::Radians, fid::Grads};
     const std::vector<FunctionId> keys = KeysUnderTest();
     constexpr int kValues = sizeof values / sizeof values[0], kTags = sizeof tags / sizeof tags[0];

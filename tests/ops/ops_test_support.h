@@ -1,5 +1,5 @@
 #pragma once
-// Helpers for the calculator families: an engine holding tagged operands, and named tags.
+// Helpers for the calculator families: an engine holding tagged operands.
 #include <gtest/gtest.h>
 
 #include <initializer_list>
@@ -11,20 +11,6 @@
 #include "ops/tagged_value.h"
 
 namespace brinto::test {
-
-// Tags by the labels the display shows.
-namespace unit {
-inline constexpr ValueTag Inches = 1900, Feet = 1901, Miles = 1902, Meters = 1903, Pounds = 1904, Kg = 1906;
-inline constexpr ValueTag InPerS = 1908, MPerS = 1910, MiPerH = 1911, KmPerH = 1912;
-inline constexpr ValueTag SqInches = 1914, SqFeet = 1915, SqMiles = 1916, SqMeters = 1917;
-inline constexpr ValueTag Gallons = 1918, Liters = 1920, DegC = 1922, DegF = 1923;
-inline constexpr ValueTag U8 = 1924, S8 = 1925, U16 = 1926, S16 = 1927, U32 = 1928, S32 = 1929;
-inline constexpr ValueTag Cm = 1930, Mm = 1931, Yards = 1932, Km = 1933, Nmi = 1934, SqCm = 1936, Acres = 1939;
-inline constexpr ValueTag CubicM = 1943, CubicFt = 1946, CubicIn = 1947;
-inline constexpr ValueTag Hms = 1800, Date = 1801, Time = 1802, DateTime = 1803;
-inline constexpr ValueTag Years = 1804, Months = 1805, Weeks = 1806, Days = 1807, Hours = 1808;
-inline constexpr ValueTag Minutes = 1809, Seconds = 1810, Frames = 1811;
-}  // namespace unit
 
 // An engine in `method` holding the given levels, the first listed deepest and the last in X,
 // with lift enabled and no number being typed, as after a calculation.

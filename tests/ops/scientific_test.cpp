@@ -11,7 +11,7 @@ namespace brinto {
 namespace {
 
 using namespace test;
-using namespace test::unit;
+using enum ValueTag;
 
 // In degrees and grads, sin of a half turn and cos of an odd quarter turn are exactly 0 (the
 // library leaves 1e-16, which would show) and tan there is the error value; radians make no such
@@ -33,7 +33,7 @@ TEST(Trigonometry, ExactZerosAtMultiplesOfRightAnglesInDegreesAndGrads) {
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(testing::Message() << "key " << c.key << " angle " << c.angle << " x " << c.x);
-        Engine e = Holding({{c.x, 0}});
+        Engine e = Holding({{c.x, None}});
         Press(e, {c.angle, c.key});
         EXPECT_TRUE(e.X() == c.result || (std::isnan(c.result) && std::isnan(e.X()))) << e.X();
         EXPECT_EQ(e.state.lastX, c.x);
@@ -41,7 +41,7 @@ TEST(Trigonometry, ExactZerosAtMultiplesOfRightAnglesInDegreesAndGrads) {
 }
 
 TEST(Trigonometry, HyperbolicPrefixActsOnTheNextKeyOnlyWithoutAngleConversion) {
-    Engine e = Holding({{90, 0}});
+    Engine e = Holding({{90, None}});
     Press(e, {fid::Degrees, fid::Hyperbolic, fid::Sin});
     EXPECT_DOUBLE_EQ(e.X(), std::sinh(90.0));
     EXPECT_FALSE(e.state.status & status::Hyperbolic);
@@ -57,22 +57,22 @@ TEST(Functions, ResultsAndTheUnitsTheyKeep) {
     const FunctionId F = fid::Factorial, L = fid::LogGamma, Sqrt = fid::SquareRoot, Sq = fid::Square;
     const double err = kErrorValue;
     CheckKeys({
-        {F, {0, 0}, {1, 0}},           {F, {170, 0}, {7.257415615307994e306, 0}},   {F, {171, 0}, {err, 0}},
-        {F, {3.5, 0}, {err, 0}},       {F, {-1, 0}, {err, 0}},  {F, {NAN, 0}, {err, 0}},
-        {L, {-0.5, 0}, {-1.265512123484645, 0}},  // gamma(-0.5) is negative: the log of its size
-        {L, {0.5, 0}, {0.5723649429247004, 0}},   {Sqrt, {4, SqCm}, {2, Cm}},        {Sqrt, {4, Acres}, {2, 0}},
-        {Sqrt, {4, Meters}, {2, 0}},   {Sq, {3, Feet}, {9, SqFeet}}, {Sq, {3, Mm}, {9, 1935}}, {Sq, {3, Nmi}, {9, 0}},
-        {Sq, {3, SqFeet}, {9, 0}},     {fid::Cube, {2, Meters}, {8, 0}},        {fid::CubeRoot, {8, CubicM}, {2, 0}},
-        {fid::Abs, {-2, Kg}, {2, Kg}}, {fid::IntegerPart, {2.5, U8}, {2, U8}},      {fid::Floor, {2.5, 1404}, {2, 0}},
-        {fid::FractionalPart, {2.3, Feet}, {0.3, Feet}}, {fid::FractionalPart, {-2.3, 0}, {-0.3, 0}},
-        {fid::Ceiling, {2.5, Date}, {3, Date}},          {fid::Reciprocal, {4, Feet}, {0.25, 0}},
+        {F, {0, None}, {1, None}},           {F, {170, None}, {7.257415615307994e306, None}},   {F, {171, None}, {err, None}},
+        {F, {3.5, None}, {err, None}},       {F, {-1, None}, {err, None}},  {F, {NAN, None}, {err, None}},
+        {L, {-0.5, None}, {-1.265512123484645, None}},  // gamma(-0.5) is negative: the log of its size
+        {L, {0.5, None}, {0.5723649429247004, None}},   {Sqrt, {4, SquareCentimeters}, {2, Centimeters}},        {Sqrt, {4, Acres}, {2, None}},
+        {Sqrt, {4, Meters}, {2, None}},   {Sq, {3, Feet}, {9, SquareFeet}}, {Sq, {3, Millimeters}, {9, SquareMillimeters}}, {Sq, {3, NauticalMiles}, {9, None}},
+        {Sq, {3, SquareFeet}, {9, None}},     {fid::Cube, {2, Meters}, {8, None}},        {fid::CubeRoot, {8, CubicMeters}, {2, None}},
+        {fid::Abs, {-2, Kilograms}, {2, Kilograms}}, {fid::IntegerPart, {2.5, U8}, {2, U8}},      {fid::Floor, {2.5, PerYear}, {2, None}},
+        {fid::FractionalPart, {2.3, Feet}, {0.3, Feet}}, {fid::FractionalPart, {-2.3, None}, {-0.3, None}},
+        {fid::Ceiling, {2.5, Date}, {3, Date}},          {fid::Reciprocal, {4, Feet}, {0.25, None}},
     });
     const FunctionId C = fid::Combinations, P = fid::Permutations;
     CheckOperators({
-        {C, {5, 0}, {2, 0}, {10, 0}},  {P, {5, 0}, {2, 0}, {20, 0}},   {C, {5, 0}, {5, 0}, {1, 0}},
-        {C, {49, 0}, {50, 0}, {0, 0}}, {P, {2, 0}, {5, 0}, {0, 0}},    {P, {0, 0}, {170, 0}, {0, 0}},  // Y < X: no way
-        {C, {5, 0}, {0.5, 0}, {err, 0}}, {C, {-1, 0}, {5, 0}, {err, 0}}, {P, {2, 0}, {171, 0}, {err, 0}},
-        {P, {171, 0}, {1, 0}, {err, 0}}, {P, {2, 0}, {-1, 0}, {err, 0}},
+        {C, {5, None}, {2, None}, {10, None}},  {P, {5, None}, {2, None}, {20, None}},   {C, {5, None}, {5, None}, {1, None}},
+        {C, {49, None}, {50, None}, {0, None}}, {P, {2, None}, {5, None}, {0, None}},    {P, {0, None}, {170, None}, {0, None}},  // Y < X: no way
+        {C, {5, None}, {0.5, None}, {err, None}}, {C, {-1, None}, {5, None}, {err, None}}, {P, {2, None}, {171, None}, {err, None}},
+        {P, {171, None}, {1, None}, {err, None}}, {P, {2, None}, {-1, None}, {err, None}},
     });
 }
 
@@ -86,19 +86,20 @@ TEST(LastX, SavedByEveryFunctionButAbsoluteValueFloorCeilingPiAndRandom) {
     for (const bool saves : {false, true}) {
         for (const FunctionId key : saves ? std::span<const FunctionId>(saving) : keeping) {
             SCOPED_TRACE(key);
-            Engine e = Holding({{3, 0}, {0.5, Feet}});
+            Engine e = Holding({{3, None}, {0.5, Feet}});
             e.state.lastX = 7;
             e.Dispatch(key);
-            EXPECT_EQ(Tagged(e.state.lastX, e.state.lastXTag), saves ? Tagged(0.5, Feet) : Tagged(7, 0));
+            EXPECT_EQ(Tagged(e.state.lastX, e.state.lastXTag), saves ? Tagged(0.5, Feet) : Tagged(7, None));
         }
     }
 }
 
 TEST(Coordinates, TakeTheAngleFromYDropUnitsAndUseUpTheEnterMarker) {
-    Engine e = After({{30, 0}, {2, Meters}}, fid::PolarToRect);
+    Engine e = After({{30, None}, {2, Meters}}, fid::PolarToRect);
     EXPECT_DOUBLE_EQ(e.X(), 2 * std::cos(M_PI / 6));
     EXPECT_DOUBLE_EQ(e.Y(), 1.0);
-    EXPECT_EQ(e.XTag() + e.YTag(), 0);
+    EXPECT_EQ(e.XTag(), None);
+    EXPECT_EQ(e.YTag(), None);
     e = MakeEngine(InputMethod::Simple);  // the algebraic methods leave an Enter marker for them
     Press(e, {3, fid::Enter, 4, fid::RectToPolar});
     EXPECT_EQ(e.state.pendingCount, 0);
@@ -123,12 +124,12 @@ TEST(RoundToDisplay, KeepsWhatTheDisplayShowsAndEndsTheFullDisplay) {
     EXPECT_EQ(XOf(e), Tagged(0.67, Meters));
     EXPECT_FALSE(e.state.status & status::FullDisplay);
     EXPECT_EQ(e.state.lastX, 2.0 / 3.0);
-    e = Holding({{123456.789, 0}});
+    e = Holding({{123456.789, None}});
     e.prefs.SetFormat(NumberFormat::Engineering);
     e.prefs.SetDigitField(4);  // four significant digits: 123.5e3
     e.Dispatch(fid::RoundToDisplay);
     EXPECT_EQ(e.X(), 123500.0);
-    EXPECT_EQ(After({{kErrorValue, 0}}, fid::RoundToDisplay).X(), kErrorValue);  // the formatter refuses it
+    EXPECT_EQ(After({{kErrorValue, None}}, fid::RoundToDisplay).X(), kErrorValue);  // the formatter refuses it
 }
 
 TEST(RecallLift, PiKeepsANumberBeingTypedInRpnAndReplacesItAfterAnOperator) {
@@ -155,7 +156,7 @@ constexpr int kSpeedOfLight = 7, kPlanck = 12, kElectronMass = 15;
 TEST(Constants, EveryRowHasANameAndOnlyThoseRowsRecall) {
     for (int i = 0; i < kConstantCount; ++i) EXPECT_FALSE(ConstantName(i).empty()) << i;
     EXPECT_FALSE(ConstantName(32).empty());
-    Engine e = Holding({{5, 0}});
+    Engine e = Holding({{5, None}});
     for (const int outside : {33, -1}) {
         EXPECT_TRUE(ConstantName(outside).empty());
         EXPECT_FALSE(RecallConstant(e, outside, 3));
@@ -164,14 +165,14 @@ TEST(Constants, EveryRowHasANameAndOnlyThoseRowsRecall) {
 }
 
 TEST(Constants, RecallLiftsLeavesLastXAloneAndKeepsTheListsScroll) {
-    Engine e = Holding({{5, 0}});
+    Engine e = Holding({{5, None}});
     e.state.lastX = 9;
     ASSERT_TRUE(RecallConstant(e, kSpeedOfLight, 4));
     EXPECT_EQ(std::tuple(e.Y(), e.state.lastX, e.state.constantsTopRow), std::tuple(5.0, 9.0, 4));
-    e.Dispatch(158);  // km/h: the tagged constants convert
+    e.Dispatch(fid::KilometersPerHour);  // km/h: the tagged constants convert
     EXPECT_NEAR(e.X(), 1079252848.8, 1e-3);
     ASSERT_TRUE(RecallConstant(e, kPlanck, 10));
-    EXPECT_EQ(XOf(e), Tagged(6.6260755e-34, 0));
+    EXPECT_EQ(XOf(e), Tagged(6.6260755e-34, None));
     EXPECT_EQ(e.state.aux[0], kNoAux);
     ASSERT_TRUE(RecallConstant(e, kElectronMass, 10));
     EXPECT_EQ(XLabel(e), "kg");

@@ -5,72 +5,84 @@
 #include <cmath>
 
 #include "ops_test_support.h"
+#include "engine/key_table.h"
 
 namespace brinto {
 namespace {
 
 using namespace test;
-using namespace test::unit;
+using enum ValueTag;
 
-constexpr FunctionId kInchesKey = 142, kFeetKey = 143, kMetersPerSKey = 156;
-constexpr FunctionId kHoursKey = 193, kMinutesKey = 194, kDaysKey = 192;
+constexpr FunctionId kInchesKey = fid::Inches, kFeetKey = fid::Feet, kMetersPerSKey = fid::MetersPerSecond;
+constexpr FunctionId kHoursKey = fid::Hours, kMinutesKey = fid::Minutes, kDaysKey = fid::Days;
 
 TEST(UnitKeys, ConvertWithinTheirTableAndOnlyLabelOtherValues) {
-    Engine e = Holding({{12, 0}});
+    Engine e = Holding({{12, None}});
     e.state.lastX = 99;
     e.Dispatch(kInchesKey);
     EXPECT_EQ(e.state.lastX, 99.0);  // attaching a unit is not an operation on X
     e.Dispatch(kFeetKey);
     EXPECT_EQ(Tagged(e.state.lastX, e.state.lastXTag), Tagged(12, Inches));
     CheckKeys({
-        {kMetersPerSKey, {100, KmPerH}, {27.7777777778, MPerS}}, {fid::DegC, {212, DegF}, {100, DegC}},
+        {kMetersPerSKey, {100, KilometersPerHour}, {27.7777777778, MetersPerSecond}}, {fid::DegC, {212, DegF}, {100, DegC}},
         {fid::DegC, {-40, DegF}, {-40, DegC}},   {fid::DegF, {5, Meters}, {5, DegF}},
-        {kMinutesKey, {1.3, Hms}, {90, Minutes}}, {kHoursKey, {90, 0}, {90, Hours}}, {kHoursKey, {90, Meters}, {90, Hours}},
+        {kMinutesKey, {1.3, Hms}, {90, Minutes}}, {kHoursKey, {90, None}, {90, Hours}}, {kHoursKey, {90, Meters}, {90, Hours}},
     });
 }
 
-TEST(UnitKeys, EveryKeyOfTheConversionKeyboardsConvertsBackToItsStart) {
+TEST(UnitKeys, EveryUnitKeyConvertsBackToItsStart) {
     // Each key attaches its unit to 7, then converts into its table's base and back: a key mapped
     // to another table's row would not come back to 7.
-    const FunctionId bases[] = {145, 149, 229, 156, 152};  // meters, sq meters, cubic m, m/s, kg
-    for (FunctionId key = 142; key <= 240; key = key == 163 ? 216 : key + 1) {
+    struct Base { Category category; FunctionId key; };
+    const Base bases[] = {{Category::Length, fid::Meters},         {Category::Area, fid::SquareMeters},
+                          {Category::Volume, fid::CubicMeters},    {Category::Speed, fid::MetersPerSecond},
+                          {Category::Mass, fid::Kilograms}};
+    int unitKeys = 0;
+    for (const KeyInfo& row : kKeyTable) {
+        const FunctionId key = row.id;
         SCOPED_TRACE(key);
-        Engine e = After({{7, 0}}, key);
+        Engine e = After({{7, None}}, key);
         const ValueTag tag = e.XTag();
-        ASSERT_NE(TagCategory(tag), 0u);
-        e.Dispatch(bases[TagCategory(tag) - 1]);
-        EXPECT_NE(e.XTag(), 0);
+        const Base* base = nullptr;
+        for (const Base& b : bases) {
+            if (b.category == TagCategory(tag)) base = &b;
+        }
+        if (!base) continue;  // not a unit key
+        ++unitKeys;
+        e.Dispatch(base->key);
+        EXPECT_NE(e.XTag(), None);
         e.Dispatch(key);
         EXPECT_NEAR(e.X(), 7.0, 1e-12);
         EXPECT_EQ(e.XTag(), tag);
     }
+    EXPECT_EQ(unitKeys, 47);  // the length, area, volume, speed and mass keys
 }
 
 TEST(UnitRules, AddSubtractMultiplyAndDivide) {
     const FunctionId Add = fid::Add, Sub = fid::Subtract, Mul = fid::Multiply, Div = fid::Divide;
     CheckOperators({
-        {Add, {5, 0}, {3, Feet}, {8, Feet}},            {Sub, {5, Kg}, {3, 0}, {2, Kg}},
-        {Add, {5, 1410}, {3, Feet}, {8, Feet}},         {Add, {5, Kg}, {3, Feet}, {8, 0}},
-        {Add, {5, DegC}, {3, DegC}, {8, 0}},            {Add, {5, DegC}, {3, 0}, {8, DegC}},
+        {Add, {5, None}, {3, Feet}, {8, Feet}},            {Sub, {5, Kilograms}, {3, None}, {2, Kilograms}},
+        {Add, {5, PresentValue}, {3, Feet}, {8, Feet}},         {Add, {5, Kilograms}, {3, Feet}, {8, None}},
+        {Add, {5, DegC}, {3, DegC}, {8, None}},            {Add, {5, DegC}, {3, None}, {8, DegC}},
         {Add, {5, Feet}, {3, Feet}, {8, Feet}},         {Add, {1, Feet}, {12, Inches}, {2, Feet}},
         {Sub, {1, Gallons}, {1, Liters}, {0.73582794764185, Gallons}},  // 1 - 1 / 3.785411784, in 14 digits
         {Add, {1, Hours}, {30, Minutes}, {1.5, Hours}}, {Sub, {1, Days}, {12, Hours}, {0.5, Days}},
         {Add, {1.3, Hms}, {30, Minutes}, {2, Hours}},   {Add, {30, Minutes}, {1.3, Hms}, {120, Minutes}},
-        {Mul, {1, Meters}, {50, Cm}, {0.5, SqMeters}},  {Mul, {5, Feet}, {3, 0}, {15, Feet}},
-        {Mul, {2, Nmi}, {3, Nmi}, {6, 0}},              {Mul, {2, SqFeet}, {6, Inches}, {1, CubicFt}},
-        {Mul, {2, SqFeet}, {1, Feet}, {2, CubicFt}},    {Mul, {2, SqMiles}, {3, Feet}, {6, 0}},
+        {Mul, {1, Meters}, {50, Centimeters}, {0.5, SquareMeters}},  {Mul, {5, Feet}, {3, None}, {15, Feet}},
+        {Mul, {2, NauticalMiles}, {3, NauticalMiles}, {6, None}},              {Mul, {2, SquareFeet}, {6, Inches}, {1, CubicFeet}},
+        {Mul, {2, SquareFeet}, {1, Feet}, {2, CubicFeet}},    {Mul, {2, SquareMiles}, {3, Feet}, {6, None}},
         // The length's factor alone divides the area: 1 sq meter counts as 1 / 0.3048 feet.
-        {Mul, {2, Feet}, {1, SqMeters}, {2 / 0.3048, CubicFt}},  {Mul, {2, Feet}, {3, SqFeet}, {6, CubicFt}},
-        {Mul, {60, MiPerH}, {30, Minutes}, {30, Miles}}, {Mul, {60, MiPerH}, {2, Hours}, {120, Miles}},
-        {Mul, {2, Hours}, {3, MPerS}, {21600, Meters}},  {Mul, {1.3, Hms}, {10, MiPerH}, {15, Miles}},
-        {Mul, {2, Kg}, {3, Kg}, {6, 0}},                 {Div, {100, Miles}, {50, MiPerH}, {2, Hours}},
-        {Div, {1, Meters}, {1, InPerS}, {1 / 0.0254, Seconds}}, {Div, {10, SqFeet}, {2, Feet}, {5, Feet}},
-        {Div, {10, SqFeet}, {24, Inches}, {5, Feet}},    {Div, {10, Acres}, {2, Feet}, {5, 0}},
-        {Div, {1, CubicFt}, {12, Inches}, {1, SqFeet}},  {Div, {1, Liters}, {2, Meters}, {0.5, 0}},
-        {Div, {1, CubicM}, {2, SqMeters}, {0.5, Meters}}, {Div, {144, CubicIn}, {1, SqFeet}, {1, Inches}},
-        {Div, {100, Meters}, {10, Seconds}, {10, MPerS}}, {Div, {100, Meters}, {1, Minutes}, {100.0 / 60, MPerS}},
-        {Div, {10, Km}, {30, Minutes}, {20, KmPerH}},    {Div, {10, Yards}, {2, Hours}, {5, 0}},
-        {Div, {6, 0}, {2, Feet}, {3, Feet}},             {Div, {6, Feet}, {2, Feet}, {3, 0}},
+        {Mul, {2, Feet}, {1, SquareMeters}, {2 / 0.3048, CubicFeet}},  {Mul, {2, Feet}, {3, SquareFeet}, {6, CubicFeet}},
+        {Mul, {60, MilesPerHour}, {30, Minutes}, {30, Miles}}, {Mul, {60, MilesPerHour}, {2, Hours}, {120, Miles}},
+        {Mul, {2, Hours}, {3, MetersPerSecond}, {21600, Meters}},  {Mul, {1.3, Hms}, {10, MilesPerHour}, {15, Miles}},
+        {Mul, {2, Kilograms}, {3, Kilograms}, {6, None}},                 {Div, {100, Miles}, {50, MilesPerHour}, {2, Hours}},
+        {Div, {1, Meters}, {1, InchesPerSecond}, {1 / 0.0254, Seconds}}, {Div, {10, SquareFeet}, {2, Feet}, {5, Feet}},
+        {Div, {10, SquareFeet}, {24, Inches}, {5, Feet}},    {Div, {10, Acres}, {2, Feet}, {5, None}},
+        {Div, {1, CubicFeet}, {12, Inches}, {1, SquareFeet}},  {Div, {1, Liters}, {2, Meters}, {0.5, None}},
+        {Div, {1, CubicMeters}, {2, SquareMeters}, {0.5, Meters}}, {Div, {144, CubicInches}, {1, SquareFeet}, {1, Inches}},
+        {Div, {100, Meters}, {10, Seconds}, {10, MetersPerSecond}}, {Div, {100, Meters}, {1, Minutes}, {100.0 / 60, MetersPerSecond}},
+        {Div, {10, Kilometers}, {30, Minutes}, {20, KilometersPerHour}},    {Div, {10, Yards}, {2, Hours}, {5, None}},
+        {Div, {6, None}, {2, Feet}, {3, Feet}},             {Div, {6, Feet}, {2, Feet}, {3, None}},
     });
 }
 
@@ -118,6 +130,8 @@ TEST(DurationChain, FollowsTheSettingsAndTheirDefaults) {
 
 TEST(TimeKeys, ExtractTheFieldsOfDates) {
     const double err = kErrorValue;
+    const FunctionId kTimeKeys[] = {fid::Years, fid::Months, fid::Weeks,   fid::Days,
+                                    fid::Hours, fid::Minutes, fid::Seconds, fid::Frames};
     struct Case { ValueTag kind; double value; double fields[8]; };  // years .. frames
     const Case cases[] = {
         {Date, 3792009600, {2024, 2, err, 29, err, err, err, err}},  // 2024-02-29
@@ -126,9 +140,10 @@ TEST(TimeKeys, ExtractTheFieldsOfDates) {
     };
     for (const Case& c : cases) {
         for (int k = 0; k < 8; ++k) {
-            SCOPED_TRACE(testing::Message() << "kind " << c.kind << " key " << fid::Years + k);
-            const Engine e = After({{c.value, c.kind}}, fid::Years + k);
-            EXPECT_EQ(XOf(e), Tagged(c.fields[k], 0));
+            const FunctionId key = kTimeKeys[k];
+            SCOPED_TRACE(testing::Message() << "kind " << c.kind << " key " << key);
+            const Engine e = After({{c.value, c.kind}}, key);
+            EXPECT_EQ(XOf(e), Tagged(c.fields[k], None));
             EXPECT_EQ(e.state.lastX, c.value);
         }
     }

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "engine/engine_test_support.h"
 #include "engine/function_ids.h"
 
 namespace brinto {

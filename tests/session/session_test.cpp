@@ -39,7 +39,7 @@ TEST(Session, ClearAllAsksFirst) {
     Fixture f;
     f.Type("7");
     f.session.Tap(fid::StoreVariant);
-    f.session.Tap(1);
+    f.session.Tap(fid::Digit1);
     f.host.confirm = false;
     f.session.Tap(fid::ClearAll2);
     EXPECT_EQ(f.engine.registers.values[1], 7.0);
@@ -154,7 +154,7 @@ TEST(Session, BlockKeysFollowTheShiftAndRemap) {
     f.Type("9");
     f.session.TapBlockKey(4);  // PMT: with no financial family yet or with one, the key is routed
     f.session.Tap(fid::Shift);
-    EXPECT_EQ(KeyLayout(1, 1, f.session.userKeys())[3], 74u);
+    EXPECT_EQ(KeyLayout(1, 1, f.session.userKeys())[3], fid::PYr);
     f.session.SelectKeyboard(0);
     f.session.Tap(fid::Shift);
     f.session.TapBlockKey(3);  // shifted General key 3: RPN
@@ -203,7 +203,7 @@ TEST(Session, PasteReadsTheCurrentBase) {
     f.session.Tap(fid::BaseHex);
     f.session.PasteText("x1f");  // the text counts from its first decimal digit
     EXPECT_EQ(f.engine.X(), 31.0);
-    EXPECT_EQ(f.engine.XTag(), 1929);  // the default format, s32
+    EXPECT_EQ(f.engine.XTag(), ValueTag::S32);  // the default format, s32
 }
 
 TEST(Session, CopyOfAnErrorCopiesNothing) {
@@ -278,7 +278,7 @@ TEST(SessionCommands, UserKeysAreAssignedClearedAndCopiedByHalf) {
     const KeyBlock financialShifted = KeyLayout(1, 1, f.session.userKeys());
     EXPECT_TRUE(KeyLayout(kUserKeyboard, 0, f.session.userKeys()) == financialShifted);
     f.session.ClearUserKeys(KeyHalf::Shifted);
-    for (const u32 key : KeyLayout(kUserKeyboard, 1, f.session.userKeys())) EXPECT_EQ(key, kNoKey);
+    for (const FunctionId key : KeyLayout(kUserKeyboard, 1, f.session.userKeys())) EXPECT_EQ(key, kNoKey);
     EXPECT_TRUE(KeyLayout(kUserKeyboard, 0, f.session.userKeys()) == financialShifted);  // the other half stays
 }
 

@@ -131,8 +131,8 @@ TEST(LegacyRegisters, OldLayoutsAreRearranged) {
         EXPECT_EQ(bank.financeWords[1], 0x22222222u);
         EXPECT_EQ(bank.cashFlowCount, 5);
         EXPECT_EQ(bank.lastRegister, 0);
-        EXPECT_EQ(bank.tags[0], 1000);
-        EXPECT_EQ(bank.tags[99], 1099);
+        EXPECT_EQ(ToNumber(bank.tags[0]), 1000);
+        EXPECT_EQ(ToNumber(bank.tags[99]), 1099);
         EXPECT_EQ(bank.aux[99], 297u);
         EXPECT_EQ(bank.values[0], 0.25);
         EXPECT_EQ(bank.values[reg::Margin], 109.25);
@@ -143,8 +143,8 @@ TEST(LegacyRegisters, OldLayoutsAreRearranged) {
     const RegisterBank shortBank = ConvertLegacyRegisters(OldRegisters(3, 960));
     EXPECT_EQ(shortBank.values[100], 100.25);
     EXPECT_EQ(shortBank.values[115], 0.0);
-    EXPECT_EQ(shortBank.tags[0], 1000);  // old offset 952..959 still inside
-    EXPECT_EQ(shortBank.tags[4], 0);
+    EXPECT_EQ(ToNumber(shortBank.tags[0]), 1000);  // old offset 952..959 still inside
+    EXPECT_EQ(ToNumber(shortBank.tags[4]), 0);
 
     // Other versions are taken as they are: the values stay where today's layout has them.
     const RegisterBank asIs = ConvertLegacyRegisters(OldRegisters(5, 1616));
@@ -154,7 +154,7 @@ TEST(LegacyRegisters, OldLayoutsAreRearranged) {
 
 // Whole values are converted in the import below; these are the ones cut short or overlong.
 TEST(LegacyUserKeysAndMacro, PartialValues) {
-    for (const u32 k : ConvertLegacyUserKeys(Bytes(95, 0)).keys) EXPECT_EQ(k, kNoKey);
+    for (const FunctionId k : ConvertLegacyUserKeys(Bytes(95, 0)).keys) EXPECT_EQ(k, kNoKey);
     Bytes tooMany(256, 0);
     Put<u16>(tooMany, 0, 100);
     const std::tuple<const char*, Bytes, u16> cases[] = {
@@ -192,10 +192,10 @@ void ExpectImported(const Engine& e, const UserKeyMap& keys) {
     EXPECT_EQ(e.prefs.Method(), InputMethod::Rpn);
     EXPECT_EQ(e.prefs.StackDepth(), 8);
     EXPECT_EQ(e.registers.values[12], 3.5);
-    EXPECT_EQ(keys.keys[0], 61u);
-    EXPECT_EQ(keys.keys[1], 0xFFFFFFFFu);
+    EXPECT_EQ(keys.keys[0], fid::Square);
+    EXPECT_EQ(keys.keys[1], FunctionIdFrom(0xFFFFFFFF));
     EXPECT_EQ(e.macro.macroLength, 2);
-    EXPECT_EQ(e.macro.macroKeys[1], 21u);
+    EXPECT_EQ(e.macro.macroKeys[1], fid::Enter);
 }
 
 // A first run imports the export beside the settings whole or not at all, and says why not in

@@ -30,7 +30,8 @@ std::string RandomBytes(std::size_t n, unsigned seed) {
 void StampRecords(Engine& e, UserKeyMap& keys, u32 stamp) {
     e.prefs.words[1] = static_cast<u16>(stamp);
     e.registers.values[kRegisterCount - 1] = stamp;
-    e.macro.macroKeys[kMacroSlots - 1] = keys.keys[23] = e.state.randomSeed = stamp;
+    e.macro.macroKeys[kMacroSlots - 1] = keys.keys[23] = FunctionIdFrom(stamp);
+    e.state.randomSeed = stamp;
 }
 
 void SaveStamped(const std::filesystem::path& path, u32 stamp) {
@@ -51,8 +52,8 @@ std::optional<u32> LoadedStamp(const std::filesystem::path& path) {
     UserKeyMap keys{};
     LoadState(e, keys, store);
     const u32 s = e.state.randomSeed;
-    const bool same = e.prefs.words[1] == static_cast<u16>(s) && e.macro.macroKeys[kMacroSlots - 1] == s &&
-                      e.registers.values[kRegisterCount - 1] == s && keys.keys[23] == s;
+    const bool same = e.prefs.words[1] == static_cast<u16>(s) && e.macro.macroKeys[kMacroSlots - 1] == FunctionIdFrom(s) &&
+                      e.registers.values[kRegisterCount - 1] == s && keys.keys[23] == FunctionIdFrom(s);
     return same ? std::optional<u32>(s) : std::nullopt;
 }
 

@@ -40,7 +40,7 @@ void FillRecords(Engine& e, UserKeyMap& keys) {
     e.prefs.SetCommaRadix(true);
     for (int r = 0; r < kRegisterCount; ++r) e.registers.values[r] = 1.0 / (r + 1);
     e.macro.macroLength = 5;
-    for (u32 i = 0; i < 5; ++i) e.macro.macroKeys[i] = 40 + i;
+    for (u32 i = 0; i < 5; ++i) e.macro.macroKeys[i] = FunctionIdFrom(40 + i);  // any keys
     e.SetX(6.25);
     e.state.lastX = -2.0;
     keys = EmptyUserKeyMap();
@@ -161,7 +161,7 @@ TEST_F(StateIoTest, RecordsWithImpossibleCountsOrEntryTextAreReset) {
         EXPECT_EQ(loaded.X(), kept ? 7.0 : 0.0);
         EXPECT_EQ(loaded.dirty.state, !kept);
         // The loaded calculator takes keys that read the pending operators and the entry.
-        const FunctionId typed[] = {fid::Digit0 + 1, fid::Add, fid::Digit0 + 2, fid::Equals, fid::CloseParen};
+        const FunctionId typed[] = {fid::Digit1, fid::Add, fid::Digit2, fid::Equals, fid::CloseParen};
         for (const FunctionId key : typed) loaded.Dispatch(key);
         EXPECT_LE(loaded.state.pendingCount, kMaxPending);
     }
@@ -170,7 +170,7 @@ TEST_F(StateIoTest, RecordsWithImpossibleCountsOrEntryTextAreReset) {
         MacroRecord macro{};
         macro.macroVersion = kMacroVersion;
         macro.macroLength = length;
-        for (u32& key : macro.macroKeys) key = fid::Digit0 + 1;
+        for (FunctionId& key : macro.macroKeys) key = fid::Digit1;
         ASSERT_TRUE(store.WriteRecord(kind::Macro, &macro, sizeof macro));
         Engine loaded;
         LoadState(loaded, keys, store);
@@ -245,7 +245,7 @@ TEST_F(StateIoTest, UndoHistoryStartsAfreshFromTheLoadedRecords) {
     Engine source;
     source.SetX(5.0);
     ASSERT_TRUE(SaveAll(source, keys, store));
-    e.Dispatch(fid::Digit0 + 1);
+    e.Dispatch(fid::Digit1);
     e.Dispatch(fid::Enter);
     ASSERT_TRUE(e.history.CanUndo());
     Load();

@@ -23,8 +23,8 @@ QDialogButtonBox* MakeButtonRow(QDialog* dialog, QDialogButtonBox::StandardButto
 
 QString DisplayNumber(const Engine& e, double value) {
     FormattedText formatted;
-    if (FormatValue(e, value, 0, false, formatted) != 0) return QStringLiteral("error");
-    return ToQString(DisplayText(e, formatted.View(), 0));
+    if (FormatValue(e, value, ValueTag::None, false, formatted) != 0) return QStringLiteral("error");
+    return ToQString(DisplayText(e, formatted.View(), ValueTag::None));
 }
 
 std::optional<double> ReadNumber(const Engine& e, const QString& text) {

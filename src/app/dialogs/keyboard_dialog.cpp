@@ -131,7 +131,7 @@ void KeyboardDialog::WriteBack() {
     for (const KeyHalf half : {KeyHalf::Unshifted, KeyHalf::Shifted}) {
         const int first = half == KeyHalf::Shifted ? kBlockKeys : 0;
         for (int k = 0; k < kBlockKeys; ++k) {
-            const u32 id = m_working.keys[first + k];
+            const FunctionId id = m_working.keys[first + k];
             if (id != m_session.userKeys().keys[first + k]) m_session.AssignUserKey(half, k + 1, id);
         }
     }

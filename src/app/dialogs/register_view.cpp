@@ -9,7 +9,7 @@
 
 #include "display/labels.h"
 #include "engine/function_ids.h"
-#include "finance/result_labels.h"
+#include "engine/value_tags.h"
 
 namespace brinto::dialogs {
 namespace {

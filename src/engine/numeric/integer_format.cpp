@@ -25,13 +25,15 @@ bool ReadsUnsigned(double x, ValueTag sourceTag, IntegerFormat target) {
 
 }  // namespace
 
-int DefaultIntegerFormatTag(const Preferences& prefs) {
+ValueTag DefaultIntegerFormatTag(const Preferences& prefs) {
+    // The preference holds the format's place in the list; past its end it selects none.
     const int field = prefs.IntegerFormat();
-    return field <= kLastIntegerTag - kFirstIntegerTag ? kFirstIntegerTag + field : 0;
+    return field >= 0 && field < static_cast<int>(kIntegerFormats.size()) ? kIntegerFormats[field].tag
+                                                                          : ValueTag::None;
 }
 
 ValueTag IntegerFormatOf(const Preferences& prefs, ValueTag tag) {
-    return IsIntegerFormatTag(tag) ? tag : static_cast<ValueTag>(DefaultIntegerFormatTag(prefs));
+    return IsIntegerFormatTag(tag) ? tag : DefaultIntegerFormatTag(prefs);
 }
 
 u32 ToUnsigned32(double x) {

@@ -1,13 +1,15 @@
 #pragma once
 // Integer formats of the programmer keyboard and the narrowing of a stack value into one.
 //
-// The stack keeps doubles; a value whose tag is one of the six integer formats (1924..1929:
-// u8, s8, u16, s16, u32, s32) stands for a whole number of that width and signedness. Every
+// The stack keeps doubles; a value whose tag is one of the six integer formats (u8, s8, u16,
+// s16, u32, s32) stands for a whole number of that width and signedness. Every
 // integer operation and the display in binary, octal and hexadecimal first narrow the double to
 // such a format. Narrowing never fails: values beyond the width wrap around, and a value that is
 // not finite counts as 0.
+#include <array>
+
+#include "engine/function_ids.h"
 #include "engine/preferences.h"
-#include "engine/types.h"
 
 namespace brinto {
 
@@ -16,19 +18,34 @@ struct IntegerFormat {
     bool isSigned;  // two's complement when set
 };
 
-inline constexpr ValueTag kFirstIntegerTag = 1924;  // u8; then s8, u16, s16, u32, s32
-inline constexpr ValueTag kLastIntegerTag = 1929;   // s32
+struct IntegerFormatRow {
+    FunctionId key;  // the programmer keyboard's key that sets the format
+    ValueTag tag;
+    IntegerFormat format;
+};
+inline constexpr std::array kIntegerFormats = {
+    IntegerFormatRow{fid::FormatU8, ValueTag::U8, {8, false}},
+    IntegerFormatRow{fid::FormatS8, ValueTag::S8, {8, true}},
+    IntegerFormatRow{fid::FormatU16, ValueTag::U16, {16, false}},
+    IntegerFormatRow{fid::FormatS16, ValueTag::S16, {16, true}},
+    IntegerFormatRow{fid::FormatU32, ValueTag::U32, {32, false}},
+    IntegerFormatRow{fid::FormatS32, ValueTag::S32, {32, true}},
+};
 
-constexpr bool IsIntegerFormatTag(ValueTag tag) {
-    return tag >= kFirstIntegerTag && tag <= kLastIntegerTag;
+constexpr const IntegerFormatRow* FindIntegerFormat(ValueTag tag) {
+    for (const IntegerFormatRow& row : kIntegerFormats) {
+        if (row.tag == tag) return &row;
+    }
+    return nullptr;
 }
+
+constexpr bool IsIntegerFormatTag(ValueTag tag) { return FindIntegerFormat(tag) != nullptr; }
 
 // The width and signedness named by an integer-format tag. Any other tag reads as s32, the
 // format in which binary, octal and hexadecimal entry is read.
 constexpr IntegerFormat FormatOfTag(ValueTag tag) {
-    if (!IsIntegerFormatTag(tag)) return {32, true};
-    const int index = tag - kFirstIntegerTag;
-    return {8 << (index / 2), index % 2 == 1};
+    const IntegerFormatRow* row = FindIntegerFormat(tag);
+    return row ? row->format : IntegerFormat{32, true};
 }
 
 // All ones in the low `bits` bits: 255, 65535 or 4294967295.
@@ -36,12 +53,12 @@ constexpr u32 WidthMask(IntegerFormat f) {
     return f.bits >= 32 ? 0xFFFFFFFFu : (u32{1} << f.bits) - 1;
 }
 
-// The user's default integer format ("Integer:" preference) as a tag, or 0 when the preference
-// selects none.
-int DefaultIntegerFormatTag(const Preferences& prefs);
+// The user's default integer format ("Integer:" preference) as a tag, or none when the
+// preference selects none.
+ValueTag DefaultIntegerFormatTag(const Preferences& prefs);
 
 // The integer format a value of tag `tag` is read in: its own tag when that is an integer
-// format, else the default format (0 when there is none).
+// format, else the default format (none when there is none).
 ValueTag IntegerFormatOf(const Preferences& prefs, ValueTag tag);
 
 // Conversions of a double to a 32-bit integer: truncation toward zero, then wrap-around modulo
