@@ -52,7 +52,10 @@ QIcon ProgramIcon() {
 
 MainWindow::MainWindow(Session& session, QWidget* parent) : QMainWindow(parent), m_session(session) {
     setWindowTitle(QStringLiteral("Brinto"));
-    setWindowIcon(ProgramIcon());
+    // The application's icon too, so that the About box and every other window show the program's.
+    const QIcon icon = ProgramIcon();
+    setWindowIcon(icon);
+    if (QApplication::windowIcon().isNull()) QApplication::setWindowIcon(icon);
     setMinimumSize(240, 320);
     resize(360, 480);
 
