@@ -1,8 +1,20 @@
 #include "app_fixture.h"
 
+#include <cstdio>
+
 #include "display/display_text.h"
 
 namespace brinto::test {
+
+std::string CommandOutput(const std::string& command) {
+    std::string out;
+    if (FILE* pipe = popen(command.c_str(), "r")) {
+        char buffer[4096];
+        while (size_t n = fread(buffer, 1, sizeof buffer, pipe)) out.append(buffer, n);
+        pclose(pipe);
+    }
+    return out;
+}
 
 std::string Desk::XLine() {
     const DisplayLine line = DisplayLevel(engine(), 0);

@@ -12,6 +12,9 @@
 
 namespace brinto::test {
 
+// What a shell command writes on its standard output.
+std::string CommandOutput(const std::string& command);
+
 class RecordingHost : public WindowHost {
 public:
     void ShowMessage(std::string_view caption, std::string_view) override { messages.emplace_back(caption); }

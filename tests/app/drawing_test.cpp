@@ -1,6 +1,6 @@
 // What the window draws: every theme gives a non-blank, legible face at a small and a large size,
-// and each appearance preference changes the drawing. With BRINTO_SHOTS set to a folder, every
-// keyboard is saved there as a PNG, shifted and unshifted, in a light and a dark theme.
+// and each appearance preference changes the drawing. (`brinto --screenshot DIR` draws every window
+// for looking at.)
 #include <gtest/gtest.h>
 
 #include <QImage>
@@ -91,7 +91,6 @@ TEST(Drawing, EachAppearanceChoiceChangesTheDrawing) {
         return Grab(desk);
     };
     const QImage plain = draw([](Preferences&) {});
-    if (const QString folder = qEnvironmentVariable("BRINTO_SHOTS"); !folder.isEmpty()) plain.save(folder + "/plain.png");
     for (const auto& [name, set] : choices) EXPECT_NE(draw(set), plain) << name;
 
     // "Active:" changes how a key looks while it is held down.
@@ -105,28 +104,6 @@ TEST(Drawing, EachAppearanceChoiceChangesTheDrawing) {
         return image;
     };
     EXPECT_NE(pressed(1), pressed(3));
-}
-
-TEST(Drawing, ScreenshotsOfEveryKeyboard) {
-    const QString folder = qEnvironmentVariable("BRINTO_SHOTS");
-    if (folder.isEmpty()) GTEST_SKIP() << "BRINTO_SHOTS names no folder";
-    for (u16 theme : {theme_id::DefaultColor, theme_id::DarkBackground}) {
-        for (QSize size : {QSize(240, 320), QSize(540, 720)}) {
-            Desk desk(size);
-            desk.ChangePreferences([theme](Preferences& p) { p.SetTheme(theme); });
-            desk.Type("1234.5\r");
-            for (int keyboard = 0; keyboard < kKeyboardCount; ++keyboard) {
-                desk.session().SelectKeyboard(keyboard);
-                for (bool shifted : {false, true}) {
-                    if (shifted) desk.session().Tap(fid::Shift);
-                    Grab(desk).save(QStringLiteral("%1/t%2-%3-k%4%5.png")
-                                        .arg(folder).arg(theme).arg(size.width()).arg(keyboard)
-                                        .arg(shifted ? QStringLiteral("s") : QString()));
-                    if (shifted) desk.session().Tap(fid::Shift);
-                }
-            }
-        }
-    }
 }
 
 }  // namespace

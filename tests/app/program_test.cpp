@@ -14,17 +14,11 @@
 
 #include <QImage>
 
+#include "app_fixture.h"
+
 namespace {
 
-std::string Output(const std::string& command) {
-    std::string out;
-    if (FILE* pipe = popen(command.c_str(), "r")) {
-        char buffer[4096];
-        while (size_t n = fread(buffer, 1, sizeof buffer, pipe)) out.append(buffer, n);
-        pclose(pipe);
-    }
-    return out;
-}
+using brinto::test::CommandOutput;
 
 TEST(Program, SigtermKeepsWhatWasTypedForBrintoCli) {
     const std::filesystem::path dir =
@@ -32,7 +26,7 @@ TEST(Program, SigtermKeepsWhatWasTypedForBrintoCli) {
     std::filesystem::create_directories(dir);
     const std::string db = (dir / "brinto.db").string();
     // brinto-cli makes the first run (RPN chosen), so the program opens without asking.
-    Output(std::string(BRINTO_CLI_PATH) + " --db " + db + " rpn");
+    CommandOutput(std::string(BRINTO_CLI_PATH) + " --db " + db + " rpn");
 
     const pid_t pid = fork();
     if (pid == 0) {
@@ -49,7 +43,7 @@ TEST(Program, SigtermKeepsWhatWasTypedForBrintoCli) {
     EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
 
     // Y holds the sum, X the 7 that was being typed when the signal came.
-    EXPECT_EQ(Output(std::string(BRINTO_CLI_PATH) + " --db " + db + " + </dev/null"), "49.\n");
+    EXPECT_EQ(CommandOutput(std::string(BRINTO_CLI_PATH) + " --db " + db + " + </dev/null"), "49.\n");
     std::filesystem::remove_all(dir);
 }
 
@@ -59,7 +53,7 @@ TEST(Program, ScreenshotDrawsEveryWindow) {
     // No display and no database: the pictures need neither.
     const std::string command = "env -u DISPLAY -u WAYLAND_DISPLAY XDG_DATA_HOME=" + dir.string() + "/data " +
                                 BRINTO_APP_PATH + " --screenshot " + (dir / "shots").string() + "; echo $?";
-    EXPECT_EQ(Output(command), "0\n");
+    EXPECT_EQ(CommandOutput(command), "0\n");
     EXPECT_FALSE(std::filesystem::exists(dir / "data"));
     const char* const names[] = {
         "main-general", "main-financial", "main-scientific", "main-statistical", "main-programmer",

@@ -29,13 +29,7 @@ namespace {
 std::string CliJson(const std::string& tokens) {
     const std::string command = std::string(BRINTO_CLI_PATH) +
                                 " --memory --json --now '2005-03-15 14:05:00' " + tokens + " 2>/dev/null";
-    std::string out;
-    if (FILE* pipe = popen(command.c_str(), "r")) {
-        char buffer[4096];
-        while (size_t n = fread(buffer, 1, sizeof buffer, pipe)) out.append(buffer, n);
-        pclose(pipe);
-    }
-    return out;
+    return CommandOutput(command);
 }
 
 // Level `level` as brinto-cli's JSON writes it: the shortest value and the tag.
