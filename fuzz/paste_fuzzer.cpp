@@ -33,7 +33,7 @@ constexpr u16 kBases[] = {0, status::BaseBinary, status::BaseOctal, status::Base
 void CheckSpan(std::string_view text, std::string_view span) {
     FUZZ_CHECK(span.size() <= 47, "paste span longer than 47 characters");
     FUZZ_CHECK(span.empty() || (span[0] >= '0' && span[0] <= '9'), "paste span starts before a digit");
-    FUZZ_CHECK(span.empty() || span.data() >= text.data() && span.data() + span.size() <= text.data() + text.size(),
+    FUZZ_CHECK(span.empty() || (span.data() >= text.data() && span.data() + span.size() <= text.data() + text.size()),
                "paste span outside the pasted text");
     if (span.empty()) {
         for (const char c : text) FUZZ_CHECK(!(c >= '0' && c <= '9'), "a digit was skipped");
