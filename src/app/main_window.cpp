@@ -7,10 +7,10 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QPainter>
 #include <QToolBar>
 #include <QToolButton>
 #include <QHBoxLayout>
+#include <QIcon>
 
 #include "app/accessibility.h"
 #include "app/dialogs/colour_dialogs.h"
@@ -28,24 +28,15 @@ constexpr int kStripHeight = 26;
 
 bool IsBasic(const Engine& e) { return e.state.viewFlags & view::ModeMask; }
 
-// The program's icon: a small calculator, drawn so that it is crisp at every size.
+// The program's icon: the one installed in the icon theme, as the menus and the dock show it, or
+// else the copy built into the program (run from the build tree, or without the theme installed).
+// Only PNGs are bundled: an SVG would need Qt's SVG module, and every module costs start-up time.
 QIcon ProgramIcon() {
-    QPixmap pixmap(64, 64);
-    pixmap.fill(Qt::transparent);
-    QPainter p(&pixmap);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setPen(Qt::NoPen);
-    p.setBrush(QColor(0x33, 0x33, 0x99));
-    p.drawRoundedRect(QRectF(8, 2, 48, 60), 8, 8);
-    p.setBrush(QColor(0xF4, 0xF7, 0xEE));
-    p.drawRoundedRect(QRectF(13, 8, 38, 14), 3, 3);
-    for (int row = 0; row < 3; ++row) {
-        for (int column = 0; column < 3; ++column) {
-            p.setBrush(row == 2 && column == 2 ? QColor(0xFF, 0xFF, 0x66) : QColor(0xE8, 0xEA, 0xF0));
-            p.drawRoundedRect(QRectF(13 + column * 13.5, 27 + row * 11.5, 11, 9), 2, 2);
-        }
+    QIcon bundled;
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
+        bundled.addFile(QStringLiteral(":/icons/%1x%1/apps/" BRINTO_APP_ID ".png").arg(size), QSize(size, size));
     }
-    return QIcon(pixmap);
+    return QIcon::fromTheme(QStringLiteral(BRINTO_APP_ID), bundled);
 }
 
 }  // namespace
