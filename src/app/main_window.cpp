@@ -7,6 +7,7 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QHBoxLayout>
@@ -32,11 +33,13 @@ bool IsBasic(const Engine& e) { return e.state.viewFlags & view::ModeMask; }
 // else the copy built into the program (run from the build tree, or without the theme installed).
 // Only PNGs are bundled: an SVG would need Qt's SVG module, and every module costs start-up time.
 QIcon ProgramIcon() {
-    QIcon bundled;
+    const QString name = QStringLiteral(BRINTO_APP_ID);
+    if (QIcon::hasThemeIcon(name)) return QIcon::fromTheme(name);
+    QIcon bundled;  // each file is read here, so only when the theme has none
     for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
-        bundled.addFile(QStringLiteral(":/icons/%1x%1/apps/" BRINTO_APP_ID ".png").arg(size), QSize(size, size));
+        bundled.addFile(QStringLiteral(":/icons/%1x%1/apps/%2.png").arg(size).arg(name), QSize(size, size));
     }
-    return QIcon::fromTheme(QStringLiteral(BRINTO_APP_ID), bundled);
+    return bundled;
 }
 
 }  // namespace
@@ -44,9 +47,13 @@ QIcon ProgramIcon() {
 MainWindow::MainWindow(Session& session, QWidget* parent) : QMainWindow(parent), m_session(session) {
     setWindowTitle(QStringLiteral("Brinto"));
     // The application's icon too, so that the About box and every other window show the program's.
-    const QIcon icon = ProgramIcon();
-    setWindowIcon(icon);
-    if (QApplication::windowIcon().isNull()) QApplication::setWindowIcon(icon);
+    // Looking through the icon theme and reading the pictures takes some 15 ms, so it is done once
+    // the window is up rather than before it appears.
+    QTimer::singleShot(0, this, [this] {
+        const QIcon icon = ProgramIcon();
+        setWindowIcon(icon);
+        if (QApplication::windowIcon().isNull()) QApplication::setWindowIcon(icon);
+    });
     setMinimumSize(240, 320);
     resize(360, 480);
 
