@@ -29,10 +29,11 @@ install: deps
 	cmake --build build -j $(JOBS) --target brinto brinto-cli
 	DESTDIR="$(DESTDIR)" cmake --install build --prefix "$(PREFIX)"
 
-# Removes what the last `make install` wrote (build/install_manifest.txt lists it, DESTDIR included).
+# Removes what the last `make install` wrote (build/install_manifest.txt lists it under the prefix;
+# give the same DESTDIR).
 uninstall:
 	@test -f build/install_manifest.txt || { echo "build/install_manifest.txt: nothing installed from this build"; exit 1; }
-	xargs -d '\n' rm -fv < build/install_manifest.txt
+	sed 's|^|$(DESTDIR)|' build/install_manifest.txt | xargs -d '\n' rm -fv
 	-rmdir --ignore-fail-on-non-empty "$(DESTDIR)$(PREFIX)/share/doc/brinto"
 
 # A Debian package in build/, its dependencies read off the programs by dpkg-shlibdeps.
