@@ -40,7 +40,10 @@ uninstall:
 package: deps
 	cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
 	cmake --build build -j $(JOBS) --target brinto brinto-cli
-	cd build && cpack -G DEB
+	@# cpack rewrites the install manifest that `make uninstall` reads: the last `make install`'s is kept.
+	cd build && { cp install_manifest.txt install_manifest.keep 2>/dev/null; cpack -G DEB; status=$$?; \
+	  if [ -f install_manifest.keep ]; then mv install_manifest.keep install_manifest.txt; else rm -f install_manifest.txt; fi; \
+	  exit $$status; }
 
 # Only the program and what it links, not the tests.
 run: deps

@@ -3,6 +3,7 @@
 # land there, that the installed programs run, and that the desktop entry, the AppStream metadata and
 # the icons agree with each other and with the project; then runs the desktop entry and AppStream
 # validators. Exits 77 (skipped) when a validator is not installed and everything else passed.
+# Then builds the Debian package into the temporary folder (nothing is installed into the system).
 # Usage: install_test.sh BUILD_DIR SOURCE_DIR PROJECT_VERSION
 set -euo pipefail
 build=$(cd "$1" && pwd) source=$(cd "$2" && pwd) version=$3
@@ -62,6 +63,20 @@ for url in $shots; do
 done
 
 missing=()
+# The Debian package holds the same files, and dpkg-shlibdeps found the libraries the programs link.
+if command -v dpkg-shlibdeps >/dev/null && command -v dpkg-deb >/dev/null; then
+  out=$(cpack -G DEB -B "$root/deb" --config "$build/CPackConfig.cmake" 2>&1) || fail "cpack -G DEB: $out"
+  deb=$(echo "$root"/deb/brinto_"$version"_*.deb)
+  [ -f "$deb" ] || fail "no brinto_${version}_*.deb"
+  diff <(find . -type f -printf 'usr/%P\n' | sort) <(dpkg-deb -c "$deb" | awk '!/^d/ {sub("^\\./", "", $6); print $6}' | sort) \
+    || fail "the package's files differ from the installed ones"
+  depends=$(dpkg-deb -f "$deb" Depends)
+  for library in libqt6widgets6 libqt6gui6 libqt6core6 libsqlite3-0 libc6; do
+    [[ $depends == *"$library "* ]] || fail "the package does not depend on $library: $depends"
+  done
+else
+  missing+=(dpkg-shlibdeps)
+fi
 if command -v desktop-file-validate >/dev/null; then
   # Hints too: a second main category, for one, would list the program twice in menus.
   out=$(desktop-file-validate "$desktop" 2>&1) || fail "desktop-file-validate: $out"
