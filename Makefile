@@ -1,5 +1,8 @@
 # Brinto: `make run` starts the calculator (`make run-cli` the headless one), `make test` builds and runs every test.
 JOBS ?= $(shell nproc)
+# `make install`: where to (PREFIX), and a staging root (DESTDIR) for packagers.
+PREFIX ?= /usr/local
+DESTDIR ?=
 CMAKE_FLAGS ?=
 # Fuzzing: seconds per target for `make fuzz`, targets run at once, and clang's packages.
 FUZZ_SECONDS ?= 60
@@ -9,7 +12,7 @@ FUZZ_PACKAGES = clang-14 libclang-rt-14-dev libfuzzer-14-dev
 FUZZ_CMAKE = cmake -S . -B build-fuzz -DCMAKE_CXX_COMPILER=$(FUZZ_CXX) -DCMAKE_BUILD_TYPE=RelWithDebInfo \
 	-DBRINTO_TESTS=OFF -DBRINTO_APP=OFF -DBRINTO_FUZZ=ON $(CMAKE_FLAGS)
 
-.PHONY: all deps build run run-cli guide screenshots test test-release test-sanitize bench clean fuzz-deps fuzz-build test-fuzz fuzz fuzz-coverage
+.PHONY: all deps build install uninstall package run run-cli guide screenshots test test-release test-sanitize bench clean fuzz-deps fuzz-build test-fuzz fuzz fuzz-coverage
 
 all: build
 
@@ -19,6 +22,28 @@ deps:
 build: deps
 	cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
 	cmake --build build -j $(JOBS)
+
+# The programs, the user guide, the man pages, and the desktop entry, metadata and icons.
+install: deps
+	cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
+	cmake --build build -j $(JOBS) --target brinto brinto-cli
+	DESTDIR="$(DESTDIR)" cmake --install build --prefix "$(PREFIX)"
+
+# Removes what the last `make install` wrote (build/install_manifest.txt lists it under the prefix;
+# give the same DESTDIR).
+uninstall:
+	@test -f build/install_manifest.txt || { echo "build/install_manifest.txt: nothing installed from this build"; exit 1; }
+	sed 's|^|$(DESTDIR)|' build/install_manifest.txt | xargs -d '\n' rm -fv
+	-rmdir --ignore-fail-on-non-empty "$(DESTDIR)$(PREFIX)/share/doc/brinto"
+
+# A Debian package in build/, its dependencies read off the programs by dpkg-shlibdeps.
+package: deps
+	cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
+	cmake --build build -j $(JOBS) --target brinto brinto-cli
+	@# cpack rewrites the install manifest that `make uninstall` reads: the last `make install`'s is kept.
+	cd build && { cp install_manifest.txt install_manifest.keep 2>/dev/null; cpack -G DEB; status=$$?; \
+	  if [ -f install_manifest.keep ]; then mv install_manifest.keep install_manifest.txt; else rm -f install_manifest.txt; fi; \
+	  exit $$status; }
 
 # Only the program and what it links, not the tests.
 run: deps

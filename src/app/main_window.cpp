@@ -7,10 +7,11 @@
 #include <QKeyEvent>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QPainter>
+#include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QHBoxLayout>
+#include <QIcon>
 
 #include "app/accessibility.h"
 #include "app/dialogs/colour_dialogs.h"
@@ -28,24 +29,17 @@ constexpr int kStripHeight = 26;
 
 bool IsBasic(const Engine& e) { return e.state.viewFlags & view::ModeMask; }
 
-// The program's icon: a small calculator, drawn so that it is crisp at every size.
+// The program's icon: the one installed in the icon theme, as the menus and the dock show it, or
+// else the copy built into the program (run from the build tree, or without the theme installed).
+// Only PNGs are bundled: an SVG would need Qt's SVG module, and every module costs start-up time.
 QIcon ProgramIcon() {
-    QPixmap pixmap(64, 64);
-    pixmap.fill(Qt::transparent);
-    QPainter p(&pixmap);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setPen(Qt::NoPen);
-    p.setBrush(QColor(0x33, 0x33, 0x99));
-    p.drawRoundedRect(QRectF(8, 2, 48, 60), 8, 8);
-    p.setBrush(QColor(0xF4, 0xF7, 0xEE));
-    p.drawRoundedRect(QRectF(13, 8, 38, 14), 3, 3);
-    for (int row = 0; row < 3; ++row) {
-        for (int column = 0; column < 3; ++column) {
-            p.setBrush(row == 2 && column == 2 ? QColor(0xFF, 0xFF, 0x66) : QColor(0xE8, 0xEA, 0xF0));
-            p.drawRoundedRect(QRectF(13 + column * 13.5, 27 + row * 11.5, 11, 9), 2, 2);
-        }
+    const QString name = QStringLiteral(BRINTO_APP_ID);
+    if (QIcon::hasThemeIcon(name)) return QIcon::fromTheme(name);
+    QIcon bundled;  // each file is read here, so only when the theme has none
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
+        bundled.addFile(QStringLiteral(":/icons/%1x%1/apps/%2.png").arg(size).arg(name), QSize(size, size));
     }
-    return QIcon(pixmap);
+    return bundled;
 }
 
 }  // namespace
@@ -53,9 +47,13 @@ QIcon ProgramIcon() {
 MainWindow::MainWindow(Session& session, QWidget* parent) : QMainWindow(parent), m_session(session) {
     setWindowTitle(QStringLiteral("Brinto"));
     // The application's icon too, so that the About box and every other window show the program's.
-    const QIcon icon = ProgramIcon();
-    setWindowIcon(icon);
-    if (QApplication::windowIcon().isNull()) QApplication::setWindowIcon(icon);
+    // Looking through the icon theme and reading the pictures takes some 15 ms, so it is done once
+    // the window is up rather than before it appears.
+    QTimer::singleShot(0, this, [this] {
+        const QIcon icon = ProgramIcon();
+        setWindowIcon(icon);
+        if (QApplication::windowIcon().isNull()) QApplication::setWindowIcon(icon);
+    });
     setMinimumSize(240, 320);
     resize(360, 480);
 

@@ -116,6 +116,8 @@ int RunApp(int argc, char** argv) {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Brinto"));
     QApplication::setApplicationVersion(QStringLiteral(BRINTO_VERSION));
+    // Names the installed desktop entry, so that docks and task switchers show its icon and name.
+    QGuiApplication::setDesktopFileName(QStringLiteral(BRINTO_APP_ID));
     if (options->screenshots) return WriteScreenshots(QString::fromStdString(*options->screenshots));
 
     WindowHost host;

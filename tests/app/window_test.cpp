@@ -220,6 +220,18 @@ TEST(Window, MenusHoldTheirEntriesInOrder) {
               "Keyboard...|-|About Brinto...|-|Quit");
 }
 
+TEST(Window, IconIsBuiltInAtEveryInstalledSize) {
+    // Without the icon theme (run from the build tree) the built-in copy is the icon: each size drawn
+    // at its own size, on the window and on the application, so the About box shows it too.
+    Desk desk;
+    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
+        const QImage image(QStringLiteral(":/icons/%1x%1/apps/io.github.brinto.Brinto.png").arg(size));
+        EXPECT_EQ(image.size(), QSize(size, size)) << size;
+        EXPECT_EQ(desk.window.windowIcon().actualSize(QSize(size, size)), QSize(size, size)) << size;
+    }
+    EXPECT_FALSE(QGuiApplication::windowIcon().isNull());
+}
+
 TEST(Window, SizeAndPositionAreKeptBesideTheCalculator) {
     const std::string db = std::filesystem::temp_directory_path() /
                            ("brinto-geometry-" + std::to_string(QCoreApplication::applicationPid()) + ".db");

@@ -23,7 +23,7 @@ namespace brinto::dialogs {
 namespace {
 
 constexpr const char* kLicenceLine =
-    "Licensed under the terms supplied with this copy; provided without any warranty.";
+    "Copyright (c) 2026 The Brinto developers. MIT License: provided \"as is\", without warranty of any kind.";
 
 QDialog* MakeAbout(const HelpFunction& help, QWidget* parent) {
     auto* about = new QDialog(parent);

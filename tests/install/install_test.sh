@@ -1,0 +1,96 @@
+#!/usr/bin/env bash
+# Installs the build into a temporary DESTDIR under /usr and checks that exactly the expected files
+# land there, that the installed programs run, and that the desktop entry, the AppStream metadata and
+# the icons agree with each other and with the project; then runs the desktop entry and AppStream
+# validators. Exits 77 (skipped) when a validator is not installed and everything else passed.
+# Then builds the Debian package into the temporary folder (nothing is installed into the system).
+# Usage: install_test.sh BUILD_DIR SOURCE_DIR PROJECT_VERSION
+set -euo pipefail
+build=$(cd "$1" && pwd) source=$(cd "$2" && pwd) version=$3
+id=io.github.brinto.Brinto
+root=$(mktemp -d)
+# cmake --install rewrites the build's install manifest, which `make uninstall` reads: keep the real one.
+manifest=$build/install_manifest.txt
+[ -f "$manifest" ] && cp "$manifest" "$root.manifest"
+trap 'rm -rf "$root"; if [ -f "$root.manifest" ]; then mv "$root.manifest" "$manifest"; else rm -f "$manifest"; fi' EXIT
+fail() { echo "FAIL: $*" >&2; exit 1; }
+
+DESTDIR=$root cmake --install "$build" --prefix /usr >/dev/null
+cd "$root/usr"
+
+doc=share/doc/brinto
+expected=(bin/brinto bin/brinto-cli "$doc/Brinto.htm" "$doc/LICENSE"
+  share/man/man1/brinto.1 share/man/man1/brinto-cli.1
+  "share/applications/$id.desktop" "share/metainfo/$id.metainfo.xml"
+  "share/icons/hicolor/scalable/apps/$id.svg")
+sizes=(16 22 24 32 48 64 128 256)
+for size in "${sizes[@]}"; do expected+=("share/icons/hicolor/${size}x$size/apps/$id.png"); done
+# The pictures the user guide shows sit beside it, as it refers to them.
+while read -r image; do
+  [ -n "$image" ] && expected+=("$doc/$image")
+done < <(grep -o 'src="[^":]*\.png"' "$doc/Brinto.htm" | sed 's/^src="//; s/"$//' | sort -u)
+diff <(printf '%s\n' "${expected[@]}" | sort) <(find . -type f -printf '%P\n' | sort) \
+  || fail "installed files differ from the expected list (< missing, > unexpected)"
+
+for program in bin/brinto bin/brinto-cli; do [ -x "$program" ] || fail "$program is not executable"; done
+[ "$(bin/brinto --version)" = "brinto $version" ] || fail "installed brinto does not report version $version"
+[ "$(bin/brinto-cli --memory 2 enter 3 +)" = "5." ] || fail "installed brinto-cli does not calculate 2 + 3"
+
+# Each PNG is as large as the folder it sits in says (width and height from its IHDR header).
+for size in "${sizes[@]}"; do
+  png=share/icons/hicolor/${size}x$size/apps/$id.png
+  read -r w1 w2 h1 h2 < <(od -An -tu1 -j18 -N6 "$png" | awk '{print $1, $2, $5, $6}')
+  [ "$(head -c 8 "$png" | od -An -tx1 | tr -d ' ')" = 89504e470d0a1a0a ] || fail "$png is not a PNG"
+  [ $((w1 * 256 + w2)) -eq "$size" ] && [ $((h1 * 256 + h2)) -eq "$size" ] || fail "$png is not ${size}x$size"
+done
+
+desktop=share/applications/$id.desktop
+metainfo=share/metainfo/$id.metainfo.xml
+grep -qx "Exec=brinto" "$desktop" || fail "the desktop entry does not start brinto"
+grep -qx "Icon=$id" "$desktop" || fail "the desktop entry does not name the icon $id"
+grep -q "<id>$id</id>" "$metainfo" || fail "the metadata's id is not $id"
+grep -q "<launchable type=\"desktop-id\">$id.desktop</launchable>" "$metainfo" \
+  || fail "the metadata does not launch $id.desktop"
+newest=$(grep -o '<release version="[^"]*"' "$metainfo" | head -1 | sed 's/.*="//; s/"$//')
+[ "$newest" = "$version" ] || fail "the newest release in the metadata is $newest, the project is $version"
+# Every screenshot is one of docs/screenshots, at its place in the repository.
+shots=$(grep -o '<image>[^<]*</image>' "$metainfo" | sed 's/<[^>]*>//g')
+[ -n "$shots" ] || fail "the metadata has no screenshots"
+for url in $shots; do
+  path=${url#https://raw.githubusercontent.com/brinto/brinto/main/}
+  [ "$path" != "$url" ] && [ -f "$source/$path" ] && [[ $path == docs/screenshots/*.png ]] \
+    || fail "screenshot $url is not a picture in docs/screenshots"
+done
+
+missing=()
+# The Debian package holds the same files, and dpkg-shlibdeps found the libraries the programs link.
+if command -v dpkg-shlibdeps >/dev/null && command -v dpkg-deb >/dev/null; then
+  out=$(cpack -G DEB -B "$root/deb" --config "$build/CPackConfig.cmake" 2>&1) || fail "cpack -G DEB: $out"
+  deb=$(echo "$root"/deb/brinto_"$version"_*.deb)
+  [ -f "$deb" ] || fail "no brinto_${version}_*.deb"
+  diff <(find . -type f -printf 'usr/%P\n' | sort) <(dpkg-deb -c "$deb" | awk '!/^d/ {sub("^\\./", "", $6); print $6}' | sort) \
+    || fail "the package's files differ from the installed ones"
+  depends=$(dpkg-deb -f "$deb" Depends)
+  for library in libqt6widgets6 libqt6gui6 libqt6core6 libsqlite3-0 libc6; do
+    [[ $depends == *"$library "* ]] || fail "the package does not depend on $library: $depends"
+  done
+else
+  missing+=(dpkg-shlibdeps)
+fi
+if command -v desktop-file-validate >/dev/null; then
+  # Hints too: a second main category, for one, would list the program twice in menus.
+  out=$(desktop-file-validate "$desktop" 2>&1) || fail "desktop-file-validate: $out"
+  [ -z "$out" ] || fail "desktop-file-validate: $out"
+else
+  missing+=(desktop-file-validate)
+fi
+if command -v appstreamcli >/dev/null; then
+  out=$(appstreamcli validate --no-net --pedantic "$metainfo" 2>&1) || fail "appstreamcli validate: $out"
+else
+  missing+=(appstreamcli)
+fi
+if [ ${#missing[@]} -gt 0 ]; then
+  echo "SKIPPED: not installed: ${missing[*]} (scripts/install-deps.sh installs them)"
+  exit 77
+fi
+echo "installed files, programs, icons and metadata: all as expected"
