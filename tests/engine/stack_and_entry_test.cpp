@@ -71,26 +71,6 @@ TEST(Stack, ClearStackResetsAllTwentyLevels) {
     }
 }
 
-TEST(Stack, EnterDisablesLiftSoTheNextNumberReplacesTheCopy) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {7, fid::Enter, 8});
-    EXPECT_EQ(e.X(), 8.0);
-    EXPECT_EQ(e.Y(), 7.0);
-    EXPECT_EQ(e.state.stack[2], 0.0);
-    Press(e, {fid::Add, 2});  // after an operation lift is enabled: 15 goes up
-    EXPECT_EQ(e.Y(), 15.0);
-}
-
-TEST(Stack, LastXLiftsUnlessLiftIsDisabled) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {6, fid::Enter, 2, fid::Divide, fid::LastX});
-    EXPECT_EQ(e.X(), 2.0);
-    EXPECT_EQ(e.Y(), 3.0);
-    Press(e, {fid::ClearX, fid::LastX});  // lift disabled: X is replaced
-    EXPECT_EQ(e.X(), 2.0);
-    EXPECT_EQ(e.Y(), 3.0);
-}
-
 struct EntryCase {
     const char* name;
     std::vector<test::Key> keys;
