@@ -167,15 +167,5 @@ TEST(RegisterClears, KeysClearTheirGroups) {
     EXPECT_EQ(e.registers.values[reg::DaysPerYear], 365.25);
 }
 
-TEST(RegisterClears, ClearAllClearsRegistersStackAndMacro) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {fid::MacroRecord, 1, fid::MacroStop, 5, fid::Store, 7, fid::Enter});
-    e.Dispatch(fid::ClearAll);
-    EXPECT_EQ(e.registers.values[7], 0.0);
-    EXPECT_EQ(e.macro.macroLength, 0);
-    EXPECT_EQ(e.X(), 0.0);
-    EXPECT_EQ(e.Y(), 0.0);
-}
-
 }  // namespace
 }  // namespace brinto

@@ -1,6 +1,7 @@
 // On the programmer keyboard a letter A-F switches decimal entry to hexadecimal. A decimal number
 // that already holds a point or an exponent cannot be read in hexadecimal, so there the letter
-// must be refused instead of turning "85.5e" into the text "85.5eA" and X into nonsense.
+// must be refused instead of turning "85.5e" into the text "85.5eA" and X into nonsense. A digit
+// that a smaller base lacks switches the entry back to decimal.
 #include <gtest/gtest.h>
 
 #include <string_view>
@@ -14,7 +15,7 @@ namespace {
 
 using test::MakeEngine;
 
-TEST(HexLetterEntry, SwitchesOnlyNumbersThatHaveAHexadecimalReading) {
+TEST(IntegerEntry, SwitchesOnlyNumbersThatHaveAReadingInTheNewBase) {
     struct Case {
         std::string_view name;
         std::vector<test::Key> keys;
@@ -29,6 +30,8 @@ TEST(HexLetterEntry, SwitchesOnlyNumbersThatHaveAHexadecimalReading) {
         {"exponentRefused", {8, 5, fid::Point, 5, fid::Exponent, fid::HexA}, "85.5e", 85.5, 0},
         {"bareExponentRefused", {fid::Exponent, 2, fid::HexF}, "1e2", 100.0, 0},
         {"freshEntrySwitches", {fid::HexA, fid::HexB}, "AB", 0xAB, status::BaseHex},
+        {"eightLeavesOctal", {fid::BaseOctal, 7, 8}, "78", 78, 0},
+        {"twoLeavesBinary", {fid::BaseBinary, 1, 2}, "12", 12, 0},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);

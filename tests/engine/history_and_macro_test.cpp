@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstring>
 #include <random>
+#include <tuple>
 #include <vector>
 
 #include "engine_test_support.h"
@@ -38,12 +39,12 @@ TEST(History, NewOperationEndsTheRedoChain) {
     EXPECT_EQ(e.X(), 30.0);
 }
 
-TEST(History, UndoRestoresRegistersAndMacro) {
+TEST(History, ClearAllClearsEverythingAndUndoBringsItBack) {
     Engine e = MakeEngine(InputMethod::Rpn);
     Press(e, {fid::MacroRecord, 1, fid::Add, fid::MacroStop});
-    Press(e, {7, fid::StoreVariant, 4});
+    Press(e, {7, fid::StoreVariant, 4, fid::Enter});
     Press(e, {fid::ClearAll});
-    ASSERT_EQ(e.macro.macroLength, 0);
+    EXPECT_EQ(std::tuple(e.registers.values[4], e.macro.macroLength, e.X(), e.Y()), std::tuple(0.0, 0, 0.0, 0.0));
     ASSERT_TRUE(Undo(e));
     EXPECT_EQ(e.registers.values[4], 7.0);
     EXPECT_EQ(e.macro.macroLength, 4);

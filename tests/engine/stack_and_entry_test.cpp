@@ -136,16 +136,6 @@ TEST(NumberEntry, IntegerBasesReadA32BitWordAsSigned) {
     EXPECT_EQ(ParseEntryText("1e999", 0), std::numeric_limits<double>::infinity());
 }
 
-TEST(NumberEntry, DigitsLeaveSmallerBases) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    e.state.status |= 4;
-    Press(e, {fid::BaseOctal, 7, 8});
-    EXPECT_EQ(e.EntryBase(), 0);
-    EXPECT_EQ(e.X(), 78.0);
-    Press(e, {fid::ClearX, fid::BaseBinary, 1, 2});
-    EXPECT_EQ(e.EntryBase(), 0);
-}
-
 TEST(NumberEntry, IntegerBaseIsDroppedOffTheProgrammerKeyboard) {
     Engine e = MakeEngine(InputMethod::Rpn);
     e.state.status |= 4;
