@@ -50,8 +50,6 @@ private slots:
             Click(Button(sheet, QDialogButtonBox::Ok));
             QVERIFY(!sheet->isVisible());
             const Preferences& p = run.engine.prefs;
-            QCOMPARE((p.words[2] >> 10) & 3, 3);     // "Fixed" is stored as 3
-            QCOMPARE(p.words[2] & 0x7C, 0x50);       // depth 20
             QCOMPARE(p.DigitField(), 3);
             QCOMPARE(p.Shift(), ShiftMode::Sticky);
             QVERIFY(p.CommaRadix() && !p.HundredRegisters());

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+#include <vector>
+
 #include "engine/register_keys.h"
 #include "engine_test_support.h"
 
@@ -62,29 +65,24 @@ TEST(Dispatcher, UnknownKeyIsNotAcceptedAndChangesNothing) {
     EXPECT_EQ(e.history.UndoCount(), steps);  // not an undo step either
 }
 
-TEST(ShiftKeys, StandardLastsOneKeyStickyUntilPressedAgain) {
+// Standard lasts one key, Sticky until pressed again, Locking holds on a double press.
+TEST(ShiftKeys, EachModeKeepsTheShiftAsLongAsItSays) {
+    const std::tuple<ShiftMode, std::vector<test::Key>, bool> cases[] = {
+        {ShiftMode::Standard, {fid::Shift}, true},
+        {ShiftMode::Standard, {fid::Shift, 1}, false},
+        {ShiftMode::Sticky, {fid::Shift, 2, 3}, true},
+        {ShiftMode::Sticky, {fid::Shift, 2, 3, fid::Shift}, false},
+        {ShiftMode::Locking, {fid::Shift, fid::Shift, 1, 2}, true},
+        {ShiftMode::Locking, {fid::Shift, fid::Shift, 1, 2, fid::Shift}, false},
+    };
+    for (const auto& [mode, keys, shifted] : cases) {
+        SCOPED_TRACE(testing::Message() << "mode " << static_cast<int>(mode) << ", " << keys.size() << " keys");
+        Engine e = MakeEngine(InputMethod::Rpn);
+        e.prefs.SetShift(mode);
+        for (const test::Key k : keys) e.Dispatch(k.id);
+        EXPECT_EQ(static_cast<bool>(e.state.status & status::FirstShift), shifted);
+    }
     Engine e = MakeEngine(InputMethod::Rpn);
-    e.Dispatch(fid::Shift);
-    EXPECT_TRUE(e.state.status & status::FirstShift);
-    e.Dispatch(fid::Digit1);
-    EXPECT_FALSE(e.state.status & status::FirstShift);
-
-    e.prefs.SetShift(ShiftMode::Sticky);
-    e.Dispatch(fid::Shift);
-    e.Dispatch(fid::Digit2);
-    e.Dispatch(fid::Digit3);
-    EXPECT_TRUE(e.state.status & status::FirstShift);
-    e.Dispatch(fid::Shift);
-    EXPECT_FALSE(e.state.status & status::FirstShift);
-}
-
-TEST(ShiftKeys, LockingHoldsOnADoublePress) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    e.prefs.SetShift(ShiftMode::Locking);
-    Press(e, {fid::Shift, fid::Shift, 1, 2});
-    EXPECT_TRUE(e.state.status & status::FirstShift);
-    e.Dispatch(fid::Shift);
-    EXPECT_FALSE(e.state.status & status::FirstShift);
     Press(e, {fid::SecondShift});
     EXPECT_TRUE(e.state.viewFlags & view::SecondShift);
     Press(e, {fid::FirstShift});
