@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstring>
-#include <random>
 #include <tuple>
 #include <vector>
 
@@ -122,26 +120,6 @@ TEST(Macro, PauseStopsPlaybackUntilResumed) {
     e.Dispatch(fid::MacroPlay);
     EXPECT_EQ(e.X(), 60.0);
     EXPECT_FALSE(e.state.engineFlags & flags::Playing);
-}
-
-// Any key sequence keeps the engine's invariants.
-TEST(Robustness, RandomKeysKeepInvariants) {
-    std::mt19937 random(20261122);
-    std::uniform_int_distribution<int> key(0, 260);
-    for (const InputMethod method : {InputMethod::Simple, InputMethod::Precedence, InputMethod::Rpn}) {
-        Engine e = MakeEngine(method);
-        for (int i = 0; i < 200000; ++i) {
-            FunctionId id = FunctionIdFrom(key(random));
-            if (id == fid::MacroPlay && (i % 7) != 0) id = fid::Enter;  // keep playback occasional
-            e.Dispatch(id);
-            ASSERT_LE(e.state.pendingCount, kMaxPending);
-            ASSERT_LT(std::strlen(e.state.entryText), sizeof e.state.entryText);
-            ASSERT_GE(e.StackDepth(), 1);
-            ASSERT_LE(e.StackDepth(), kStackLevels);
-            ASSERT_LE(e.macro.macroLength, kMacroSlots);
-            ASSERT_LE(e.history.UndoCount() + e.history.RedoCount(), kHistoryRecords);
-        }
-    }
 }
 
 }  // namespace
