@@ -1,5 +1,6 @@
 #pragma once
-// A temporary folder that cleans up after itself, and whole-file reads and writes.
+// A temporary folder that cleans up after itself, whole-file reads and writes, and a snapshot of
+// a folder.
 #include <gtest/gtest.h>
 #include <stdlib.h>
 
@@ -50,6 +51,22 @@ inline void WriteFile(const std::filesystem::path& path, const std::string& byte
 inline std::string ReadFile(const std::filesystem::path& path) {
     std::ifstream in(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+// What a folder holds, every file with its bytes, and what each other entry is: equal snapshots
+// mean nothing was moved, created or changed.
+inline std::string Snapshot(const std::filesystem::path& folder) {
+    std::string all;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+        all += entry.path().string();
+        if (entry.is_regular_file()) {
+            all.append(1, '=').append(ReadFile(entry.path()));
+        } else {
+            all += entry.is_directory() ? '/' : '*';
+        }
+        all += '\n';
+    }
+    return all;
 }
 
 }  // namespace brinto::test

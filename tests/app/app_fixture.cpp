@@ -1,5 +1,6 @@
 #include "app_fixture.h"
 
+#include <QMenuBar>
 #include <cstdio>
 
 #include "display/display_text.h"
@@ -14,6 +15,15 @@ std::string CommandOutput(const std::string& command) {
         pclose(pipe);
     }
     return out;
+}
+
+QAction* MenuEntry(MainWindow& window, const char* entry) {
+    for (QAction* menu : window.menuBar()->actions()) {
+        for (QAction* a : menu->menu()->actions()) {
+            if (a->text() == QString::fromLatin1(entry)) return a;
+        }
+    }
+    return nullptr;
 }
 
 std::string Desk::XLine() {

@@ -14,6 +14,8 @@ namespace brinto::test {
 
 // What a shell command writes on its standard output.
 std::string CommandOutput(const std::string& command);
+// The entry of the window's menus with caption `entry`, or nullptr.
+QAction* MenuEntry(MainWindow& window, const char* entry);
 
 class RecordingHost : public WindowHost {
 public:

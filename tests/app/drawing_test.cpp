@@ -51,16 +51,15 @@ TEST(Drawing, EveryThemeDrawsLegibleKeysAndDisplayAtTwoSizes) {
                 while (index < keys->KeyCount() && keys->ActiveId(index) != id) ++index;
                 ASSERT_LT(index, keys->KeyCount());
                 const KeyColours& c = colours.Key(KeyClassOf(id));
-                EXPECT_GE(ContrastRatio(c.face, c.text), 3.0) << theme << ' ' << ToNumber(id);
                 const QRect face = InWindow(desk, keys, keys->CellRect(index));
                 const int ink = CountInk(image, face, ToQColor(c.text), ToQColor(c.face));
                 EXPECT_GT(ink, face.width() * face.height() / 100) << theme << ' ' << ToNumber(id) << ' ' << size.width();
                 EXPECT_LT(ink, face.width() * face.height() / 2) << theme << ' ' << ToNumber(id) << ' ' << size.width();
             }
-            // X is drawn in its colour, large enough to read.
+            // X is drawn in its colour, large enough to read. (The colours' contrast is the screen
+            // colours' test; this one checks the pixels.)
             const QRect display = InWindow(desk, desk.window.display(), desk.window.display()->rect());
             const QColor valueColour = ToQColor(ValueTextColour(colours, ValueTag::None, -12345.0));
-            EXPECT_GE(ContrastRatio(colours.displayBackground, ValueTextColour(colours, ValueTag::None, -12345.0)), 3.0) << theme;
             const int ink = CountInk(image, display, valueColour, ToQColor(colours.displayBackground));
             EXPECT_GT(ink, 150 * size.width() / 240) << theme << ' ' << size.width();
         }

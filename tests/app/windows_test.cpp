@@ -1,4 +1,4 @@
-// The secondary windows as the main window opens them: menu entries, shortcuts, display taps, the
+// The secondary windows as the main window opens them: the menus in order, their entries, shortcuts, display taps, the
 // Action button, and the theme the "Preferences" sheet leaves behind.
 #include <gtest/gtest.h>
 
@@ -14,15 +14,6 @@
 
 namespace brinto::test {
 namespace {
-
-QAction* MenuEntry(MainWindow& window, const QString& text) {
-    for (QAction* menu : window.menuBar()->actions()) {
-        for (QAction* entry : menu->menu()->actions()) {
-            if (entry->text() == text) return entry;
-        }
-    }
-    return nullptr;
-}
 
 // The titles of the windows shown besides the main window.
 QStringList OpenWindows(const MainWindow& window) {
@@ -64,11 +55,20 @@ TEST(Windows, EachOpensFromItsMenuEntryAndShortcut) {
         {nullptr, QKeySequence(Qt::Key_F1), "Brinto Help"},
     };
     Desk desk;
+    QStringList menus;  // every menu with its entries, in order
+    for (QAction* m : desk.window.menuBar()->actions()) {
+        menus << m->text() + QLatin1Char(':');
+        for (QAction* a : m->menu()->actions()) menus << (a->isSeparator() ? QStringLiteral("-") : a->text());
+    }
+    EXPECT_EQ(menus.join(QLatin1Char('|')).toStdString(),
+              "View:|Basic|Advanced|-|Stack...|User Registers...|Constants...|TVM...|Amortization...|"
+              "Cash Flow...|Statistical...|-|Enter Date...|Enter Time...|Durations...|Edit:|Undo|Redo|-|Cut|Copy|"
+              "Paste|Options:|Preferences...|Keyboard...|-|About Brinto...|-|Quit");
     // Nothing is made before it is first wanted.
     EXPECT_EQ(desk.window.openedDialogs(), nullptr);
     for (const Row& row : rows) {
         if (row.entry) {
-            QAction* entry = MenuEntry(desk.window, QString::fromLatin1(row.entry));
+            QAction* entry = MenuEntry(desk.window, row.entry);
             ASSERT_NE(entry, nullptr) << row.entry;
             EXPECT_EQ(entry->shortcut(), row.shortcut) << row.entry;
             entry->trigger();
@@ -108,7 +108,7 @@ TEST(Windows, DisplayTapsAndTheActionButtonOpenTheirTarget) {
     CloseWindows(desk);
 
     // An open Stack view follows the keys typed on the main window.
-    MenuEntry(desk.window, QStringLiteral("Stack..."))->trigger();
+    MenuEntry(desk.window, "Stack...")->trigger();
     desk.Type("7");
     QStringList lines;
     for (QListWidget* list : desk.window.findChildren<QListWidget*>()) {
@@ -120,7 +120,7 @@ TEST(Windows, DisplayTapsAndTheActionButtonOpenTheirTarget) {
 TEST(Windows, PreferencesThemeIsAppliedAfterOk) {
     Desk desk;
     const ScreenColours before = desk.window.colours();
-    MenuEntry(desk.window, QStringLiteral("Preferences..."))->trigger();
+    MenuEntry(desk.window, "Preferences...")->trigger();
     auto* sheet = qobject_cast<dialogs::PreferencesDialog*>(QApplication::activeModalWidget());
     ASSERT_NE(sheet, nullptr);
     auto* theme = sheet->findChild<QComboBox*>(QStringLiteral("Theme:"));

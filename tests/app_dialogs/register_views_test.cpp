@@ -168,6 +168,7 @@ private slots:
             {dialogs::View::Tvm, "tvm"},           {dialogs::View::Amortization, "amortization"},
             {dialogs::View::Statistical, "statistical"}, {dialogs::View::UserRegisters, "userregisters"},
             {dialogs::View::Stack, "rpnstack"},   {dialogs::View::Constants, "constants"},
+            {dialogs::View::Preferences, "prefs"}, {dialogs::View::Keyboard, "keyboard"},
         };
         for (const auto& [view, anchor] : views) {
             QWidget* window = run.dialogs.Open(view);

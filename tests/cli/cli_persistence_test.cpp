@@ -115,32 +115,27 @@ TEST_F(CliPersistence, ADamagedFileIsKeptAsideWithOneWarning) {
     EXPECT_EQ(Cli({"--db", Db(), "1", "="}).out, "7.\n");
 }
 
-// A --db that names no regular file, or a file that cannot be read or written, is trouble: the
-// run goes on in memory, one line says so, the exit status is 1, and nothing is touched.
+// Trouble with the file, met at the start (here a pipe; the store tells each kind apart) or at
+// the save (a full disk): the run goes on in memory, one line says so, the exit status is 1, and
+// nothing is touched.
 TEST_F(CliPersistence, TroubleSaysOneLineExitsOneAndTouchesNothing) {
-    std::filesystem::create_directories(folder / "folder");
-    WriteFile(folder / "folder" / "keep", "the user's file");
     ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
     Cli({"--db", Db(), "9", "+"});
     const std::tuple<const char*, std::string, std::string> cases[] = {  // name, --db, shell limits
-        {"a folder", (folder / "folder").string(), ""},
         {"a pipe", (folder / "pipe").string(), ""},
-        {"a device", "/dev/null", ""},
-        {"a missing folder", (folder / "none" / "calc.db").string(), ""},
         {"a full disk", Db(), "ulimit -f 1; "},
     };
     for (const auto& [name, db, limits] : cases) {
         SCOPED_TRACE(name);
-        const std::string before = ReadFile(Db()) + ReadFile(folder / "folder" / "keep");
+        const std::string before = ReadFile(Db());
         const CliRun run = Cli({"--db", db, "6", "+"}, limits);
         EXPECT_EQ(run.status, 1);
         EXPECT_EQ(run.out, "6.\n");
         EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
         EXPECT_NE(run.err.find("nothing will be saved"), std::string::npos) << run.err;
-        EXPECT_TRUE(ReadFile(Db()) + ReadFile(folder / "folder" / "keep") == before);
+        EXPECT_TRUE(ReadFile(Db()) == before);
     }
     EXPECT_TRUE(std::filesystem::is_fifo(folder / "pipe"));
-    EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
     EXPECT_EQ(Cli({"--db", Db(), "1", "="}).out, "10.\n");
 }
 

@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <tuple>
+#include <vector>
+
 #include "engine/register_keys.h"
 #include "engine_test_support.h"
 
@@ -32,16 +35,11 @@ TEST(Dispatcher, BackspaceWithHyperbolicPrefixOnlyCancelsIt) {
     EXPECT_EQ(e.X(), 4.0);
 }
 
-TEST(Dispatcher, BackspaceOutsideAnEntryClearsXOrDrops) {
+TEST(Dispatcher, BackspaceOutsideAnEntryDropsWhenThePreferenceSaysSo) {
     Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {4, fid::Enter, 5, fid::Add, fid::Backspace});
-    EXPECT_EQ(e.X(), 0.0);
-    EXPECT_FALSE(e.LiftEnabled());  // acts as Clear X: the next number replaces the zero
-    Press(e, {3});
-    EXPECT_EQ(e.Y(), 0.0);
     e.prefs.SetBackspaceDrops(true);
-    Press(e, {fid::Enter, 9, fid::Enter, fid::Backspace});
-    EXPECT_EQ(e.X(), 9.0);
+    Press(e, {4, fid::Enter, 9, fid::Enter, fid::Backspace});
+    EXPECT_EQ(std::pair(e.X(), e.Y()), std::pair(9.0, 4.0));
 }
 
 TEST(Dispatcher, ChangeSignOutsideEntryKeepsOnlyUnitTags) {
@@ -61,53 +59,34 @@ TEST(Dispatcher, ChangeSignOutsideEntryKeepsOnlyUnitTags) {
 TEST(Dispatcher, UnknownKeyIsNotAcceptedAndChangesNothing) {
     Engine e = MakeEngine(InputMethod::Rpn);
     Press(e, {1, 2});
+    const int steps = e.history.UndoCount();
     EXPECT_FALSE(e.Dispatch(FunctionIdFrom(9999)));
     EXPECT_EQ(e.state.lastCommand, fid::Digit2);
+    EXPECT_EQ(e.history.UndoCount(), steps);  // not an undo step either
 }
 
-TEST(Dispatcher, ModeKeysKeepTheLiftState) {
+// Standard lasts one key, Sticky until pressed again, Locking holds on a double press.
+TEST(ShiftKeys, EachModeKeepsTheShiftAsLongAsItSays) {
+    const std::tuple<ShiftMode, std::vector<test::Key>, bool> cases[] = {
+        {ShiftMode::Standard, {fid::Shift}, true},
+        {ShiftMode::Standard, {fid::Shift, 1}, false},
+        {ShiftMode::Sticky, {fid::Shift, 2, 3}, true},
+        {ShiftMode::Sticky, {fid::Shift, 2, 3, fid::Shift}, false},
+        {ShiftMode::Locking, {fid::Shift, fid::Shift, 1, 2}, true},
+        {ShiftMode::Locking, {fid::Shift, fid::Shift, 1, 2, fid::Shift}, false},
+    };
+    for (const auto& [mode, keys, shifted] : cases) {
+        SCOPED_TRACE(testing::Message() << "mode " << static_cast<int>(mode) << ", " << keys.size() << " keys");
+        Engine e = MakeEngine(InputMethod::Rpn);
+        e.prefs.SetShift(mode);
+        for (const test::Key k : keys) e.Dispatch(k.id);
+        EXPECT_EQ(static_cast<bool>(e.state.status & status::FirstShift), shifted);
+    }
     Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {3, fid::Enter, fid::Radians, 4});
-    EXPECT_EQ(e.Angle(), AngleUnit::Radians);
-    EXPECT_EQ(e.Y(), 3.0);
-    EXPECT_EQ(e.state.stack[2], 0.0);  // 4 replaced the copy left by Enter
-    Press(e, {fid::BeginEnd});
-    EXPECT_TRUE(e.state.engineFlags & flags::Begin);
-}
-
-TEST(ShiftKeys, StandardLastsOneKeyStickyUntilPressedAgain) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    e.Dispatch(fid::Shift);
-    EXPECT_TRUE(e.state.status & status::FirstShift);
-    e.Dispatch(fid::Digit1);
-    EXPECT_FALSE(e.state.status & status::FirstShift);
-
-    e.prefs.SetShift(ShiftMode::Sticky);
-    e.Dispatch(fid::Shift);
-    e.Dispatch(fid::Digit2);
-    e.Dispatch(fid::Digit3);
-    EXPECT_TRUE(e.state.status & status::FirstShift);
-    e.Dispatch(fid::Shift);
-    EXPECT_FALSE(e.state.status & status::FirstShift);
-}
-
-TEST(ShiftKeys, LockingHoldsOnADoublePress) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    e.prefs.SetShift(ShiftMode::Locking);
-    Press(e, {fid::Shift, fid::Shift, 1, 2});
-    EXPECT_TRUE(e.state.status & status::FirstShift);
-    e.Dispatch(fid::Shift);
-    EXPECT_FALSE(e.state.status & status::FirstShift);
     Press(e, {fid::SecondShift});
     EXPECT_TRUE(e.state.viewFlags & view::SecondShift);
     Press(e, {fid::FirstShift});
     EXPECT_FALSE(e.state.viewFlags & view::SecondShift);
-}
-
-TEST(ShiftKeys, ShiftDoesNotEndTheEntry) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {1, fid::Shift, 2});
-    EXPECT_EQ(e.X(), 12.0);
 }
 
 TEST(RegisterKeys, StoreRecallAndArithmetic) {
@@ -152,16 +131,6 @@ TEST(RegisterKeys, EntryStaysOpenAcrossThePrefix) {
     EXPECT_TRUE(e.LiftEnabled());
 }
 
-TEST(RegisterKeys, BackspaceCancelsAndOtherKeysCancelThenAct) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {5, fid::Enter, fid::Store, fid::Backspace});
-    EXPECT_EQ(e.state.pendingArgument, kNoPendingArgument);
-    EXPECT_EQ(e.X(), 5.0);
-    Press(e, {fid::Store, fid::Swap});
-    EXPECT_EQ(e.state.pendingArgument, kNoPendingArgument);
-    EXPECT_EQ(e.Y(), 5.0);  // the swap happened
-}
-
 TEST(RegisterKeys, FinancialKeysNameTheirRegisters) {
     Engine e = MakeEngine(InputMethod::Rpn);
     Press(e, {fid::Recall, fid::PYr});
@@ -194,16 +163,6 @@ TEST(RegisterClears, KeysClearTheirGroups) {
     EXPECT_EQ(e.X(), 30.0);
     EXPECT_EQ(e.XTag(), ValueTag::FramesPerSecond);
     EXPECT_EQ(e.registers.values[reg::DaysPerYear], 365.25);
-}
-
-TEST(RegisterClears, ClearAllClearsRegistersStackAndMacro) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {fid::MacroRecord, 1, fid::MacroStop, 5, fid::Store, 7, fid::Enter});
-    e.Dispatch(fid::ClearAll);
-    EXPECT_EQ(e.registers.values[7], 0.0);
-    EXPECT_EQ(e.macro.macroLength, 0);
-    EXPECT_EQ(e.X(), 0.0);
-    EXPECT_EQ(e.Y(), 0.0);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <vector>
 
 #include "engine_test_support.h"
@@ -14,12 +15,15 @@ struct MethodCase {
     InputMethod method;
     std::vector<test::Key> keys;
     double x;
+    double y = NAN;  // not checked unless given
 };
 
 constexpr FunctionId Plus = fid::Add, Minus = fid::Subtract, Times = fid::Multiply, By = fid::Divide,
                      Eq = fid::Equals, Open = fid::OpenParen, Close = fid::CloseParen;
 
-TEST(InputMethods, KeySequencesLeaveExpectedX) {
+// Where a key must leave the stack lift alone, enable it or disable it, the row ends with keys
+// whose result differs in each case.
+TEST(InputMethods, KeySequencesLeaveExpectedXAndY) {
     const MethodCase cases[] = {
         {"simple left to right", InputMethod::Simple, {2, Plus, 3, Times, 5, Eq}, 25},
         {"precedence", InputMethod::Precedence, {2, Plus, 3, Times, 5, Eq}, 17},
@@ -38,29 +42,29 @@ TEST(InputMethods, KeySequencesLeaveExpectedX) {
         {"percent change", InputMethod::Rpn, {5, 0, fid::Enter, 7, 5, fid::PercentChange}, 50},
         {"x-th root", InputMethod::Rpn, {2, 7, fid::Enter, 3, fid::XRoot}, 3},
         {"modulo", InputMethod::Rpn, {7, fid::Enter, 3, fid::Modulo}, 1},
+        {"percent change keeps the base in Y", InputMethod::Rpn, {2, 0, fid::Enter, 2, 5, fid::PercentChange}, 25, 20},
+        {"equals with nothing pending", InputMethod::Simple, {5, Eq}, 5, 0},
+        {"switching methods keeps the stack", InputMethod::Simple, {4, fid::MethodRpn, fid::Enter, 5, Plus}, 9},
+        {"shift does not end the entry", InputMethod::Rpn, {1, fid::Shift, 2}, 12},
+        {"enter disables the lift", InputMethod::Rpn, {7, fid::Enter, 8, Plus}, 15, 0},
+        {"an operation enables it", InputMethod::Rpn, {7, fid::Enter, 8, Plus, 2}, 2, 15},
+        {"mode keys keep the lift state", InputMethod::Rpn, {3, fid::Enter, fid::Radians, 4, Plus}, 7, 0},
+        {"last x lifts", InputMethod::Rpn, {6, fid::Enter, 2, By, fid::LastX}, 2, 3},
+        {"last x replaces a cleared x", InputMethod::Rpn, {6, fid::Enter, 2, By, fid::LastX, fid::ClearX, fid::LastX}, 2, 3},
+        {"backspace outside an entry clears x, lift disabled", InputMethod::Rpn,
+         {1, fid::Enter, 4, fid::Enter, 5, Plus, fid::Backspace, 3, Plus}, 4},
+        {"backspace cancels a register prefix", InputMethod::Rpn, {5, fid::Enter, fid::Store, fid::Backspace, 7}, 7, 5},
+        {"another key cancels it, then acts", InputMethod::Rpn, {5, fid::Enter, 3, fid::Store, fid::Swap}, 5, 3},
     };
     for (const MethodCase& c : cases) {
         SCOPED_TRACE(c.name);
         Engine e = MakeEngine(c.method);
         for (const test::Key k : c.keys) e.Dispatch(k.id);
         EXPECT_DOUBLE_EQ(e.X(), c.x);
+        if (!std::isnan(c.y)) {
+            EXPECT_DOUBLE_EQ(e.Y(), c.y);
+        }
     }
-}
-
-TEST(InputMethods, EqualsWithNothingPendingAndNoOperatorChangesNothing) {
-    Engine e = MakeEngine(InputMethod::Simple);
-    e.Dispatch(fid::Digit5);
-    const CalcState before = e.state;
-    e.Dispatch(fid::Equals);
-    EXPECT_EQ(e.X(), before.stack[0]);
-    EXPECT_EQ(e.Y(), before.stack[1]);
-    EXPECT_EQ(e.state.pendingCount, 0);
-}
-
-TEST(InputMethods, PercentChangeKeepsTheBaseInYUnderRpn) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    test::Press(e, {2, 0, fid::Enter, 2, 5, fid::PercentChange});
-    EXPECT_EQ(e.Y(), 20.0);
 }
 
 TEST(InputMethods, PendingStackRefusesTheFortyFirstEntry) {
@@ -74,13 +78,6 @@ TEST(InputMethods, PendingStackRefusesTheFortyFirstEntry) {
     EXPECT_FALSE(e.Dispatch(fid::Add));  // cannot wait either
     EXPECT_EQ(e.state.pendingCount, kMaxPending);
     EXPECT_EQ(before.pendingCount, kMaxPending);
-}
-
-TEST(InputMethods, SwitchingMethodsKeepsTheStack) {
-    Engine e = MakeEngine(InputMethod::Simple);
-    test::Press(e, {4, fid::MethodRpn, fid::Enter, 5, Plus});
-    EXPECT_EQ(e.X(), 9.0);
-    EXPECT_TRUE(e.IsRpn());
 }
 
 }  // namespace

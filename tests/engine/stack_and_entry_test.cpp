@@ -3,6 +3,7 @@
 #include <cstring>
 #include <limits>
 #include <string>
+#include <string_view>
 
 #include "engine/number_entry.h"
 #include "engine_test_support.h"
@@ -71,26 +72,6 @@ TEST(Stack, ClearStackResetsAllTwentyLevels) {
     }
 }
 
-TEST(Stack, EnterDisablesLiftSoTheNextNumberReplacesTheCopy) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {7, fid::Enter, 8});
-    EXPECT_EQ(e.X(), 8.0);
-    EXPECT_EQ(e.Y(), 7.0);
-    EXPECT_EQ(e.state.stack[2], 0.0);
-    Press(e, {fid::Add, 2});  // after an operation lift is enabled: 15 goes up
-    EXPECT_EQ(e.Y(), 15.0);
-}
-
-TEST(Stack, LastXLiftsUnlessLiftIsDisabled) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {6, fid::Enter, 2, fid::Divide, fid::LastX});
-    EXPECT_EQ(e.X(), 2.0);
-    EXPECT_EQ(e.Y(), 3.0);
-    Press(e, {fid::ClearX, fid::LastX});  // lift disabled: X is replaced
-    EXPECT_EQ(e.X(), 2.0);
-    EXPECT_EQ(e.Y(), 3.0);
-}
-
 struct EntryCase {
     const char* name;
     std::vector<test::Key> keys;
@@ -156,14 +137,37 @@ TEST(NumberEntry, IntegerBasesReadA32BitWordAsSigned) {
     EXPECT_EQ(ParseEntryText("1e999", 0), std::numeric_limits<double>::infinity());
 }
 
-TEST(NumberEntry, DigitsLeaveSmallerBases) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    e.state.status |= 4;
-    Press(e, {fid::BaseOctal, 7, 8});
-    EXPECT_EQ(e.EntryBase(), 0);
-    EXPECT_EQ(e.X(), 78.0);
-    Press(e, {fid::ClearX, fid::BaseBinary, 1, 2});
-    EXPECT_EQ(e.EntryBase(), 0);
+// On the programmer keyboard a letter A-F switches decimal entry to hexadecimal. A decimal number
+// that already holds a point or an exponent cannot be read in hexadecimal, so there the letter
+// must be refused instead of turning "85.5e" into the text "85.5eA" and X into nonsense. A digit
+// that a smaller base lacks switches the entry back to decimal.
+TEST(IntegerEntry, SwitchesOnlyNumbersThatHaveAReadingInTheNewBase) {
+    struct Case {
+        std::string_view name;
+        std::vector<test::Key> keys;
+        std::string_view text;
+        double x;
+        u16 base;
+    };
+    const Case cases[] = {
+        {"plainDigitsSwitch", {8, 5, fid::HexA}, "85A", 0x85A, status::BaseHex},
+        {"negativeDigitsSwitch", {8, 5, fid::ChangeSign, fid::HexA}, "-85A", -0x85A, status::BaseHex},
+        {"pointRefused", {8, 5, fid::Point, 5, fid::HexA}, "85.5", 85.5, 0},
+        {"exponentRefused", {8, 5, fid::Point, 5, fid::Exponent, fid::HexA}, "85.5e", 85.5, 0},
+        {"bareExponentRefused", {fid::Exponent, 2, fid::HexF}, "1e2", 100.0, 0},
+        {"freshEntrySwitches", {fid::HexA, fid::HexB}, "AB", 0xAB, status::BaseHex},
+        {"eightLeavesOctal", {fid::BaseOctal, 7, 8}, "78", 78, 0},
+        {"twoLeavesBinary", {fid::BaseBinary, 1, 2}, "12", 12, 0},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        Engine e = MakeEngine(InputMethod::Rpn);
+        e.state.status = static_cast<u16>((e.state.status & ~status::KeyboardMask) | 4);  // programmer
+        for (const test::Key k : c.keys) e.Dispatch(k.id);
+        EXPECT_EQ(std::string_view(e.state.entryText), c.text);
+        EXPECT_EQ(e.X(), c.x);
+        EXPECT_EQ(e.EntryBase(), c.base);
+    }
 }
 
 TEST(NumberEntry, IntegerBaseIsDroppedOffTheProgrammerKeyboard) {

@@ -33,16 +33,7 @@ protected:
         setenv("XDG_DATA_HOME", (folder / "data").c_str(), 1);
         setenv("XDG_CONFIG_HOME", (folder / "config").c_str(), 1);
     }
-    // What the folder holds, every file with its bytes.
-    std::string Snapshot() const {
-        std::string all;
-        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.path())) {
-            all += entry.path().string();
-            if (entry.is_regular_file()) all.append(1, '=').append(ReadFile(entry.path()));
-            all += '\n';
-        }
-        return all;
-    }
+    std::string Snapshot() const { return test::Snapshot(folder.path()); }
 
     TempFolder folder;
     std::filesystem::path db = folder / "calc.db";

@@ -26,13 +26,36 @@ struct Fixture {
     }
 };
 
-TEST(Session, UnassignedKeyShowsNoFunction) {
-    Fixture f;
-    f.session.SelectKeyboard(kUserKeyboard);
-    EXPECT_FALSE(f.session.TapBlockKey(1));
-    ASSERT_EQ(f.host.messages.size(), 1u);
-    EXPECT_EQ(f.host.messages[0].caption, "No Function");
-    EXPECT_EQ(f.host.messages[0].text, "The Keyboard dialog can be used to assign a function to this button.");
+// Each refusal the user can meet shows its own caption and text, once.
+TEST(Session, MessagesNameWhatCannotBeDone) {
+    using Steps = void (*)(Fixture&);
+    const std::tuple<Steps, const char*, const char*> cases[] = {
+        {[](Fixture& f) { f.session.Undo(); }, "Nothing to Undo", "There are no operations to be undone."},
+        {[](Fixture& f) { f.session.Redo(); }, "Nothing to Redo", "There are no undo actions to be redone."},
+        {[](Fixture& f) {
+             f.session.SelectKeyboard(kUserKeyboard);
+             EXPECT_FALSE(f.session.TapBlockKey(1));
+         },
+         "No Function", "The Keyboard dialog can be used to assign a function to this button."},
+        {[](Fixture& f) {
+             for (const FunctionId key : {fid::MacroRecord, fid::MacroStop, fid::MacroPlay}) f.session.Tap(key);
+         },
+         "No Macro", "A macro must be recorded before it can be played back."},
+        {[](Fixture& f) {
+             f.session.Tap(fid::MacroRecord);
+             for (int i = 0; i < 61; ++i) f.session.Tap(fid::Swap);
+             EXPECT_FALSE(f.session.Tap(fid::Swap));
+         },
+         "Macro Length Exceeded", "The macro length has been exceeded and the last key could not be recorded."},
+    };
+    for (const auto& [steps, caption, text] : cases) {
+        SCOPED_TRACE(caption);
+        Fixture f;
+        steps(f);
+        ASSERT_EQ(f.host.messages.size(), 1u);
+        EXPECT_EQ(f.host.messages[0].caption, caption);
+        EXPECT_EQ(f.host.messages[0].text, text);
+    }
 }
 
 TEST(Session, ClearAllAsksFirst) {
@@ -48,28 +71,8 @@ TEST(Session, ClearAllAsksFirst) {
     EXPECT_EQ(f.engine.registers.values[1], 0.0);
 }
 
-TEST(Session, UndoAndRedoMessages) {
-    Fixture f;
-    f.session.Undo();
-    f.session.Redo();
-    ASSERT_EQ(f.host.messages.size(), 2u);
-    EXPECT_EQ(f.host.messages[0].caption, "Nothing to Undo");
-    EXPECT_EQ(f.host.messages[0].text, "There are no operations to be undone.");
-    EXPECT_EQ(f.host.messages[1].caption, "Nothing to Redo");
-    EXPECT_EQ(f.host.messages[1].text, "There are no undo actions to be redone.");
-}
-
-TEST(Session, UndoKeepsTheLastCommand) {
-    Fixture f;
-    f.Type("2");
-    f.session.Tap(fid::Enter);
-    f.session.Undo();
-    EXPECT_EQ(f.engine.state.lastCommand, fid::Enter);
-    f.session.Redo();
-    EXPECT_EQ(f.engine.state.lastCommand, fid::Enter);
-}
-
-TEST(Session, UndoSelectsTheRestoredKeyboard) {
+// Undo brings back the keyboard of the step, but not the last command a repeat would send.
+TEST(Session, UndoSelectsTheRestoredKeyboardAndKeepsTheLastCommand) {
     Fixture f;
     f.session.SelectKeyboard(2);
     f.Type("5");
@@ -77,23 +80,9 @@ TEST(Session, UndoSelectsTheRestoredKeyboard) {
     f.session.SelectKeyboard(1);
     f.session.Undo();
     EXPECT_EQ(f.engine.Keyboard(), 2);
-}
-
-TEST(Session, MacroMessages) {
-    Fixture f;
-    f.session.Tap(fid::MacroRecord);
-    f.session.Tap(fid::MacroStop);
-    f.session.Tap(fid::MacroPlay);
-    ASSERT_EQ(f.host.messages.size(), 1u);
-    EXPECT_EQ(f.host.messages[0].caption, "No Macro");
-    EXPECT_EQ(f.host.messages[0].text, "A macro must be recorded before it can be played back.");
-
-    f.session.Tap(fid::MacroRecord);
-    for (int i = 0; i < 61; ++i) f.session.Tap(fid::Swap);
-    EXPECT_FALSE(f.session.Tap(fid::Swap));
-    ASSERT_EQ(f.host.messages.size(), 2u);
-    EXPECT_EQ(f.host.messages[1].caption, "Macro Length Exceeded");
-    EXPECT_EQ(f.host.messages[1].text, "The macro length has been exceeded and the last key could not be recorded.");
+    EXPECT_EQ(f.engine.state.lastCommand, fid::Enter);
+    f.session.Redo();
+    EXPECT_EQ(f.engine.state.lastCommand, fid::Enter);
 }
 
 TEST(Session, HardwareKeys) {
@@ -108,30 +97,10 @@ TEST(Session, HardwareKeys) {
     EXPECT_EQ(f.host.beeps, 1);
     f.Type("A");  // a hexadecimal digit off the programmer keyboard is rejected
     EXPECT_EQ(f.host.beeps, 2);
-}
-
-TEST(Session, HardwareEIsAHexDigitInIntegerBases) {
-    Fixture f;
     f.session.SelectKeyboard(kProgrammerKeyboard);
     f.session.Tap(fid::BaseHex);
-    f.Type("1E");
+    f.Type("1E");  // E is a digit here, not the exponent
     EXPECT_EQ(f.engine.X(), 30.0);
-}
-
-TEST(Session, ArrowsSwitchKeyboardsAndViews) {
-    Fixture f;
-    f.session.Special(SpecialKey::Up);
-    EXPECT_EQ(f.engine.Keyboard(), 8);
-    f.session.Special(SpecialKey::Down);
-    EXPECT_EQ(f.engine.Keyboard(), 0);
-    f.session.Special(SpecialKey::Left);
-    EXPECT_EQ(f.engine.state.viewFlags & view::ModeMask, view::Basic);
-    f.session.Special(SpecialKey::Down);  // keyboards do not change in the Basic view
-    EXPECT_EQ(f.engine.Keyboard(), 0);
-    f.session.Special(SpecialKey::Right);
-    EXPECT_EQ(f.engine.state.viewFlags & view::ModeMask, 0);
-    f.session.SelectKeyboard(9);
-    EXPECT_EQ(f.engine.Keyboard(), 0);
 }
 
 TEST(Session, ActionButtonChoices) {
@@ -146,6 +115,12 @@ TEST(Session, ActionButtonChoices) {
     f.Type("2");
     f.session.ActionButton();  // repeats the last command, "*"
     EXPECT_EQ(f.engine.PendingTop(), fid::Multiply);
+    f.engine.prefs.SetAction(ActionChoice::OpenLastForm);
+    f.session.SetLastView(View::Amortization);
+    f.session.ActionButton();
+    f.engine.state.lastView = 99;  // a damaged record names no view
+    f.session.ActionButton();
+    EXPECT_EQ(f.host.opened, (std::vector<View>{View::Amortization, View::Preferences}));
 }
 
 TEST(Session, BlockKeysFollowTheShiftAndRemap) {
@@ -166,6 +141,11 @@ TEST(Session, BlockKeysFollowTheShiftAndRemap) {
 
 TEST(Session, CopyCutAndPaste) {
     Fixture f;
+    f.Type("12");
+    f.session.PasteText("5");  // completes the number being typed
+    EXPECT_EQ(std::pair(f.engine.X(), f.engine.Y()), std::pair(5.0, 12.0));
+    f.Type("+");
+    EXPECT_EQ(f.engine.X(), 17.0);
     f.Type("1234.5");
     f.session.Tap(fid::Enter);
     f.session.Copy();
@@ -182,38 +162,20 @@ TEST(Session, CopyCutAndPaste) {
     EXPECT_EQ(f.engine.X(), 3.0);
     f.session.PasteText("7,25e1 and more");
     EXPECT_EQ(f.engine.X(), 72.5);
-    const double before = f.engine.X();
     f.session.PasteText("no digits");
-    EXPECT_EQ(f.engine.X(), before);
-}
+    EXPECT_EQ(f.engine.X(), 72.5);
 
-TEST(Session, PasteCompletesATypedNumberInRpn) {
-    Fixture f;
-    f.Type("12");
-    f.session.PasteText("5");
-    EXPECT_EQ(f.engine.X(), 5.0);
-    EXPECT_EQ(f.engine.Y(), 12.0);
-    f.Type("+");
-    EXPECT_EQ(f.engine.X(), 17.0);
-}
+    f.host.clipboard.reset();
+    f.Type("0/");
+    ASSERT_TRUE(IsErrorValue(f.engine.X()));
+    f.session.Copy();  // an error copies nothing
+    EXPECT_FALSE(f.host.clipboard.has_value());
 
-TEST(Session, PasteReadsTheCurrentBase) {
-    Fixture f;
     f.session.SelectKeyboard(kProgrammerKeyboard);
     f.session.Tap(fid::BaseHex);
     f.session.PasteText("x1f");  // the text counts from its first decimal digit
     EXPECT_EQ(f.engine.X(), 31.0);
     EXPECT_EQ(f.engine.XTag(), ValueTag::S32);  // the default format, s32
-}
-
-TEST(Session, CopyOfAnErrorCopiesNothing) {
-    Fixture f;
-    f.Type("1");
-    f.session.Tap(fid::Enter);
-    f.Type("0/");
-    ASSERT_TRUE(IsErrorValue(f.engine.X()));
-    f.session.Copy();
-    EXPECT_FALSE(f.host.clipboard.has_value());
 }
 
 // The "Preferences" sheet's OK sends the input method's key exactly once, changed or not: a
@@ -325,16 +287,6 @@ TEST(SessionCommands, RegisterViewEditsAreRefusedOutsideTheirRange) {
     f.engine.state.status |= status::FullDisplay;
     f.session.TapViewKey(fid::Swap);
     EXPECT_FALSE(f.engine.state.status & status::FullDisplay);
-}
-
-TEST(SessionCommands, OpenLastFormOpensTheRememberedView) {
-    Fixture f;
-    f.engine.prefs.SetAction(ActionChoice::OpenLastForm);
-    f.session.SetLastView(View::Amortization);
-    f.session.ActionButton();
-    f.engine.state.lastView = 99;  // a damaged record names no view
-    f.session.ActionButton();
-    EXPECT_EQ(f.host.opened, (std::vector<View>{View::Amortization, View::Preferences}));
 }
 
 }  // namespace

@@ -141,21 +141,6 @@ TEST(DamagedFile, EachGoesAsideWithItsJournal) {
                                                 RandomBytes(5000, 6) + RandomBytes(5000, 7)}));
 }
 
-// What the folder holds, every file with its bytes, and what each other entry is.
-std::string Snapshot(const std::filesystem::path& folder) {
-    std::string all;
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
-        all += entry.path().string();
-        if (entry.is_regular_file()) {
-            all.append(1, '=').append(ReadFile(entry.path()));
-        } else {
-            all += entry.is_directory() ? '/' : '*';
-        }
-        all += '\n';
-    }
-    return all;
-}
-
 // Trouble is not damage: a path that is no regular file, a missing folder, a lock held beyond the
 // wait. The store stays closed, nothing is moved, created or changed, and the warning is one line.
 TEST(StateFile, TroubleLeavesEverythingAsItWas) {
