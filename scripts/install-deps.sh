@@ -2,7 +2,7 @@
 # Installs whatever the build needs and this machine lacks (Debian packages only).
 set -euo pipefail
 packages=(cmake g++ make libgtest-dev libgmock-dev libbenchmark-dev libsqlite3-dev pkg-config
-  qt6-base-dev xvfb xauth)
+  qt6-base-dev libedit-dev xvfb xauth)
 packages+=("$@")
 missing=()
 for p in "${packages[@]}"; do

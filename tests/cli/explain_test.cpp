@@ -1,0 +1,186 @@
+// brinto-cli explains itself: its key listing, the interactive help and status, and the manual
+// pages that must say what --help says.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <map>
+#include <regex>
+#include <set>
+#include <sstream>
+
+#include "cli/cli.h"
+#include "cli_runner.h"
+#include "engine/key_table.h"
+#include "engine/keyboards.h"
+#include "session/key_legends.h"
+
+namespace brinto::test {
+namespace {
+
+std::vector<std::string> Lines(const std::string& text) {
+    std::vector<std::string> lines;
+    std::istringstream in(text);
+    for (std::string line; std::getline(in, line);) lines.push_back(line);
+    return lines;
+}
+
+std::string NameOf(FunctionId id) {
+    for (const KeyInfo& k : kKeyTable) {
+        if (k.id == id) return std::string(k.name);
+    }
+    return "#" + std::to_string(ToNumber(id));
+}
+
+std::string FirstWord(const std::string& line) { return line.substr(0, line.find(' ')); }
+
+std::string ReadFile(const std::filesystem::path& path) {
+    std::ifstream in(path);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+// Every key is listed with its code and with the legend and meaning the desktop program shows,
+// each built-in keyboard's section reads as its block does, and every alias is shown beside its key.
+TEST(Cli, ListKeysShowsEveryKeyAsTheKeyboardsDo) {
+    const RunResult r = RunCli({"--list-keys"});
+    ASSERT_EQ(r.exitCode, 0);
+    std::vector<std::string> headings;
+    std::map<std::string, std::vector<std::string>> sections;  // heading -> its lines
+    std::multimap<std::string, std::string> byName;
+    for (const std::string& line : Lines(r.out)) {
+        if (line.rfind("# ", 0) == 0) {
+            headings.push_back(line.substr(2));
+            continue;
+        }
+        ASSERT_FALSE(headings.empty()) << line;
+        sections[headings.back()].push_back(line);
+        byName.emplace(FirstWord(line), line);
+    }
+    for (const KeyInfo& k : kKeyTable) {
+        SCOPED_TRACE(std::string(k.name));
+        const auto [from, to] = byName.equal_range(std::string(k.name));
+        ASSERT_NE(from, to);
+        const KeyLegend* legend = FindLegend(k.id);
+        ASSERT_NE(legend, nullptr);
+        std::istringstream words(from->second);
+        std::string name, code, rest;
+        words >> name >> code >> std::ws;
+        std::getline(words, rest);
+        EXPECT_EQ(code, std::to_string(ToNumber(k.id)));
+        EXPECT_EQ(rest.substr(0, legend->legend.size()), legend->legend);
+        EXPECT_NE(from->second.find(std::string(legend->fullName)), std::string::npos) << from->second;
+    }
+    for (const KeyAlias& a : kKeyAliases) {
+        const auto key = std::find_if(kKeyTable.begin(), kKeyTable.end(), [&](const KeyInfo& k) { return k.id == a.id; });
+        ASSERT_NE(key, kKeyTable.end());
+        const auto line = byName.find(std::string(key->name));
+        ASSERT_NE(line, byName.end());
+        const std::size_t also = line->second.rfind(" (also ");
+        ASSERT_NE(also, std::string::npos) << line->second;
+        std::istringstream words(line->second.substr(also + 7, line->second.size() - also - 8));
+        const std::set<std::string> aliases{std::istream_iterator<std::string>(words), {}};
+        EXPECT_TRUE(aliases.count(std::string(a.name))) << a.name << " in " << line->second;
+    }
+    ASSERT_GE(headings.size(), 2 * kBuiltInKeyboards.size());
+    for (std::size_t k = 0; k < kBuiltInKeyboards.size(); ++k) {
+        const KeyboardLayout& layout = kBuiltInKeyboards[k];
+        EXPECT_EQ(headings[2 * k], std::string(layout.name));
+        EXPECT_EQ(headings[2 * k + 1], std::string(layout.name) + ", shifted");
+        for (const auto& [heading, block] : {std::pair{headings[2 * k], layout.unshifted},
+                                             std::pair{headings[2 * k + 1], layout.shifted}}) {
+            const std::vector<std::string>& lines = sections[heading];
+            ASSERT_EQ(lines.size(), block.size()) << heading;
+            for (std::size_t i = 0; i < block.size(); ++i) {
+                EXPECT_EQ(FirstWord(lines[i]), NameOf(block[i])) << heading << " key " << i + 1;
+            }
+        }
+    }
+    const std::string& commands = byName.find("undo")->second;
+    EXPECT_NE(commands.find("Undo"), std::string::npos);
+    EXPECT_NE(byName.find("const:0")->second.find("Avogadro's number, NA"), std::string::npos);
+    EXPECT_NE(byName.find("const:32")->second.find("Reference intensity, I0"), std::string::npos);
+}
+
+// At the prompt: a bad line runs nothing and says where the mistake is, the session goes on,
+// "status" and "help NAME" answer, a long number is cut with a warning, and the end of input
+// leaves on a fresh line.
+TEST(Cli, InteractiveCalculatorExplainsItself) {
+    std::istringstream in(
+        "rpn 2 enter 3 +\n"
+        "4 sinn\n"
+        "status\n"
+        "help sqrt x^2 const:7\n"
+        "help nosuch\n"
+        "kb:4 rad 123456789012345 enter\n"
+        "status\n");
+    std::ostringstream out, err;
+    EXPECT_EQ(brinto::RunCli({"--memory"}, in, true, out, err), 0);
+    const std::string o = out.str(), e = err.str();
+    // The stack is shown at the start and after the two lines that ran, not after the bad one.
+    std::size_t shown = 0;
+    for (std::size_t at = o.find("\nX: "); at != std::string::npos; at = o.find("\nX: ", at + 1)) ++shown;
+    EXPECT_EQ(shown, 3u) << o;
+    EXPECT_NE(o.find("X: 5.\n> > Input method: RPN   Keyboard: General   Angles: Degrees   Entry base: Decimal\n"),
+              std::string::npos) << o;
+    EXPECT_NE(o.find("sqrt (√x): Square root\n  key code 60\n  on the keyboards: General key:10\n"), std::string::npos)
+        << o;
+    EXPECT_NE(o.find("sq (x²): Square\n  key code 61\n  also typed as: x^2\n"), std::string::npos) << o;
+    EXPECT_NE(o.find("const:7: Speed of light"), std::string::npos) << o;
+    EXPECT_NE(o.find("Input method: RPN   Keyboard: Programmer   Angles: Radians   Entry base: Decimal\n"),
+              std::string::npos) << o;
+    EXPECT_EQ(o.substr(o.size() - 3), "> \n");
+    EXPECT_EQ(e,
+              "unknown token 2 (column 3): sinn (did you mean: sin, asin, bin)\n"
+              "no key, command or constant is named nosuch\n"
+              "token 3 (column 10): entry took 12 of the 15 digits of 123456789012345\n");
+}
+
+// The options --help names, for each program: brinto-cli's as it prints them, brinto's from its source.
+std::set<std::string> Options(const std::string& help) {
+    std::set<std::string> options;
+    const std::regex option("(^|[^\\w-])(--?[a-z][a-z-]*)");
+    for (std::sregex_iterator it(help.begin(), help.end(), option), end; it != end; ++it) options.insert((*it)[2]);
+    return options;
+}
+
+std::string DesktopHelp() {
+    const std::string source = ReadFile(std::filesystem::path(BRINTO_SOURCE_DIR) / "src/app/run_app.cpp");
+    const std::size_t start = source.find("kHelp =");
+    std::string help;
+    const std::regex literal("\"((?:[^\"\\\\]|\\\\.)*)\"");
+    const std::string text = source.substr(start, source.find(';', start) - start);
+    for (std::sregex_iterator it(text.begin(), text.end(), literal), end; it != end; ++it) help += (*it)[1];
+    return help;
+}
+
+TEST(Cli, ManualPagesNameEveryOptionOfHelp) {
+    const RunResult cli = RunCli({"--help"});
+    ASSERT_EQ(cli.exitCode, 0);
+    const std::pair<std::string, std::string> programs[] = {{"brinto-cli", cli.out}, {"brinto", DesktopHelp()}};
+    for (const auto& [program, help] : programs) {
+        SCOPED_TRACE(program);
+        const std::filesystem::path page = std::filesystem::path(BRINTO_SOURCE_DIR) / "docs/man" / (program + ".1");
+        // In roff a minus sign is written "\-".
+        const std::string manual = std::regex_replace(ReadFile(page), std::regex("\\\\-"), "-");
+        ASSERT_NE(manual.find(".TH " + std::string(program == "brinto" ? "BRINTO" : "BRINTO-CLI") + " 1"),
+                  std::string::npos);
+        const std::set<std::string> options = Options(help);
+        EXPECT_TRUE(options.count("--help") && options.count("--version") && options.count("--db")) << help;
+        const std::set<std::string> documented = Options(manual);
+        for (const std::string& o : options) EXPECT_TRUE(documented.count(o)) << o << " is not in " << page;
+        // The page renders without a warning where groff is at hand.
+        if (std::filesystem::exists("/usr/bin/groff")) {
+            const std::string command = "groff -man -ww -z '" + page.string() + "' 2>&1";
+            FILE* pipe = popen(command.c_str(), "r");
+            ASSERT_NE(pipe, nullptr);
+            std::string warnings;
+            for (char buffer[256]; fgets(buffer, sizeof buffer, pipe);) warnings += buffer;
+            EXPECT_EQ(pclose(pipe), 0);
+            EXPECT_EQ(warnings, "");
+        }
+    }
+}
+
+}  // namespace
+}  // namespace brinto::test
