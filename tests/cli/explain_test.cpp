@@ -1,6 +1,11 @@
 // brinto-cli explains itself: its key listing, the interactive help and status, and the manual
 // pages that must say what --help says.
 #include <gtest/gtest.h>
+#include <poll.h>
+#include <pty.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -134,6 +139,86 @@ TEST(Cli, InteractiveCalculatorExplainsItself) {
               "unknown token 2 (column 3): sinn (did you mean: sin, asin, bin)\n"
               "no key, command or constant is named nosuch\n"
               "token 3 (column 10): entry took 12 of the 15 digits of 123456789012345\n");
+}
+
+// brinto-cli at a real terminal: typed lines run, a mistyped token is reported and the session
+// goes on, Ctrl-D leaves on a fresh line, and the next session recalls the lines with the Up arrow.
+class Terminal {
+public:
+    explicit Terminal(const std::string& db) {
+        m_pid = forkpty(&m_fd, nullptr, nullptr, nullptr);
+        if (m_pid == 0) {
+            setenv("TERM", "xterm", 1);
+            execl(BRINTO_CLI_PATH, BRINTO_CLI_PATH, "--db", db.c_str(), nullptr);
+            _exit(127);
+        }
+    }
+    ~Terminal() {
+        if (m_pid > 0 && waitpid(m_pid, nullptr, WNOHANG) == 0) kill(m_pid, SIGKILL), waitpid(m_pid, nullptr, 0);
+        if (m_fd >= 0) close(m_fd);
+    }
+    // Reads until `text` has arrived after what was read before (or 5 s pass); true if it came.
+    bool Await(const std::string& text) {
+        const std::size_t from = m_seen;
+        while (m_output.find(text, from) == std::string::npos) {
+            pollfd p{m_fd, POLLIN, 0};
+            char buffer[4096];
+            if (poll(&p, 1, 5000) <= 0) return false;
+            const ssize_t n = read(m_fd, buffer, sizeof buffer);
+            if (n <= 0) return false;
+            m_output.append(buffer, static_cast<std::size_t>(n));
+        }
+        m_seen = m_output.find(text, from) + text.size();
+        return true;
+    }
+    void Type(const std::string& keys) { ASSERT_EQ(write(m_fd, keys.data(), keys.size()), ssize_t(keys.size())); }
+    // The exit status, once the program has left (within 5 s); -1 if it has not.
+    int Exit() {
+        Await("\n\n");  // drains what is left until the terminal closes
+        int status = 0;
+        for (int tries = 0; tries < 50 && waitpid(m_pid, &status, WNOHANG) == 0; ++tries) usleep(100000);
+        if (!WIFEXITED(status)) return -1;
+        m_pid = -1;
+        return WEXITSTATUS(status);
+    }
+    const std::string& Output() const { return m_output; }
+
+private:
+    int m_fd = -1;
+    pid_t m_pid = -1;
+    std::string m_output;
+    std::size_t m_seen = 0;
+};
+
+TEST(Cli, TerminalSessionEditsAndRemembersLines) {
+    char folder[] = "/tmp/brinto-cli-tty-XXXXXX";
+    ASSERT_NE(mkdtemp(folder), nullptr);
+    const std::string db = std::string(folder) + "/brinto.db";
+    {
+        Terminal t(db);
+        ASSERT_TRUE(t.Await("> ")) << t.Output();
+        t.Type("rpn 7 +\r");
+        ASSERT_TRUE(t.Await("X: 7.")) << t.Output();
+        ASSERT_TRUE(t.Await("> "));
+        t.Type("sinn\r");
+        EXPECT_TRUE(t.Await("unknown token 1 (column 1): sinn (did you mean: sin, asin, bin)")) << t.Output();
+        ASSERT_TRUE(t.Await("> "));
+        t.Type("\x04");
+        EXPECT_EQ(t.Exit(), 0) << t.Output();
+        EXPECT_TRUE(t.Output().ends_with("\r\n"));  // the shell's prompt starts on a line of its own
+    }
+    EXPECT_NE(ReadFile(std::string(folder) + "/brinto-cli.history").find("sinn"), std::string::npos);
+    {
+        Terminal t(db);
+        ASSERT_TRUE(t.Await("X: 7.")) << t.Output();  // the saved calculator
+        ASSERT_TRUE(t.Await("> "));
+        t.Type("\x1b[A\x1b[A\r");  // Up twice: "rpn 7 +" again, so 7 + 7
+        EXPECT_TRUE(t.Await("X: 14.")) << t.Output();
+        ASSERT_TRUE(t.Await("> "));
+        t.Type("quit\r");
+        EXPECT_EQ(t.Exit(), 0) << t.Output();
+    }
+    std::filesystem::remove_all(folder);
 }
 
 // The options --help names, for each program: brinto-cli's as it prints them, brinto's from its source.
