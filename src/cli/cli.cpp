@@ -286,6 +286,7 @@ std::string UnknownToken(std::string_view word, int number, const std::string& p
                          std::span<const std::string_view> extra = {}) {
     std::string text = "unknown token " + std::to_string(number) + position + ": " + Printable(word);
     if (const auto range = RangeOf(word)) return text + " (" + *range + ")";
+    if (std::find(extra.begin(), extra.end(), word) != extra.end()) return text + " (it takes a line of its own)";
     const std::vector<std::string_view> near = NearestNames(word, extra);
     return text + Suggestions(near);
 }
@@ -305,6 +306,7 @@ bool CheckTokens(const Words& words, std::string_view line, std::string& error) 
     return ok;
 }
 
+// Of the keys a number token taps, the digits.
 bool IsDigitKey(FunctionId id) { return id != fid::Point && id != fid::ChangeSign && id != fid::Exponent; }
 
 // Runs one token; false when a key of it was not accepted. A number counts the digits entry took.
@@ -462,9 +464,12 @@ void PrintStatus(std::ostream& out, const Engine& e) {
 
 // "help" alone, or "help NAME ...": one key, command or constant after another.
 void PrintHelp(std::ostream& out, std::ostream& err, const std::vector<std::string_view>& names) {
-    if (names.empty()) out << kInteractiveHelp;
+    const auto promptWord = [](std::string_view name) {
+        return std::find(std::begin(kPromptWords), std::end(kPromptWords), name) != std::end(kPromptWords);
+    };
+    if (names.empty() || std::any_of(names.begin(), names.end(), promptWord)) out << kInteractiveHelp;
     for (const std::string_view name : names) {
-        if (DescribeName(name, out)) continue;
+        if (promptWord(name) || DescribeName(name, out)) continue;
         err << "no key, command or constant is named " << Printable(name) << Suggestions(NearestNames(name)) << '\n';
     }
 }
@@ -478,11 +483,11 @@ void Interactive(Session& session, CliHost& host, LineSource& lines, std::ostrea
     while (out << std::flush, line = lines.ReadLine("> ")) {
         std::vector<std::string_view> typed;
         ForEachWord(*line, [&](std::string_view w, std::size_t) { return typed.push_back(w), true; });
-        if (std::find(typed.begin(), typed.end(), "quit") != typed.end()) break;
         if (!typed.empty() && typed[0] == "help") {
             PrintHelp(out, err, {typed.begin() + 1, typed.end()});
             continue;
         }
+        if (std::find(typed.begin(), typed.end(), "quit") != typed.end()) break;
         if (typed.size() == 1 && typed[0] == "status") {
             PrintStatus(out, session.engine());
             continue;

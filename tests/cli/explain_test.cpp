@@ -117,6 +117,7 @@ TEST(Cli, InteractiveCalculatorExplainsItself) {
         "status\n"
         "help sqrt x^2 const:7\n"
         "help nosuch\n"
+        "1 status\n"
         "kb:4 rad 123456789012345 enter\n"
         "status\n");
     std::ostringstream out, err;
@@ -138,6 +139,7 @@ TEST(Cli, InteractiveCalculatorExplainsItself) {
     EXPECT_EQ(e,
               "unknown token 2 (column 3): sinn (did you mean: sin, asin, bin)\n"
               "no key, command or constant is named nosuch\n"
+              "unknown token 2 (column 3): status (it takes a line of its own)\n"
               "token 3 (column 10): entry took 12 of the 15 digits of 123456789012345\n");
 }
 
