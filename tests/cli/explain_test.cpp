@@ -5,6 +5,7 @@
 #include <pty.h>
 #include <signal.h>
 #include <sys/wait.h>
+#include <termios.h>
 #include <unistd.h>
 
 #include <filesystem>
@@ -150,7 +151,13 @@ public:
         m_seen = m_output.find(text, from) + text.size();
         return true;
     }
-    void Type(const std::string& keys) { ASSERT_EQ(write(m_fd, keys.data(), keys.size()), ssize_t(keys.size())); }
+    // Keys typed before the line editor has the terminal would reach it as a cooked line (Ctrl-D
+    // as a line end), so the keys wait until the terminal leaves canonical mode.
+    void Type(const std::string& keys) {
+        termios mode{};
+        for (int i = 0; i < 500 && tcgetattr(m_fd, &mode) == 0 && (mode.c_lflag & ICANON); ++i) usleep(10000);
+        ASSERT_EQ(write(m_fd, keys.data(), keys.size()), ssize_t(keys.size()));
+    }
     // The exit status, once the program has left (within 5 s); -1 if it has not.
     int Exit() {
         Await("\n\n");  // drains what is left until the terminal closes
@@ -181,7 +188,7 @@ TEST(Cli, TerminalSessionEditsAndRemembersLines) {
         ASSERT_TRUE(t.Await("> "));
         t.Type("\x04");
         EXPECT_EQ(t.Exit(), 0) << t.Output();
-        EXPECT_TRUE(t.Output().ends_with("\r\n"));  // the shell's prompt starts on a line of its own
+        EXPECT_TRUE(t.Output().ends_with("\r\n")) << t.Output();  // the shell's prompt starts on a line of its own
     }
     EXPECT_NE(ReadFile(std::string(folder) + "/brinto-cli.history").find("rpn"), std::string::npos);
     {
