@@ -482,7 +482,10 @@ void Interactive(Session& session, CliHost& host, LineSource& lines, std::ostrea
     std::optional<std::string> line;
     while (out << std::flush, line = lines.ReadLine("> ")) {
         std::vector<std::string_view> typed;
-        ForEachWord(*line, [&](std::string_view w, std::size_t) { return typed.push_back(w), true; });
+        ForEachWord(*line, [&](std::string_view w, std::size_t) {
+            typed.push_back(w);
+            return true;
+        });
         if (!typed.empty() && typed[0] == "help") {
             PrintHelp(out, err, {typed.begin() + 1, typed.end()});
             continue;
