@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Installs whatever the build needs and this machine lacks (Debian packages only).
 set -euo pipefail
-packages=(cmake g++ make libgtest-dev libgmock-dev libbenchmark-dev libsqlite3-dev pkg-config
-  qt6-base-dev xvfb xauth
+packages=(cmake g++ make libgtest-dev libgmock-dev libbenchmark-dev libsqlite3-dev
+  qt6-base-dev libedit-dev xvfb xauth
   desktop-file-utils appstream dpkg-dev file)
 packages+=("$@")
 missing=()

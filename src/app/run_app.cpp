@@ -29,7 +29,7 @@ constexpr const char* kHelp =
     "  --screenshot DIR\n"
     "                draw every window, off screen, to DIR/NAME.png on a calculator\n"
     "                in memory with sample values, and exit\n"
-    "  --help        show this help and exit\n"
+    "  -h, --help    show this help and exit\n"
     "  --version     show the version and exit\n";
 
 // SIGTERM and SIGHUP only write a byte into this pipe; the event loop reads it and saves.

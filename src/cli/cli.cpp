@@ -1,5 +1,6 @@
 #include "cli/cli.h"
 
+#include <algorithm>
 #include <cctype>
 #include <charconv>
 #include <functional>
@@ -7,8 +8,11 @@
 #include <iterator>
 #include <optional>
 #include <sstream>
+#include <span>
 
 #include "cli/json_report.h"
+#include "cli/key_listing.h"
+#include "cli/line_source.h"
 #include "cli/locale_platform.h"
 #include "cli/tokens.h"
 #include "display/display_text.h"
@@ -17,6 +21,7 @@
 #include "finance/amortization_schedule.h"
 #include "ops/constants.h"
 #include "session/session_store.h"
+#include "store/state_file.h"
 
 namespace brinto {
 
@@ -57,6 +62,7 @@ struct Options {
     bool memory = false;
     bool listKeys = false;
     bool help = false;
+    bool version = false;
     bool schedule = false;
     std::optional<std::string> db;
     std::optional<std::string> importLegacy;
@@ -92,6 +98,8 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& args, std::s
             o.listKeys = true;
         } else if (a == "--help" || a == "-h") {
             o.help = true;
+        } else if (a == "--version") {
+            o.version = true;
         } else if (a == "--schedule") {
             o.schedule = true;
         } else if (a == "--db" && hasValue) {
@@ -133,11 +141,11 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& args, std::s
     return o;
 }
 
-// What --help prints: every option and every kind of token, in the README's words, shortened.
+// What --help prints; docs/man/brinto-cli.1 says the same at more length.
 constexpr std::string_view kUsage =
     "Usage: brinto-cli [OPTIONS] [TOKEN ...]\n"
     "Runs the tokens left to right and prints X as the display shows it. With no tokens, reads them\n"
-    "from standard input, or is an interactive calculator at a terminal (\"quit\" leaves it).\n"
+    "from standard input, or is an interactive calculator at a terminal (\"help\" there says more).\n"
     "\n"
     "Options:\n"
     "  --json                 after the last token, print the whole state as one JSON object\n"
@@ -148,24 +156,41 @@ constexpr std::string_view kUsage =
     "  --now \"YYYY-MM-DD HH:MM:SS\"  the local date and time that the \"now\" key reads\n"
     "  --seed N               the stored random seed before the first token\n"
     "  --schedule             after the last token, print the amortization schedule as CSV\n"
-    "  --list-keys            print every key name with its key code and exit\n"
+    "  --list-keys            list every key by keyboard (name, code, legend, meaning) and exit\n"
     "  -h, --help             print this text and exit\n"
+    "  --version              print the version and exit\n"
     "\n"
     "Tokens:\n"
     "  #N                     a tap of the key with code N (0..65535), exactly that key\n"
     "  12  -1.5e-3  .5        a number, typed as keys\n"
-    "  NAME                   the key of that name, any case (enter, +, sin, pv; see --list-keys)\n"
+    "  NAME                   the key of that name or alias, any case (enter, +, sqrt, x^2, pv;\n"
+    "                         see --list-keys)\n"
     "  keys:TEXT              each character of TEXT as a key (keys:2+3*5=)\n"
     "  kb:N                   select keyboard N:";
-constexpr std::string_view kUsageEnd =
+constexpr std::string_view kUsageMiddle =
     "  key:K                  key K (1..12) of the current keyboard's variable block\n"
     "  undo  redo  copy  cut  the Edit commands\n"
     "  paste:TEXT             paste TEXT\n"
     "  basic  advanced        the view commands\n"
     "  const:N                recall physical constant N (see --list-keys)\n"
+    "At the interactive prompt also: help, help NAME, status, and quit (or Ctrl-D).\n"
     "\n"
-    "Exit status: 0; 1 when the calculator could not be loaded, saved or imported; 2 for an\n"
-    "unknown option or token (nothing is saved then).\n";
+    "Database: $XDG_DATA_HOME/brinto/brinto.db, by default ~/.local/share/brinto/brinto.db,\n"
+    "shared with the desktop program; here ";
+constexpr std::string_view kUsageEnd =
+    "The interactive calculator keeps the lines typed in brinto-cli.history beside the database.\n"
+    "\n"
+    "Exit status:\n"
+    "  0  the tokens ran; also when a number had more digits than entry takes (standard error\n"
+    "     says how many it took, and X holds those)\n"
+    "  1  the calculator could not be loaded, saved or imported (standard error says why)\n"
+    "  2  an unknown option or token: nothing is saved\n"
+    "\n"
+    "Examples:\n"
+    "  brinto-cli --memory 2 + 3 '*' 5 =                prints 25. (Simple, the first-run method)\n"
+    "  brinto-cli --memory rpn 2 enter 3 x^2 +          prints 11.\n"
+    "  echo 'rpn 100000 pv 6 i/yr 360 n 0 fv pmt' | brinto-cli --memory\n"
+    "                                                   prints -599.550525153  PMT\n";
 
 // The keyboards are listed from their own table, so a renamed one cannot go stale here.
 void PrintUsage(std::ostream& out) {
@@ -174,8 +199,20 @@ void PrintUsage(std::ostream& out) {
         const std::string_view gap = k == 0 ? " " : k % 3 == 0 ? ",\n                         " : ", ";
         out << gap << k << ' ' << kKeyboardNames[k];
     }
-    out << '\n' << kUsageEnd;
+    out << '\n' << kUsageMiddle << DefaultLocations().database.string() << ".\n" << kUsageEnd;
 }
+
+constexpr std::string_view kInteractiveHelp =
+    "Type tokens separated by blanks; each line runs as a whole and the stack is shown after it.\n"
+    "  2 enter 3 +     keys by name (brinto-cli --list-keys lists them), numbers, #CODE, keys:TEXT,\n"
+    "                  kb:N, key:K, const:N, paste:TEXT, undo, redo, copy, cut, basic, advanced\n"
+    "  help NAME       what a key, command or constant does and where it sits (help sqrt, help const:7)\n"
+    "  status          the input method, keyboard, angle unit and entry base\n"
+    "  quit            leave (Ctrl-D too); the calculator is saved after every line\n"
+    "A line with an unknown token runs nothing; the error names the token and its column.\n";
+
+// The words the interactive prompt takes besides the tokens.
+constexpr std::string_view kPromptWords[] = {"help", "status", "quit"};
 
 std::string Printable(std::string_view text) {
     // Unprintable bytes are shown as "?", and a huge token is cut short.
@@ -189,7 +226,7 @@ std::string Printable(std::string_view text) {
 
 constexpr bool IsSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
-// Calls `each` with every whitespace-separated word of `text`.
+// Calls `each` with every whitespace-separated word of `text` and where it starts.
 template <typename F>
 void ForEachWord(std::string_view text, F&& each) {
     std::size_t i = 0;
@@ -197,31 +234,93 @@ void ForEachWord(std::string_view text, F&& each) {
         while (i < text.size() && IsSpace(text[i])) ++i;
         const std::size_t start = i;
         while (i < text.size() && !IsSpace(text[i])) ++i;
-        if (i > start && !each(text.substr(start, i - start))) return;
+        if (i > start && !each(text.substr(start, i - start), start)) return;
     }
 }
 
-// Checks every word before any runs; on a bad one names it in `error`.
+constexpr std::size_t kArgument = std::string_view::npos;  // a word that is a whole argument
+
+// Where a word starts in the text it was read from: " (line L, column C)" in a script of several
+// lines, " (column C)" in one line; nothing for a command-line argument, which its number names.
+std::string Position(std::string_view text, std::size_t offset) {
+    if (offset == kArgument) return {};
+    const std::string_view before = text.substr(0, offset);
+    const std::size_t lineStart = before.rfind('\n');
+    const std::size_t column = offset - (lineStart == std::string_view::npos ? 0 : lineStart + 1) + 1;
+    const std::size_t newline = text.find('\n');
+    const bool severalLines = newline != std::string_view::npos && newline + 1 < text.size();
+    if (!severalLines) return " (column " + std::to_string(column) + ")";
+    const auto line = std::count(before.begin(), before.end(), '\n') + 1;
+    return " (line " + std::to_string(line) + ", column " + std::to_string(column) + ")";
+}
+
+// What a token that takes a number accepts, when `word` is one with a number out of range.
+std::optional<std::string> RangeOf(std::string_view word) {
+    struct Form {
+        std::string_view prefix;
+        int low, high;
+    };
+    const Form forms[] = {{"#", 0, 65535}, {"kb:", 0, kKeyboardCount - 1}, {"key:", 1, kBlockKeys},
+                          {"const:", 0, kConstantCount - 1}};
+    for (const Form& f : forms) {
+        if (word.substr(0, f.prefix.size()) == f.prefix) {
+            return std::string(f.prefix) + "N takes N from " + std::to_string(f.low) + " to " + std::to_string(f.high);
+        }
+    }
+    return std::nullopt;
+}
+
+// " (did you mean: a, b, c)", or nothing when nothing is near.
+std::string Suggestions(const std::vector<std::string_view>& names) {
+    std::string text;
+    for (const std::string_view name : names) {
+        text += text.empty() ? " (did you mean: " : ", ";
+        text += name;
+    }
+    return text.empty() ? text : text + ")";
+}
+
+// The one line on a word that is no token: its number among the tokens, its position, and what
+// was probably meant.
+std::string UnknownToken(std::string_view word, int number, const std::string& position,
+                         std::span<const std::string_view> extra = {}) {
+    std::string text = "unknown token " + std::to_string(number) + position + ": " + Printable(word);
+    if (const auto range = RangeOf(word)) return text + " (" + *range + ")";
+    if (std::find(extra.begin(), extra.end(), word) != extra.end()) return text + " (it takes a line of its own)";
+    const std::vector<std::string_view> near = NearestNames(word, extra);
+    return text + Suggestions(near);
+}
+
+// Checks every word of one line before any runs; on a bad one names it in `error`.
 template <typename Words>
-bool CheckTokens(const Words& words, std::string& error) {
+bool CheckTokens(const Words& words, std::string_view line, std::string& error) {
     bool ok = true;
-    words([&](std::string_view word) {
+    int number = 0;
+    words([&](std::string_view word, std::size_t offset) {
+        ++number;
         if (ParseToken(word)) return true;
-        error = "unknown token: " + Printable(word);
+        error = UnknownToken(word, number, Position(line, offset), kPromptWords);
         ok = false;
         return false;
     });
     return ok;
 }
 
-// Runs one token; false when a key of it was not accepted.
-bool RunToken(Session& session, const Token& t) {
+// Of the keys a number token taps, the digits.
+bool IsDigitKey(FunctionId id) { return id != fid::Point && id != fid::ChangeSign && id != fid::Exponent; }
+
+// Runs one token; false when a key of it was not accepted. A number counts the digits entry took.
+bool RunToken(Session& session, const Token& t, int& digitsTaken) {
     switch (t.kind) {
         case TokenKind::Key: return session.TapKey(t.id);
         case TokenKind::ExactKey: return session.Tap(t.id);
         case TokenKind::Number: {
             bool accepted = true;
-            TypeNumber(t.text, [&](FunctionId id) { accepted = session.TapKey(id) && accepted; });
+            TypeNumber(t.text, [&](FunctionId id) {
+                const bool took = session.TapKey(id);
+                if (took && IsDigitKey(id)) ++digitsTaken;
+                accepted = took && accepted;
+            });
             return accepted;
         }
         case TokenKind::Characters: {
@@ -245,21 +344,31 @@ bool RunToken(Session& session, const Token& t) {
     return true;
 }
 
-// Runs every word as a token; the indices of tokens with a refused key go to `rejected`. Stops at
-// a word that is no token and names it in `error`: nothing has been shown or saved by then, so
+// Runs every word as a token; the indices of tokens with a refused key go to `rejected`, and a
+// number whose digits entry did not all take is told on `warnings` (X holds what it took). Stops
+// at a word that is no token and names it in `error`: nothing has been shown or saved by then, so
 // the run ends as if it had not started.
 template <typename Words>
-bool RunTokens(Session& session, const Words& words, std::vector<int>& rejected, std::string& error) {
+bool RunTokens(Session& session, const Words& words, std::string_view text, std::vector<int>& rejected,
+               std::string& error, std::ostream& warnings, std::string_view prefix) {
     int index = 0;
     bool ok = true;
-    words([&](std::string_view word) {
+    words([&](std::string_view word, std::size_t offset) {
         const auto token = ParseToken(word);
         if (!token) {
-            error = "unknown token: " + Printable(word);
+            error = UnknownToken(word, index + 1, Position(text, offset));
             ok = false;
             return false;
         }
-        if (!RunToken(session, *token)) rejected.push_back(index);
+        int digitsTaken = 0;
+        if (!RunToken(session, *token, digitsTaken)) rejected.push_back(index);
+        if (token->kind == TokenKind::Number) {
+            const auto digits = std::count_if(word.begin(), word.end(), [](char c) { return c >= '0' && c <= '9'; });
+            if (digitsTaken < digits) {
+                warnings << prefix << "token " << index + 1 << Position(text, offset) << ": entry took " << digitsTaken
+                         << " of the " << digits << " digits of " << Printable(word) << '\n';
+            }
+        }
         ++index;
         return true;
     });
@@ -319,36 +428,94 @@ private:
     Preferences m_given{};
 };
 
-void Interactive(Session& session, CliHost& host, std::istream& in, std::ostream& out, std::ostream& err,
+std::string_view MethodName(InputMethod method) {
+    switch (method) {
+        case InputMethod::Simple: return "Simple";
+        case InputMethod::Precedence: return "Precedence";
+        case InputMethod::Rpn: return "RPN";
+    }
+    return "?";
+}
+
+std::string_view AngleName(AngleUnit unit) {
+    switch (unit) {
+        case AngleUnit::Degrees: return "Degrees";
+        case AngleUnit::Radians: return "Radians";
+        case AngleUnit::Grads: return "Grads";
+    }
+    return "?";
+}
+
+std::string_view BaseName(u16 base) {
+    switch (base) {
+        case status::BaseBinary: return "Binary";
+        case status::BaseOctal: return "Octal";
+        case status::BaseHex: return "Hexadecimal";
+        default: return "Decimal";
+    }
+}
+
+void PrintStatus(std::ostream& out, const Engine& e) {
+    const int keyboard = e.Keyboard();
+    out << "Input method: " << MethodName(e.Method())
+        << "   Keyboard: " << (keyboard < kKeyboardCount ? kKeyboardNames[keyboard] : "?")
+        << "   Angles: " << AngleName(e.Angle()) << "   Entry base: " << BaseName(e.EntryBase()) << '\n';
+}
+
+// "help" alone, or "help NAME ...": one key, command or constant after another.
+void PrintHelp(std::ostream& out, std::ostream& err, const std::vector<std::string_view>& names) {
+    const auto promptWord = [](std::string_view name) {
+        return std::find(std::begin(kPromptWords), std::end(kPromptWords), name) != std::end(kPromptWords);
+    };
+    if (names.empty() || std::any_of(names.begin(), names.end(), promptWord)) out << kInteractiveHelp;
+    for (const std::string_view name : names) {
+        if (promptWord(name) || DescribeName(name, out)) continue;
+        err << "no key, command or constant is named " << Printable(name) << Suggestions(NearestNames(name)) << '\n';
+    }
+}
+
+void Interactive(Session& session, CliHost& host, LineSource& lines, std::ostream& out, std::ostream& err,
                  const std::function<void()>& save) {
     host.echo = &out;
-    out << "Brinto. Type keys (2 enter 3 +), \"quit\" to leave.\n";
+    out << "Brinto. Type keys (2 enter 3 +), \"help\" for help, \"quit\" to leave.\n";
     PrintStack(out, session.engine());
-    std::string line;
-    while (out << "> " << std::flush, std::getline(in, line)) {
-        const auto words = [&](auto&& each) { ForEachWord(line, each); };
-        bool quit = false;
-        words([&](std::string_view w) { return !(quit = (w == "quit")); });
-        if (quit) break;
+    std::optional<std::string> line;
+    while (out << std::flush, line = lines.ReadLine("> ")) {
+        std::vector<std::string_view> typed;
+        ForEachWord(*line, [&](std::string_view w, std::size_t) {
+            typed.push_back(w);
+            return true;
+        });
+        if (!typed.empty() && typed[0] == "help") {
+            PrintHelp(out, err, {typed.begin() + 1, typed.end()});
+            continue;
+        }
+        if (std::find(typed.begin(), typed.end(), "quit") != typed.end()) break;
+        if (typed.size() == 1 && typed[0] == "status") {
+            PrintStatus(out, session.engine());
+            continue;
+        }
+        const auto words = [&](auto&& each) { ForEachWord(*line, each); };
         std::string error;
-        if (!CheckTokens(words, error)) {
+        if (!CheckTokens(words, *line, error)) {
             err << error << '\n';
             continue;
         }
         std::vector<int> rejected;
-        RunTokens(session, words, rejected, error);
+        RunTokens(session, words, *line, rejected, error, err, "");
         // Each line is as far as the desktop program's deactivation: an interrupted session
         // loses at most the line being typed.
         save();
         PrintStack(out, session.engine());
     }
+    if (!line) out << '\n';  // end of input (Ctrl-D): the shell's prompt starts on a line of its own
     save();
 }
 
 }  // namespace
 
 int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerminal, std::ostream& out,
-           std::ostream& err) {
+           std::ostream& err, LineSource* terminal) {
     std::string error;
     auto options = ParseOptions(args, error);
     if (!options) {
@@ -359,9 +526,12 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
         PrintUsage(out);
         return 0;
     }
+    if (options->version) {
+        out << "brinto-cli " << BRINTO_VERSION << '\n';
+        return 0;
+    }
     if (options->listKeys) {
-        for (const KeyInfo& k : kKeyTable) out << k.name << ' ' << ToNumber(k.id) << '\n';
-        for (int i = 0; i < kConstantCount; ++i) out << "const:" << i << ' ' << ConstantName(i) << '\n';
+        ListKeys(out);
         return 0;
     }
     const bool interactive = options->tokens.empty() && inIsTerminal && !options->json && !options->schedule;
@@ -376,7 +546,7 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
             return;
         }
         for (const std::string& t : options->tokens) {
-            if (!each(std::string_view(t))) return;
+            if (!each(std::string_view(t), kArgument)) return;
         }
     };
 
@@ -391,10 +561,18 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
     if (options->seed) session.SetRandomSeed(*options->seed);
 
     if (interactive) {
-        Interactive(session, host, in, out, err, save);
+        StreamLines streamLines(in, out);
+        LineSource& lines = terminal ? *terminal : streamLines;
+        if (terminal && !options->memory) {
+            // Beside the database in use; with --memory the run leaves no trace.
+            const std::filesystem::path database =
+                options->db ? std::filesystem::path(*options->db) : DefaultLocations().database;
+            lines.KeepHistoryIn(database.parent_path() / "brinto-cli.history");
+        }
+        Interactive(session, host, lines, out, err, save);
         return store.HadTrouble() ? 1 : 0;
     }
-    if (!RunTokens(session, words, host.report.rejected, error)) {
+    if (!RunTokens(session, words, script, host.report.rejected, error, err, "brinto-cli: ")) {
         err << "brinto-cli: " << error << '\n';
         return 2;  // nothing is saved: the run ends as if it had not started
     }

@@ -3,10 +3,12 @@
 #include <csignal>
 #include <clocale>
 #include <iostream>
+#include <memory>
 #include <string>
 #include <vector>
 
 #include "cli/cli.h"
+#include "cli/line_source.h"
 
 int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
@@ -16,5 +18,8 @@ int main(int argc, char** argv) {
     // ending the program before it can say so.
     std::signal(SIGXFSZ, SIG_IGN);
     const std::vector<std::string> args(argv + 1, argv + argc);
-    return brinto::RunCli(args, std::cin, isatty(0) != 0, std::cout, std::cerr);
+    const bool terminal = isatty(0) != 0;
+    // Line editing only where a person types; the editor reads nothing until a line is asked for.
+    const std::unique_ptr<brinto::LineSource> lines = terminal ? brinto::TerminalLines() : nullptr;
+    return brinto::RunCli(args, std::cin, terminal, std::cout, std::cerr, lines.get());
 }

@@ -1,5 +1,8 @@
 #include "cli/tokens.h"
 
+#include <algorithm>
+#include <cctype>
+
 #include "engine/key_table.h"
 
 namespace brinto {
@@ -22,6 +25,31 @@ std::optional<int> WholeNumber(std::string_view text, int low, int high) {
 bool StartsWith(std::string_view text, std::string_view prefix) { return text.substr(0, prefix.size()) == prefix; }
 
 }  // namespace
+
+std::span<const CommandInfo> Commands() {
+    static constexpr CommandInfo kCommands[] = {
+        {"undo", TokenKind::Undo, "Undo the last change (Edit menu)"},
+        {"redo", TokenKind::Redo, "Redo what was undone (Edit menu)"},
+        {"copy", TokenKind::Copy, "Copy X to the clipboard (Edit menu)"},
+        {"cut", TokenKind::Cut, "Copy X to the clipboard and drop it (Edit menu)"},
+        {"basic", TokenKind::Basic, "Basic view (View menu)"},
+        {"advanced", TokenKind::Advanced, "Advanced view (View menu)"},
+    };
+    return kCommands;
+}
+
+std::optional<FunctionId> NamedKey(std::string_view name) {
+    if (const auto id = KeyByName(name)) return id;
+    for (const KeyAlias& a : kKeyAliases) {
+        if (a.name.size() == name.size() &&
+            std::equal(a.name.begin(), a.name.end(), name.begin(),
+                       [](char x, char y) { return std::tolower(static_cast<unsigned char>(x)) ==
+                                                   std::tolower(static_cast<unsigned char>(y)); })) {
+            return a.id;
+        }
+    }
+    return std::nullopt;
+}
 
 bool IsNumberToken(std::string_view t) {
     std::size_t i = (!t.empty() && t[0] == '-') ? 1 : 0;
@@ -72,17 +100,10 @@ std::optional<Token> ParseToken(std::string_view text) {
         if (!n) return std::nullopt;
         return Token{TokenKind::Constant, kNoKey, {}, *n};
     }
-    struct Command {
-        std::string_view name;
-        TokenKind kind;
-    };
-    static constexpr Command kCommands[] = {{"undo", TokenKind::Undo}, {"redo", TokenKind::Redo},
-                                            {"copy", TokenKind::Copy}, {"cut", TokenKind::Cut},
-                                            {"basic", TokenKind::Basic}, {"advanced", TokenKind::Advanced}};
-    for (const Command& c : kCommands) {
+    for (const CommandInfo& c : Commands()) {
         if (text == c.name) return Token{c.kind, kNoKey, {}, 0};
     }
-    if (const auto id = KeyByName(text)) return Token{TokenKind::Key, *id, {}, 0};
+    if (const auto id = NamedKey(text)) return Token{TokenKind::Key, *id, {}, 0};
     return std::nullopt;
 }
 

@@ -2,6 +2,7 @@
 // The tokens of brinto-cli. Every token is checked before anything runs, so that a bad one
 // changes nothing; tokens are views into the caller's text and allocate nothing.
 #include <optional>
+#include <span>
 #include <string_view>
 
 #include "engine/function_ids.h"
@@ -18,6 +19,17 @@ struct Token {
     std::string_view text;  // Number, Characters and Paste
     int number = 0;         // Keyboard, BlockKey, Constant
 };
+
+// The words that are commands rather than keys, with what each does.
+struct CommandInfo {
+    std::string_view name;
+    TokenKind kind;
+    std::string_view meaning;
+};
+std::span<const CommandInfo> Commands();
+
+// The key of a name or an alias, ignoring case.
+std::optional<FunctionId> NamedKey(std::string_view name);
 
 // Nothing when the token is not one brinto-cli knows.
 std::optional<Token> ParseToken(std::string_view text);

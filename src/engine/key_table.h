@@ -1,5 +1,6 @@
 #pragma once
-// One row per key: the names brinto-cli accepts (case-insensitive) and --list-keys prints.
+// One row per key: the names brinto-cli accepts (case-insensitive) and --list-keys prints;
+// kKeyAliases below adds the other spellings people type.
 #include <array>
 #include <optional>
 #include <string_view>
@@ -283,6 +284,53 @@ consteval bool NamesUniqueIgnoringCase(const auto& table) {
     return true;
 }
 static_assert(NamesUniqueIgnoringCase(kKeyTable), "two keys share a name");
+
+// Other names people type for some keys, taken as tokens like the names above and listed beside
+// them. Each adds a spelling; the key keeps its one name in the table above.
+struct KeyAlias {
+    std::string_view name;
+    FunctionId id;
+};
+
+inline constexpr std::array<KeyAlias, 14> kKeyAliases = {{
+    {"+/-", fid::ChangeSign},
+    {"neg", fid::ChangeSign},
+    {"backspace", fid::Backspace},
+    {"x<>y", fid::Swap},
+    {"x^2", fid::Square},
+    {"x^3", fid::Cube},
+    {"pow", fid::Power},
+    {"recip", fid::Reciprocal},
+    {"e^x", fid::Exp},
+    {"log10", fid::Log10},
+    {"sigma+", fid::SigmaPlus},
+    {"sigma-", fid::SigmaMinus},
+    {"mean", fid::MeanX},
+    {"x!", fid::Factorial},
+}};
+
+// No alias may be spelt like a name or another alias, ignoring case.
+consteval bool AliasesUnique() {
+    const auto lower = [](char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; };
+    const auto same = [&](std::string_view a, std::string_view b) {
+        if (a.size() != b.size()) return false;
+        for (std::size_t k = 0; k < a.size(); ++k) {
+            if (lower(a[k]) != lower(b[k])) return false;
+        }
+        return true;
+    };
+    for (std::size_t i = 0; i < kKeyAliases.size(); ++i) {
+        if (kKeyAliases[i].name.empty()) return false;
+        for (const KeyInfo& k : kKeyTable) {
+            if (same(kKeyAliases[i].name, k.name)) return false;
+        }
+        for (std::size_t j = i + 1; j < kKeyAliases.size(); ++j) {
+            if (same(kKeyAliases[i].name, kKeyAliases[j].name)) return false;
+        }
+    }
+    return true;
+}
+static_assert(AliasesUnique(), "an alias repeats a key name or another alias");
 
 // The key of a name, ignoring case.
 std::optional<FunctionId> KeyByName(std::string_view name);

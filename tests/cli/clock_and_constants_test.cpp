@@ -1,8 +1,6 @@
-// brinto-cli's pinned clock and the constants it lists (arguments with blanks, which the
-// transcripts cannot hold).
+// brinto-cli's pinned clock (arguments with blanks, which the transcripts cannot hold).
 #include <gtest/gtest.h>
 
-#include "cli/tokens.h"
 #include "cli_runner.h"
 
 namespace brinto::test {
@@ -19,17 +17,6 @@ TEST(Cli, NowReadsThePinnedClock) {
 
     const RunResult shown = RunCli({"--memory", "--now", "2024-02-29 13:45:10", "now"});
     EXPECT_EQ(shown.out, "02/29/24 13:45  dt\n");
-}
-
-TEST(Cli, ListKeysNamesTheConstants) {
-    const RunResult r = RunCli({"--list-keys"});
-    ASSERT_EQ(r.exitCode, 0);
-    EXPECT_NE(r.out.find("\nconst:0 Avogadro's number, NA\n"), std::string::npos);
-    EXPECT_NE(r.out.find("\nconst:32 Reference intensity, I0\n"), std::string::npos);
-    EXPECT_FALSE(ParseToken("const:-1").has_value());
-    EXPECT_FALSE(ParseToken("const:").has_value());
-    EXPECT_FALSE(ParseToken("const:33").has_value());
-    EXPECT_EQ(ParseToken("const:32").value().number, 32);
 }
 
 }  // namespace

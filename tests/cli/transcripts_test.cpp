@@ -118,18 +118,46 @@ TEST(Cli, JsonReportIsOneObjectWithEveryField) {
     EXPECT_EQ(json->Find("entry")->Compact(), "12");
 }
 
+// A bad option or token is one line that says where it is and what was probably meant.
 TEST(Cli, BadInputIsAOneLineErrorWithStatusTwo) {
-    const std::vector<std::vector<std::string>> bad = {
-        {"--memory", "bogus"}, {"--memory", "--nonsense"}, {"--memory", "#65536"}, {"--memory", "#-1"},
-        {"--memory", "kb:9"}, {"--memory", "key:13"}, {"--memory", std::string(100000, '7') + "x"},
-        {"--memory", "--pref", "7=1"}, {"--memory", "--now", "2020-13-01 00:00:00"}, {"--memory", "--db"},
+    struct Bad {
+        std::vector<std::string> args;
+        std::string input;
+        std::string says;
     };
-    for (const auto& args : bad) {
+    const std::vector<Bad> bad = {
+        {{"bogus"}, "", "unknown token 1: bogus"},
+        {{"--nonsense"}, "", "unknown option: --nonsense"},
+        {{"#65536"}, "", "(#N takes N from 0 to 65535)"},
+        {{"#-1"}, "", "unknown token 1: #-1"},
+        {{"kb:9"}, "", "(kb:N takes N from 0 to 8)"},
+        {{"2", "key:13"}, "", "unknown token 2: key:13 (key:N takes N from 1 to 12)"},
+        {{"const:"}, "", "(const:N takes N from 0 to 32)"},
+        {{"const:-1"}, "", "(const:N takes N from 0 to 32)"},
+        {{"1", "sinn", "2"}, "", "unknown token 2: sinn (did you mean: sin, asin, bin)"},
+        {{"swpa"}, "", "(did you mean: swap)"},
+        {{"X^3"}, "", ""},  // an alias, in any case: no error
+        {{}, "1 2\n3 sqrtt +\n", "unknown token 4 (line 2, column 3): sqrtt (did you mean: sqrt)"},
+        {{}, "rpn 2 enter Undoo\n", "unknown token 4 (column 13): Undoo (did you mean: undo)"},
+        {{"qqqqqqq"}, "", "unknown token 1: qqqqqqq\n"},
+        {{std::string(100000, '7') + "x"}, "", "unknown token 1: 777"},
+        {{"--pref", "7=1"}, "", "bad --pref value"},
+        {{"--now", "2020-13-01 00:00:00"}, "", "bad --now value"},
+        {{"--db"}, "", "option needs a value: --db"},
+    };
+    for (const Bad& b : bad) {
+        std::vector<std::string> args = {"--memory"};
+        args.insert(args.end(), b.args.begin(), b.args.end());
         SCOPED_TRACE(args.back().substr(0, 20));
-        const RunResult r = RunCli(args);
+        const RunResult r = RunCli(args, b.input);
+        if (b.says.empty()) {
+            EXPECT_EQ(r.exitCode, 0) << r.err;
+            continue;
+        }
         EXPECT_EQ(r.exitCode, 2);
         EXPECT_TRUE(r.out.empty());
         EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 1) << r.err;
+        EXPECT_NE(r.err.find(b.says), std::string::npos) << r.err;
     }
 }
 
@@ -152,14 +180,6 @@ TEST(Cli, PreferencesFromTheCommandLineHoldForOneRun) {
     EXPECT_EQ(json->Find("prefs.6")->Compact(), "0");
     EXPECT_EQ(json->Find("stack.0.value")->Compact(), "5");  // the calculator itself was kept
     std::filesystem::remove_all(folder);
-}
-
-TEST(Cli, ListKeysNamesEveryKey) {
-    const RunResult r = RunCli({"--list-keys"});
-    ASSERT_EQ(r.exitCode, 0);
-    EXPECT_NE(r.out.find("enter 21\n"), std::string::npos);
-    EXPECT_NE(r.out.find("+ 22\n"), std::string::npos);
-    EXPECT_NE(r.out.find("rpn 211\n"), std::string::npos);
 }
 
 }  // namespace

@@ -1,0 +1,55 @@
+#include "cli/line_source.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <istream>
+#include <ostream>
+
+#include <editline/readline.h>
+
+namespace brinto {
+
+std::optional<std::string> StreamLines::ReadLine(std::string_view prompt) {
+    m_prompt << prompt << std::flush;
+    std::string line;
+    if (!std::getline(m_in, line)) return std::nullopt;
+    return line;
+}
+
+namespace {
+
+// The line editor keeps its state in the library; there is one terminal, so one source at a time.
+class EditLines : public LineSource {
+public:
+    EditLines() { using_history(); }
+
+    std::optional<std::string> ReadLine(std::string_view prompt) override {
+        const std::string text(prompt);
+        char* line = readline(text.c_str());
+        if (!line) return std::nullopt;
+        std::string result(line);
+        std::free(line);
+        if (result.find_first_not_of(" \t") != std::string::npos) {
+            add_history(result.c_str());
+            // Written at once: a terminal closed without "quit" keeps what was typed.
+            if (!m_history.empty()) write_history(m_history.c_str());
+        }
+        return result;
+    }
+
+    void KeepHistoryIn(const std::filesystem::path& file) override {
+        m_history = file.string();
+        stifle_history(kHistoryLines);
+        read_history(m_history.c_str());  // none yet, or unreadable: an empty history
+    }
+
+private:
+    static constexpr int kHistoryLines = 500;
+    std::string m_history;
+};
+
+}  // namespace
+
+std::unique_ptr<LineSource> TerminalLines() { return std::make_unique<EditLines>(); }
+
+}  // namespace brinto
