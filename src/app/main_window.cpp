@@ -29,17 +29,16 @@ constexpr int kStripHeight = 26;
 
 bool IsBasic(const Engine& e) { return e.state.viewFlags & view::ModeMask; }
 
-// The program's icon: the one installed in the icon theme, as the menus and the dock show it, or
-// else the copy built into the program (run from the build tree, or without the theme installed).
-// Only PNGs are bundled: an SVG would need Qt's SVG module, and every module costs start-up time.
+// The program's icon, built into the program, at the sizes a window manager shows (the installed
+// copies in the icon theme are the same pictures, for menus and docks). Only PNGs: an SVG would need
+// Qt's SVG module, and every module costs start-up time.
 QIcon ProgramIcon() {
     const QString name = QStringLiteral(BRINTO_APP_ID);
-    if (QIcon::hasThemeIcon(name)) return QIcon::fromTheme(name);
-    QIcon bundled;  // each file is read here, so only when the theme has none
-    for (const int size : {16, 22, 24, 32, 48, 64, 128, 256}) {
-        bundled.addFile(QStringLiteral(":/icons/%1x%1/apps/%2.png").arg(size).arg(name), QSize(size, size));
+    QIcon icon;
+    for (const int size : {16, 22, 24, 32, 48, 64, 128}) {
+        icon.addFile(QStringLiteral(":/icons/%1x%1/apps/%2.png").arg(size).arg(name), QSize(size, size));
     }
-    return bundled;
+    return icon;
 }
 
 }  // namespace
@@ -47,8 +46,8 @@ QIcon ProgramIcon() {
 MainWindow::MainWindow(Session& session, QWidget* parent) : QMainWindow(parent), m_session(session) {
     setWindowTitle(QStringLiteral("Brinto"));
     // The application's icon too, so that the About box and every other window show the program's.
-    // Looking through the icon theme and reading the pictures takes some 15 ms, so it is done once
-    // the window is up rather than before it appears.
+    // Reading the pictures takes a few milliseconds, so it is done once the window is up rather
+    // than before it appears.
     QTimer::singleShot(0, this, [this] {
         const QIcon icon = ProgramIcon();
         setWindowIcon(icon);
