@@ -256,13 +256,7 @@ std::string Position(std::string_view text, std::size_t offset) {
 
 // What a token that takes a number accepts, when `word` is one with a number out of range.
 std::optional<std::string> RangeOf(std::string_view word) {
-    struct Form {
-        std::string_view prefix;
-        int low, high;
-    };
-    const Form forms[] = {{"#", 0, 65535}, {"kb:", 0, kKeyboardCount - 1}, {"key:", 1, kBlockKeys},
-                          {"const:", 0, kConstantCount - 1}};
-    for (const Form& f : forms) {
+    for (const NumberedForm& f : NumberedForms()) {
         if (word.substr(0, f.prefix.size()) == f.prefix) {
             return std::string(f.prefix) + "N takes N from " + std::to_string(f.low) + " to " + std::to_string(f.high);
         }

@@ -139,7 +139,7 @@ void ListKeys(std::ostream& out) {
 }
 
 bool DescribeName(std::string_view name, std::ostream& out) {
-    if (const auto id = NamedKey(name)) {
+    if (const auto id = KeyByName(name)) {
         const KeyLegend* legend = FindLegend(*id);
         out << KeyName(*id) << " (" << (legend ? legend->legend : "?") << "): " << (legend ? legend->fullName : "")
             << "\n  key code " << ToNumber(*id) << '\n';

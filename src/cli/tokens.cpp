@@ -1,9 +1,8 @@
 #include "cli/tokens.h"
 
-#include <algorithm>
-#include <cctype>
-
 #include "engine/key_table.h"
+#include "engine/keyboards.h"
+#include "ops/constants.h"
 
 namespace brinto {
 
@@ -38,19 +37,6 @@ std::span<const CommandInfo> Commands() {
     return kCommands;
 }
 
-std::optional<FunctionId> NamedKey(std::string_view name) {
-    if (const auto id = KeyByName(name)) return id;
-    for (const KeyAlias& a : kKeyAliases) {
-        if (a.name.size() == name.size() &&
-            std::equal(a.name.begin(), a.name.end(), name.begin(),
-                       [](char x, char y) { return std::tolower(static_cast<unsigned char>(x)) ==
-                                                   std::tolower(static_cast<unsigned char>(y)); })) {
-            return a.id;
-        }
-    }
-    return std::nullopt;
-}
-
 bool IsNumberToken(std::string_view t) {
     std::size_t i = (!t.empty() && t[0] == '-') ? 1 : 0;
     bool digits = false, point = false;
@@ -75,35 +61,30 @@ bool IsNumberToken(std::string_view t) {
     return true;
 }
 
+std::span<const NumberedForm> NumberedForms() {
+    static constexpr NumberedForm kForms[] = {{"#", TokenKind::ExactKey, 0, 65535},
+                                              {"kb:", TokenKind::Keyboard, 0, kKeyboardCount - 1},
+                                              {"key:", TokenKind::BlockKey, 1, kBlockKeys},
+                                              {"const:", TokenKind::Constant, 0, kConstantCount - 1}};
+    return kForms;
+}
+
 std::optional<Token> ParseToken(std::string_view text) {
     if (text.empty()) return std::nullopt;
-    if (text[0] == '#') {
-        const auto id = WholeNumber(text.substr(1), 0, 65535);
-        if (!id) return std::nullopt;
-        return Token{TokenKind::ExactKey, FunctionIdFrom(static_cast<u32>(*id)), {}, 0};
+    for (const NumberedForm& f : NumberedForms()) {
+        if (!StartsWith(text, f.prefix)) continue;
+        const auto n = WholeNumber(text.substr(f.prefix.size()), f.low, f.high);
+        if (!n) return std::nullopt;
+        if (f.kind == TokenKind::ExactKey) return Token{f.kind, FunctionIdFrom(static_cast<u32>(*n)), {}, 0};
+        return Token{f.kind, kNoKey, {}, *n};
     }
     if (IsNumberToken(text)) return Token{TokenKind::Number, kNoKey, text, 0};
     if (StartsWith(text, "keys:")) return Token{TokenKind::Characters, kNoKey, text.substr(5), 0};
     if (StartsWith(text, "paste:")) return Token{TokenKind::Paste, kNoKey, text.substr(6), 0};
-    if (StartsWith(text, "kb:")) {
-        const auto n = WholeNumber(text.substr(3), 0, 8);
-        if (!n) return std::nullopt;
-        return Token{TokenKind::Keyboard, kNoKey, {}, *n};
-    }
-    if (StartsWith(text, "key:")) {
-        const auto n = WholeNumber(text.substr(4), 1, 12);
-        if (!n) return std::nullopt;
-        return Token{TokenKind::BlockKey, kNoKey, {}, *n};
-    }
-    if (StartsWith(text, "const:")) {
-        const auto n = WholeNumber(text.substr(6), 0, 32);
-        if (!n) return std::nullopt;
-        return Token{TokenKind::Constant, kNoKey, {}, *n};
-    }
     for (const CommandInfo& c : Commands()) {
         if (text == c.name) return Token{c.kind, kNoKey, {}, 0};
     }
-    if (const auto id = NamedKey(text)) return Token{TokenKind::Key, *id, {}, 0};
+    if (const auto id = KeyByName(text)) return Token{TokenKind::Key, *id, {}, 0};
     return std::nullopt;
 }
 

@@ -28,8 +28,13 @@ struct CommandInfo {
 };
 std::span<const CommandInfo> Commands();
 
-// The key of a name or an alias, ignoring case.
-std::optional<FunctionId> NamedKey(std::string_view name);
+// The tokens that are a prefix and a whole number (#N, kb:N, key:K, const:N), and the numbers each takes.
+struct NumberedForm {
+    std::string_view prefix;
+    TokenKind kind;
+    int low, high;
+};
+std::span<const NumberedForm> NumberedForms();
 
 // Nothing when the token is not one brinto-cli knows.
 std::optional<Token> ParseToken(std::string_view text);

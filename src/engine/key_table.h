@@ -270,15 +270,21 @@ consteval bool AscendingUnique(const auto& table) {
 }
 static_assert(AscendingUnique(kKeyTable), "key table out of order or duplicated");
 
-// Names are looked up ignoring case, so no two may differ by case alone.
-consteval bool NamesUniqueIgnoringCase(const auto& table) {
+// Names are looked up ignoring case (ASCII only, so the lookup needs no locale).
+constexpr bool SameName(std::string_view a, std::string_view b) {
     const auto lower = [](char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; };
+    if (a.size() != b.size()) return false;
+    for (std::size_t k = 0; k < a.size(); ++k) {
+        if (lower(a[k]) != lower(b[k])) return false;
+    }
+    return true;
+}
+
+// So no two names may differ by case alone.
+consteval bool NamesUniqueIgnoringCase(const auto& table) {
     for (std::size_t i = 0; i < table.size(); ++i) {
         for (std::size_t j = i + 1; j < table.size(); ++j) {
-            const std::string_view a = table[i].name, b = table[j].name;
-            bool same = a.size() == b.size();
-            for (std::size_t k = 0; same && k < a.size(); ++k) same = lower(a[k]) == lower(b[k]);
-            if (same || a.empty()) return false;
+            if (table[i].name.empty() || SameName(table[i].name, table[j].name)) return false;
         }
     }
     return true;
@@ -311,28 +317,16 @@ inline constexpr std::array<KeyAlias, 14> kKeyAliases = {{
 
 // No alias may be spelt like a name or another alias, ignoring case.
 consteval bool AliasesUnique() {
-    const auto lower = [](char c) { return (c >= 'A' && c <= 'Z') ? static_cast<char>(c - 'A' + 'a') : c; };
-    const auto same = [&](std::string_view a, std::string_view b) {
-        if (a.size() != b.size()) return false;
-        for (std::size_t k = 0; k < a.size(); ++k) {
-            if (lower(a[k]) != lower(b[k])) return false;
-        }
-        return true;
-    };
-    for (std::size_t i = 0; i < kKeyAliases.size(); ++i) {
-        if (kKeyAliases[i].name.empty()) return false;
+    for (const KeyAlias& a : kKeyAliases) {
         for (const KeyInfo& k : kKeyTable) {
-            if (same(kKeyAliases[i].name, k.name)) return false;
-        }
-        for (std::size_t j = i + 1; j < kKeyAliases.size(); ++j) {
-            if (same(kKeyAliases[i].name, kKeyAliases[j].name)) return false;
+            if (SameName(a.name, k.name)) return false;
         }
     }
-    return true;
+    return NamesUniqueIgnoringCase(kKeyAliases);
 }
 static_assert(AliasesUnique(), "an alias repeats a key name or another alias");
 
-// The key of a name, ignoring case.
+// The key of a name or alias, ignoring case.
 std::optional<FunctionId> KeyByName(std::string_view name);
 
 }  // namespace brinto
