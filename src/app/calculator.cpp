@@ -21,9 +21,9 @@ StartOutcome Calculator::Start(const AppOptions& options) {
     return store.Start(where);
 }
 
-void Calculator::Save(const QByteArray& geometry) {
+bool Calculator::Save(const QByteArray& geometry) {
     store.SetFrontEndSetting(kGeometry, std::as_bytes(std::span(geometry.constData(), geometry.size())));
-    store.Save();
+    return store.Save();
 }
 
 QByteArray Calculator::SavedGeometry() const {

@@ -36,8 +36,9 @@ public:
     // reports trouble through the host.
     StartOutcome Start(const AppOptions& options);
 
-    // Writes what changed, and the window's size and position beside the calculator's records.
-    void Save(const QByteArray& geometry);
+    // Writes what changed, and the window's size and position beside the calculator's records;
+    // false when that did not reach the file.
+    bool Save(const QByteArray& geometry);
     QByteArray SavedGeometry() const;
 
     Engine engine;

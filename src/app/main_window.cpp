@@ -5,6 +5,8 @@
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QStatusBar>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QTimer>
@@ -318,14 +320,52 @@ bool MainWindow::HardwareKey(QKeyEvent* event) {
 }
 
 void MainWindow::changeEvent(QEvent* event) {
-    if (event->type() == QEvent::ActivationChange && !isActiveWindow()) Save();
+    if (event->type() == QEvent::ActivationChange) {
+        if (!isActiveWindow()) {
+            Save();
+        } else if (onActivate) {
+            onActivate();
+        }
+    }
     if (event->type() == QEvent::WindowStateChange && isMinimized()) Save();
     QMainWindow::changeEvent(event);
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
-    Save();
+    if (onQuit && !onQuit()) {
+        event->ignore();
+        return;
+    }
     QMainWindow::closeEvent(event);
+    // The help viewer and the modeless views are windows of their own: they must not keep a
+    // program running that the user has quit.
+    QCoreApplication::quit();
+}
+
+void MainWindow::PickedUp(bool preferences) {
+    if (preferences) {
+        ApplyTheme();  // also refreshes
+    } else {
+        Refresh();
+    }
+    if (m_dialogs) m_dialogs->Refresh();
+}
+
+void MainWindow::ShowSaveFailure(const QString& text) {
+    if (text.isEmpty()) {
+        if (m_saveFailure) statusBar()->hide();
+        return;
+    }
+    if (!m_saveFailure) {
+        m_saveFailure = new QLabel(this);
+        m_saveFailure->setObjectName(QStringLiteral("saveFailure"));
+        m_saveFailure->setWordWrap(true);
+        m_saveFailure->setAccessibleName(QStringLiteral("Not saved"));
+        statusBar()->addWidget(m_saveFailure, 1);
+    }
+    m_saveFailure->setText(QStringLiteral("Not saved: ") + text);
+    m_saveFailure->show();
+    statusBar()->show();
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {

@@ -13,6 +13,7 @@
 class QActionGroup;
 class QButtonGroup;
 class QComboBox;
+class QLabel;
 class QToolBar;
 
 namespace brinto {
@@ -40,14 +41,24 @@ public:
     void OpenHelp(const QString& anchor);
     // Where the user's key colours are kept; they are read now and lie over every theme.
     void UseStore(SessionStore* store);
+    // Another program changed the calculator: the window and its open views show the change (and
+    // the theme, when the preferences changed).
+    void PickedUp(bool preferences);
+    // A line along the bottom saying that the calculator is not being saved; none for empty text.
+    void ShowSaveFailure(const QString& text);
 
     // The secondary windows, made on first use so that start-up does not pay for them.
     dialogs::DialogHost& Dialogs();
     // Null until a secondary window was first opened.
     dialogs::DialogHost* openedDialogs() { return m_dialogs; }
 
-    // Run when the calculator should be kept: deactivation, minimising, closing, Quit.
+    // Run when the calculator should be kept: deactivation, minimising.
     std::function<void()> onSave;
+    // Run when the window is activated: what other programs saved is picked up.
+    std::function<void()> onActivate;
+    // Run when the window is closed (Quit, the window's close button): false keeps it open. The
+    // program ends with the window, whatever other windows (help, views) are open.
+    std::function<bool()> onQuit;
 
     const ScreenColours& colours() const { return m_colours; }
     DisplayView* display() { return m_display; }
@@ -87,6 +98,7 @@ private:
     CustomColours m_customColours;
     SessionStore* m_store = nullptr;
     dialogs::DialogHost* m_dialogs = nullptr;
+    QLabel* m_saveFailure = nullptr;
 };
 
 }  // namespace brinto

@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QSocketNotifier>
 #include <QTimer>
 #include <csignal>
@@ -32,8 +33,12 @@ constexpr const char* kHelp =
     "  -h, --help    show this help and exit\n"
     "  --version     show the version and exit\n";
 
-// SIGTERM and SIGHUP only write a byte into this pipe; the event loop reads it and saves.
+// SIGTERM, SIGHUP, SIGINT and SIGQUIT only write a byte into this pipe; the event loop reads it,
+// saves and ends the program.
 int g_signalPipe[2] = {-1, -1};
+
+// How often an idle window looks whether another program saved.
+constexpr int kPickUpMilliseconds = 500;
 
 void OnSignal(int) {
     const char byte = 1;
@@ -41,6 +46,9 @@ void OnSignal(int) {
 }
 
 void WatchSignals(QObject* parent, const std::function<void()>& stop) {
+    // A write beyond the file-size limit fails like a full disk, and is said so, instead of
+    // ending the program without a word.
+    std::signal(SIGXFSZ, SIG_IGN);
     if (pipe2(g_signalPipe, O_CLOEXEC | O_NONBLOCK) != 0) return;
     auto* notifier = new QSocketNotifier(g_signalPipe[0], QSocketNotifier::Read, parent);
     QObject::connect(notifier, &QSocketNotifier::activated, parent, [stop] {
@@ -53,8 +61,31 @@ void WatchSignals(QObject* parent, const std::function<void()>& stop) {
     action.sa_handler = OnSignal;
     sigemptyset(&action.sa_mask);
     action.sa_flags = SA_RESTART;
-    sigaction(SIGTERM, &action, nullptr);
-    sigaction(SIGHUP, &action, nullptr);
+    for (const int signal : {SIGTERM, SIGHUP, SIGINT, SIGQUIT}) sigaction(signal, &action, nullptr);
+}
+
+// The last save before the program ends. After a failed one the user chooses between trying
+// again and quitting without saving; false when the user would rather stay. Once this returns
+// true nothing more is written, whatever windows go on closing.
+bool SaveBeforeQuit(MainWindow& window, Calculator& calculator, WindowHost& host) {
+    host.quitting = true;
+    while (!calculator.Save(window.saveGeometry())) {
+        QMessageBox box(QMessageBox::Warning, QStringLiteral("Brinto"),
+                        QStringLiteral("The calculator could not be saved."),
+                        QMessageBox::Retry | QMessageBox::Discard | QMessageBox::Cancel, &window);
+        box.setInformativeText(QString::fromStdString(host.saveFailure) +
+                               QStringLiteral("\n\nTry again, or quit without saving what changed since the last save?"));
+        box.button(QMessageBox::Discard)->setText(QStringLiteral("Quit Without Saving"));
+        box.setDefaultButton(QMessageBox::Retry);
+        const int answer = box.exec();
+        if (answer == QMessageBox::Cancel) {
+            host.quitting = false;
+            return false;
+        }
+        if (answer == QMessageBox::Discard) break;
+    }
+    calculator.store.Finish();
+    return true;
 }
 
 // Each character as the hardware key that types it.
@@ -126,34 +157,52 @@ int RunApp(int argc, char** argv) {
     MainWindow window(calculator.session);
     host.window = &window;
     window.onSave = [&] { calculator.Save(window.saveGeometry()); };
+    window.onActivate = [&] { calculator.store.Refresh(); };
+    window.onQuit = [&] { return SaveBeforeQuit(window, calculator, host); };
 
-    // A signal ends every event loop, also the first run's dialog; the calculator is saved once
-    // the loops are left.
+    // A signal ends every event loop, also the first run's dialog, after a last save; a save that
+    // fails then is said on standard error, as no box can wait for an answer.
     bool stopping = false;
+    const auto stop = [&] {
+        if (calculator.store.Finished()) return;
+        host.quitting = true;
+        if (!calculator.Save(window.saveGeometry())) std::fprintf(stderr, "brinto: %s\n", host.saveFailure.c_str());
+        calculator.store.Finish();
+    };
     WatchSignals(&window, [&] {
         stopping = true;
+        stop();
         QCoreApplication::exit(0);  // every loop, also a dialog's that runs before the main one
     });
     const StartOutcome outcome = calculator.Start(*options);
+    if (stopping) {
+        stop();
+        return 0;
+    }
+    // From now on every key is kept as it is made, on the calculator as other programs left it.
+    calculator.store.KeepEachCommand();
     window.UseStore(&calculator.store);
     for (const std::string& notice : outcome.notices) {
         QMessageBox::information(&window, QStringLiteral("Brinto"), QString::fromStdString(notice));
-    }
-    if (stopping) {
-        calculator.Save(window.saveGeometry());
-        return 0;
     }
     if (const QByteArray geometry = calculator.SavedGeometry(); !geometry.isEmpty()) window.restoreGeometry(geometry);
     window.ApplyTheme();
     window.show();
     if (outcome.openPreferences) window.OpenView(View::Preferences);
+    // What brinto-cli or another window saved shows within a second, also while this window
+    // is not the active one.
+    QTimer pickUp;
+    QObject::connect(&pickUp, &QTimer::timeout, &window, [&] {
+        if (window.isVisible()) calculator.store.Refresh();
+    });
+    pickUp.start(kPickUpMilliseconds);
 
     if (!options->keys.empty()) {
         const QString keys = QString::fromStdString(options->keys);
         QTimer::singleShot(0, &window, [&window, keys] { TypeKeys(&window, keys); });
     }
     const int result = QApplication::exec();
-    calculator.Save(window.saveGeometry());
+    stop();  // nothing when the window's close or a signal has saved already
     return result;
 }
 

@@ -56,6 +56,23 @@ void WindowHost::ReportTrouble(std::string_view text) {
     QMessageBox::warning(window, QStringLiteral("Brinto"), Text(text));
 }
 
+void WindowHost::ReportSaveFailure(std::string_view text) {
+    const bool first = saveFailure.empty();
+    saveFailure = std::string(text);
+    if (!window) return;
+    window->ShowSaveFailure(Text(text));
+    if (first && !quitting) QMessageBox::warning(window, QStringLiteral("Brinto"), Text(text));
+}
+
+void WindowHost::SaveRecovered() {
+    saveFailure.clear();
+    if (window) window->ShowSaveFailure({});
+}
+
+void WindowHost::PickedUp(bool preferences) {
+    if (window) window->PickedUp(preferences);
+}
+
 void WindowHost::Repaint() {
     if (window) window->Refresh();
 }

@@ -2,6 +2,7 @@
 // The desktop program's side of the session: message boxes, the system clipboard, the beep, the
 // local clock and the user's way of writing dates, and the repaint of the main window.
 #include <functional>
+#include <string>
 
 #include "engine/platform.h"
 #include "session/host.h"
@@ -24,6 +25,11 @@ public:
     // The first run's "Input Method" dialog (not asked of a calculator kept in memory only).
     InputMethodChoice AskInputMethod() override;
     void ReportTrouble(std::string_view text) override;
+    // A failed save shows a line on the window for as long as saves fail, and a box when the
+    // first of them fails; the line goes once a save gets through.
+    void ReportSaveFailure(std::string_view text) override;
+    void SaveRecovered() override;
+    void PickedUp(bool preferences) override;
 
     DateFields Now() const override;
     std::string DateText(const DateFields& date, bool longForm) const override;
@@ -33,6 +39,10 @@ public:
     // The window that repaints and opens views; none while the program starts.
     MainWindow* window = nullptr;
     bool askInputMethod = true;
+    // What the last failed save said; empty once a save got through.
+    std::string saveFailure;
+    // While the program ends, a failed save is the caller's to tell: no box of its own.
+    bool quitting = false;
 };
 
 }  // namespace brinto

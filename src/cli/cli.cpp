@@ -240,19 +240,36 @@ void ForEachWord(std::string_view text, F&& each) {
 
 constexpr std::size_t kArgument = std::string_view::npos;  // a word that is a whole argument
 
-// Where a word starts in the text it was read from: " (line L, column C)" in a script of several
+// Where words start in the text they were read from: " (line L, column C)" in a script of several
 // lines, " (column C)" in one line; nothing for a command-line argument, which its number names.
-std::string Position(std::string_view text, std::size_t offset) {
-    if (offset == kArgument) return {};
-    const std::string_view before = text.substr(0, offset);
-    const std::size_t lineStart = before.rfind('\n');
-    const std::size_t column = offset - (lineStart == std::string_view::npos ? 0 : lineStart + 1) + 1;
-    const std::size_t newline = text.find('\n');
-    const bool severalLines = newline != std::string_view::npos && newline + 1 < text.size();
-    if (!severalLines) return " (column " + std::to_string(column) + ")";
-    const auto line = std::count(before.begin(), before.end(), '\n') + 1;
-    return " (line " + std::to_string(line) + ", column " + std::to_string(column) + ")";
-}
+// Lines are counted on from the last word asked about, so a long script with a warning on every
+// line costs no more than reading it once.
+class Positions {
+public:
+    explicit Positions(std::string_view text) : m_text(text) {
+        const std::size_t newline = text.find('\n');
+        m_severalLines = newline != std::string_view::npos && newline + 1 < text.size();
+    }
+    std::string At(std::size_t offset) {
+        if (offset == kArgument) return {};
+        if (offset < m_counted) *this = Positions(m_text);  // asked about an earlier word: count afresh
+        for (; m_counted < offset; ++m_counted) {
+            if (m_text[m_counted] != '\n') continue;
+            ++m_line;
+            m_lineStart = m_counted + 1;
+        }
+        const std::size_t column = offset - m_lineStart + 1;
+        if (!m_severalLines) return " (column " + std::to_string(column) + ")";
+        return " (line " + std::to_string(m_line) + ", column " + std::to_string(column) + ")";
+    }
+
+private:
+    std::string_view m_text;
+    bool m_severalLines = false;
+    std::size_t m_counted = 0;    // offsets before this one are counted
+    std::size_t m_line = 1;       // the line of m_counted
+    std::size_t m_lineStart = 0;  // where that line starts
+};
 
 // What a token that takes a number accepts, when `word` is one with a number out of range.
 std::optional<std::string> RangeOf(std::string_view word) {
@@ -293,7 +310,7 @@ bool CheckTokens(const Words& words, std::string_view line, std::string& error) 
     words([&](std::string_view word, std::size_t offset) {
         ++number;
         if (ParseToken(word)) return true;
-        error = UnknownToken(word, number, Position(line, offset), kPromptWords);
+        error = UnknownToken(word, number, Positions(line).At(offset), kPromptWords);
         ok = false;
         return false;
     });
@@ -347,10 +364,11 @@ bool RunTokens(Session& session, const Words& words, std::string_view text, std:
                std::string& error, std::ostream& warnings, std::string_view prefix) {
     int index = 0;
     bool ok = true;
+    Positions positions(text);
     words([&](std::string_view word, std::size_t offset) {
         const auto token = ParseToken(word);
         if (!token) {
-            error = UnknownToken(word, index + 1, Position(text, offset));
+            error = UnknownToken(word, index + 1, positions.At(offset));
             ok = false;
             return false;
         }
@@ -359,7 +377,7 @@ bool RunTokens(Session& session, const Words& words, std::string_view text, std:
         if (token->kind == TokenKind::Number) {
             const auto digits = std::count_if(word.begin(), word.end(), [](char c) { return c >= '0' && c <= '9'; });
             if (digitsTaken < digits) {
-                warnings << prefix << "token " << index + 1 << Position(text, offset) << ": entry took " << digitsTaken
+                warnings << prefix << "token " << index + 1 << positions.At(offset) << ": entry took " << digitsTaken
                          << " of the " << digits << " digits of " << Printable(word) << '\n';
             }
         }
@@ -399,26 +417,37 @@ bool LoadCalculator(const Options& o, SessionStore& store, std::ostream& err) {
 
 // Preferences given with --pref hold for the run and are not saved, unless a key or a command
 // changes the preferences during the run: then the live record is saved, given words and all.
+
+// Preferences given with --pref hold for the run and are not saved, unless a key or a command
+// changes the preferences during the run: then the live record is saved, given words and all.
 class PreferenceOverrides {
 public:
     PreferenceOverrides(Session& session, const std::vector<std::pair<int, u16>>& words)
-        : m_session(session), m_loaded(session.engine().prefs) {
-        Preferences given = m_loaded;
-        for (const auto& [word, value] : words) given.words[word] = value;
-        m_given = given;
-        if (!words.empty()) m_session.OverridePreferences(given);
+        : m_session(session), m_words(words) {
+        Apply();
     }
-    bool Save(SessionStore& store) {
-        if (m_session.engine().prefs.words != m_given.words) return store.Save();
+    // After a run began: preferences another program saved meanwhile are the new saved ones, and
+    // the given words lie over them again.
+    void Apply() {
+        if (m_session.engine().prefs.words == m_given.words) return;
+        m_loaded = m_session.engine().prefs;
+        m_given = m_loaded;
+        for (const auto& [word, value] : m_words) m_given.words[word] = value;
+        if (!m_words.empty()) m_session.OverridePreferences(m_given);
+    }
+    // Saves with `save` what the run changed, the given words only along with a change of its own.
+    bool Save(const std::function<bool()>& save) {
+        if (m_session.engine().prefs.words != m_given.words) return save();
         m_session.OverridePreferences(m_loaded);
-        const bool saved = store.Save();
+        const bool saved = save();
         m_session.OverridePreferences(m_given);
         return saved;
     }
 
 private:
     Session& m_session;
-    Preferences m_loaded;
+    std::vector<std::pair<int, u16>> m_words;
+    Preferences m_loaded{};
     Preferences m_given{};
 };
 
@@ -468,8 +497,10 @@ void PrintHelp(std::ostream& out, std::ostream& err, const std::vector<std::stri
     }
 }
 
+// Each line of keys is one run (SessionStore::BeginRun to EndRun), so the prompt always works on
+// the calculator as the last program left it, and keeps each line at once.
 void Interactive(Session& session, CliHost& host, LineSource& lines, std::ostream& out, std::ostream& err,
-                 const std::function<void()>& save) {
+                 SessionStore& store, PreferenceOverrides& overrides) {
     host.echo = &out;
     out << "Brinto. Type keys (2 enter 3 +), \"help\" for help, \"quit\" to leave.\n";
     PrintStack(out, session.engine());
@@ -486,6 +517,7 @@ void Interactive(Session& session, CliHost& host, LineSource& lines, std::ostrea
         }
         if (std::find(typed.begin(), typed.end(), "quit") != typed.end()) break;
         if (typed.size() == 1 && typed[0] == "status") {
+            store.Refresh();
             PrintStatus(out, session.engine());
             continue;
         }
@@ -496,14 +528,13 @@ void Interactive(Session& session, CliHost& host, LineSource& lines, std::ostrea
             continue;
         }
         std::vector<int> rejected;
+        store.BeginRun();
+        overrides.Apply();
         RunTokens(session, words, *line, rejected, error, err, "");
-        // Each line is as far as the desktop program's deactivation: an interrupted session
-        // loses at most the line being typed.
-        save();
+        overrides.Save([&] { return store.EndRun(); });
         PrintStack(out, session.engine());
     }
     if (!line) out << '\n';  // end of input (Ctrl-D): the shell's prompt starts on a line of its own
-    save();
 }
 
 }  // namespace
@@ -550,8 +581,9 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
     Session session(engine, host);
     SessionStore store(session);
     if (!LoadCalculator(*options, store, err)) return 1;
+    if (!interactive) store.BeginRun();  // parallel runs take turns, each on the latest calculator
     PreferenceOverrides overrides(session, options->prefs);
-    const auto save = [&] { overrides.Save(store); };
+    const auto save = [&] { overrides.Save([&] { return store.EndRun(); }); };
     if (options->seed) session.SetRandomSeed(*options->seed);
 
     if (interactive) {
@@ -563,7 +595,7 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
                 options->db ? std::filesystem::path(*options->db) : DefaultLocations().database;
             lines.KeepHistoryIn(database.parent_path() / "brinto-cli.history");
         }
-        Interactive(session, host, lines, out, err, save);
+        Interactive(session, host, lines, out, err, store, overrides);
         return store.HadTrouble() ? 1 : 0;
     }
     if (!RunTokens(session, words, script, host.report.rejected, error, err, "brinto-cli: ")) {

@@ -1,5 +1,7 @@
 #include "cli/line_source.h"
 
+#include <unistd.h>
+
 #include <cstdio>
 #include <cstdlib>
 #include <istream>
@@ -32,7 +34,7 @@ public:
         if (result.find_first_not_of(" \t") != std::string::npos) {
             add_history(result.c_str());
             // Written at once: a terminal closed without "quit" keeps what was typed.
-            if (!m_history.empty()) write_history(m_history.c_str());
+            if (!m_history.empty()) WriteHistory();
         }
         return result;
     }
@@ -44,6 +46,19 @@ public:
     }
 
 private:
+    // Into a new private file beside the history, which then takes the history's name: whatever
+    // the name pointed at (a link to another file, say) is replaced, never written through, and
+    // the lines typed are readable by the user alone.
+    void WriteHistory() const {
+        std::string temporary = m_history + ".XXXXXX";
+        const int fd = mkstemp(temporary.data());  // mode 0600
+        if (fd < 0) return;
+        close(fd);
+        if (write_history(temporary.c_str()) != 0 || std::rename(temporary.c_str(), m_history.c_str()) != 0) {
+            std::remove(temporary.c_str());
+        }
+    }
+
     static constexpr int kHistoryLines = 500;
     std::string m_history;
 };

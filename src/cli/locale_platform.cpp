@@ -71,10 +71,11 @@ std::optional<DateFields> ParseDateTime(std::string_view text) {
     if (std::sscanf(copy.c_str(), "%4d-%2d-%2d %2d:%2d:%2d%c", &y, &mo, &d, &h, &mi, &s, &tail) != 6) {
         return std::nullopt;
     }
-    if (y < 1 || mo < 1 || mo > 12 || d < 1 || d > 31 || h < 0 || h > 23 || mi < 0 || mi > 59 || s < 0 ||
-        s > 59) {
-        return std::nullopt;
-    }
+    if (y < 1 || mo < 1 || mo > 12 || h < 0 || h > 23 || mi < 0 || mi > 59 || s < 0 || s > 59) return std::nullopt;
+    // A day the month does not have (30 February) is refused, not carried into the next month.
+    constexpr int kDays[12] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    const bool leap = (y % 4 == 0 && y % 100 != 0) || y % 400 == 0;
+    if (d < 1 || d > kDays[mo - 1] + (mo == 2 && leap ? 1 : 0)) return std::nullopt;
     return DateFields{y, mo, d, h, mi, s, DayOfWeek(y, mo, d)};
 }
 

@@ -37,10 +37,18 @@ public:
     // Asked once, on the very first run, before the main window is shown. The session applies the
     // answer as the dialog's OK does.
     virtual InputMethodChoice AskInputMethod() { return {}; }
-    // The calculator could not be loaded or saved for a reason outside it (no right to the file,
-    // a full disk, a lock held by another program, a path that is no file): one line, raised once
-    // per kind of trouble. The run goes on in memory.
+    // The calculator could not be loaded for a reason outside it (no right to the file, a lock
+    // held by another program, a path that is no file or someone else's file): one line, raised
+    // once. The run goes on in memory.
     virtual void ReportTrouble(std::string_view text) = 0;
+    // A save did not reach the file (a full disk, a lock held too long, a file-size limit): one
+    // line, raised at every failed save. The calculator is kept and the next save tries again.
+    virtual void ReportSaveFailure(std::string_view text) { ReportTrouble(text); }
+    // A save reached the file after one or more had failed.
+    virtual void SaveRecovered() {}
+    // Another program sharing the calculator saved a change and this one took it over; with
+    // `preferences`, the preferences are among what changed.
+    virtual void PickedUp(bool /*preferences*/) { Repaint(); }
 };
 
 }  // namespace brinto

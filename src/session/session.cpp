@@ -14,27 +14,51 @@ namespace brinto {
 
 Session::Session(Engine& engine, Host& host) : m_engine(engine), m_host(host) { m_engine.SetPlatform(&host); }
 
+Session::Command::Command(Session& session) : m_session(session) {
+    if (m_session.m_commandDepth == 0 && m_session.m_observer) m_session.m_observer->BeforeCommand();
+    ++m_session.m_commandDepth;
+}
+
+Session::Waiting::Waiting(Session& session) : m_session(session) {
+    if (m_session.m_commandDepth > 0 && m_session.m_observer) m_session.m_observer->PauseCommand();
+}
+
+Session::Waiting::~Waiting() {
+    if (m_session.m_commandDepth > 0 && m_session.m_observer) m_session.m_observer->ResumeCommand();
+}
+
+void Session::Show(std::string_view caption, std::string_view text) {
+    const Waiting waiting(*this);
+    m_host.ShowMessage(caption, text);
+}
+
+Session::Command::~Command() {
+    if (--m_session.m_commandDepth == 0 && m_session.m_observer) m_session.m_observer->AfterCommand();
+}
+
 bool Session::Execute(FunctionId id) {
     const bool wasRecording = m_engine.state.engineFlags & flags::Recording;
     const bool accepted = m_engine.Dispatch(id);
     if (id == fid::MacroPlay && m_engine.macro.macroLength < 3 &&
         !(m_engine.state.engineFlags & flags::Playing)) {
-        m_host.ShowMessage(message::NoMacroCaption, message::NoMacroText);
+        Show(message::NoMacroCaption, message::NoMacroText);
     }
     const bool recording = m_engine.state.engineFlags & flags::Recording;
     if (wasRecording && !recording && !accepted) {
-        m_host.ShowMessage(message::MacroFullCaption, message::MacroFullText);
+        Show(message::MacroFullCaption, message::MacroFullText);
     }
     m_host.Repaint();
     return accepted;
 }
 
 bool Session::Tap(FunctionId id) {
+    const Command command(*this);
     if (id == kNoKey) {
-        m_host.ShowMessage(message::NoFunctionCaption, message::NoFunctionText);
+        Show(message::NoFunctionCaption, message::NoFunctionText);
         return false;
     }
     if (id == fid::ClearAll || id == fid::ClearAll2) {
+        const Waiting waiting(*this);
         if (!m_host.Confirm(message::ClearAllCaption, message::ClearAllText)) return false;
         id = fid::ClearAll;
     }
@@ -47,15 +71,20 @@ FunctionId Session::Remap(FunctionId id) const {
 }
 
 bool Session::TapBlockKey(int k) {
+    const Command command(*this);
     if (k < 1 || k > kBlockKeys) return false;
     const bool shifted = m_engine.state.status & status::FirstShift;
     const KeyBlock block = KeyLayout(m_engine.Keyboard(), shifted ? 1 : 0, m_userKeys);
     return TapKey(block[k - 1]);
 }
 
-bool Session::TapKey(FunctionId id) { return Tap(Remap(id)); }
+bool Session::TapKey(FunctionId id) {
+    const Command command(*this);
+    return Tap(Remap(id));
+}
 
 bool Session::CharacterKey(char32_t c) {
+    const Command command(*this);
     FunctionId id = kNoKey;
     const bool integerBase = m_engine.state.status & status::BaseMask;
     if (c >= '0' && c <= '9') {
@@ -101,6 +130,7 @@ bool Session::CharacterKey(char32_t c) {
 }
 
 bool Session::Special(SpecialKey key) {
+    const Command command(*this);
     const bool advanced = !(m_engine.state.viewFlags & view::ModeMask);
     switch (key) {
         case SpecialKey::Backspace:
@@ -125,6 +155,7 @@ bool Session::Special(SpecialKey key) {
 }
 
 void Session::ActionButton() {
+    const Command command(*this);
     const CalcState& s = m_engine.state;
     switch (m_engine.prefs.Action()) {
         case ActionChoice::Default: Execute(m_engine.IsRpn() ? fid::Enter : fid::Equals); break;
@@ -169,18 +200,22 @@ bool Session::Restore(HistoryStep step) {
 }
 
 void Session::Undo() {
-    if (!Restore(HistoryStep::Undo)) m_host.ShowMessage(message::NothingToUndoCaption, message::NothingToUndoText);
+    const Command command(*this);
+    if (!Restore(HistoryStep::Undo)) Show(message::NothingToUndoCaption, message::NothingToUndoText);
 }
 
 void Session::Redo() {
-    if (!Restore(HistoryStep::Redo)) m_host.ShowMessage(message::NothingToRedoCaption, message::NothingToRedoText);
+    const Command command(*this);
+    if (!Restore(HistoryStep::Redo)) Show(message::NothingToRedoCaption, message::NothingToRedoText);
 }
 
 void Session::Copy() {
+    const Command command(*this);
     if (const auto text = ClipboardText(m_engine)) m_host.PutOnClipboard(*text);
 }
 
 void Session::Cut() {
+    const Command command(*this);
     const auto text = ClipboardText(m_engine);
     if (!text) return;
     m_host.PutOnClipboard(*text);
@@ -188,10 +223,17 @@ void Session::Cut() {
 }
 
 void Session::Paste() {
-    if (const auto text = m_host.ClipboardText()) PasteText(*text);
+    const Command command(*this);
+    std::optional<std::string> text;
+    {
+        const Waiting waiting(*this);
+        text = m_host.ClipboardText();
+    }
+    if (text) PasteText(*text);
 }
 
 bool Session::RecallConstant(int index, u16 topRow) {
+    const Command command(*this);
     Engine& e = m_engine;
     e.history.TakeSnapshot(e.Records());
     if (!brinto::RecallConstant(e, index, topRow)) return false;
@@ -217,6 +259,7 @@ void Session::EnterValue(double value, ValueTag tag) {
 }
 
 void Session::PasteText(std::string_view text) {
+    const Command command(*this);
     const u16 base = m_engine.EntryBase();
     const auto value = ParsePasted(PasteSpan(text), base);
     if (!value) return;
@@ -229,6 +272,7 @@ void Session::PasteText(std::string_view text) {
 }
 
 bool Session::EnterDate(int year, int month, int day) {
+    const Command command(*this);
     if (month < 1 || month > 12 || day < 1 || day > 31) return false;
     DateFields fields;
     fields.year = year;
@@ -241,12 +285,14 @@ bool Session::EnterDate(int year, int month, int day) {
 }
 
 bool Session::EnterTime(int hour, int minute) {
+    const Command command(*this);
     if (hour < 0 || hour > 23 || minute < 0 || minute > 59) return false;
     EnterValue(hour * 3600.0 + minute * 60.0, fid::TagTime);
     return true;
 }
 
 void Session::ChooseInputMethod(InputMethod method) {
+    const Command command(*this);
     m_engine.prefs.SetMethod(method);
     const u16 bits = method == InputMethod::Rpn ? flags::Rpn : method == InputMethod::Precedence ? flags::Precedence : 0;
     CalcState& s = m_engine.state;
@@ -258,6 +304,7 @@ void Session::ChooseInputMethod(InputMethod method) {
 }
 
 void Session::SetPreferences(const Preferences& prefs) {
+    const Command command(*this);
     m_engine.prefs = prefs;
     m_engine.prefs.words[0] = kPreferencesVersion;
     m_engine.dirty.preferences = true;
@@ -275,6 +322,7 @@ void Session::OverridePreferences(const Preferences& prefs) {
 }
 
 void Session::SelectTheme(u16 themeId) {
+    const Command command(*this);
     m_engine.prefs.SetTheme(themeId);
     m_engine.dirty.preferences = true;
     m_host.Repaint();
@@ -283,6 +331,7 @@ void Session::SelectTheme(u16 themeId) {
 FunctionId* Session::Half(KeyHalf half) { return m_userKeys.keys + (half == KeyHalf::Shifted ? kBlockKeys : 0); }
 
 bool Session::AssignUserKey(KeyHalf half, int key, FunctionId id) {
+    const Command command(*this);
     if (key < 1 || key > kBlockKeys) return false;
     Half(half)[key - 1] = id;
     m_engine.dirty.userKeys = true;
@@ -291,12 +340,14 @@ bool Session::AssignUserKey(KeyHalf half, int key, FunctionId id) {
 }
 
 void Session::ClearUserKeys(KeyHalf half) {
+    const Command command(*this);
     std::fill_n(Half(half), kBlockKeys, kNoKey);
     m_engine.dirty.userKeys = true;
     m_host.Repaint();
 }
 
 bool Session::CopyUserKeys(KeyHalf into, int keyboard, KeyHalf from) {
+    const Command command(*this);
     if (keyboard < 0 || keyboard >= kUserKeyboard) return false;
     const KeyBlock block = KeyLayout(keyboard, from == KeyHalf::Shifted ? 1 : 0, m_userKeys);
     std::copy(block.begin(), block.end(), Half(into));
@@ -306,6 +357,7 @@ bool Session::CopyUserKeys(KeyHalf into, int keyboard, KeyHalf from) {
 }
 
 void Session::SetIntegerUserKeys(bool on) {
+    const Command command(*this);
     if (m_engine.prefs.IntegerUserKeys() == on) return;
     m_engine.prefs.SetIntegerUserKeys(on);
     m_engine.dirty.preferences = true;
@@ -313,6 +365,7 @@ void Session::SetIntegerUserKeys(bool on) {
 }
 
 bool Session::StoreRegister(int number, double value) {
+    const Command command(*this);
     if (number < 0 || number >= kRegisterCount) return false;
     Engine& e = m_engine;
     e.history.TakeSnapshot(e.Records());
@@ -324,6 +377,7 @@ bool Session::StoreRegister(int number, double value) {
 }
 
 bool Session::StoreRegisters(int first, std::span<const double> values) {
+    const Command command(*this);
     const auto count = static_cast<int>(values.size());
     if (first < 0 || count < 1 || first + count > kRegisterCount) return false;
     Engine& e = m_engine;
@@ -337,6 +391,7 @@ bool Session::StoreRegisters(int first, std::span<const double> values) {
 }
 
 bool Session::StoreCashFlow(int entry, double amount, int groupCount) {
+    const Command command(*this);
     Engine& e = m_engine;
     if (entry < 0 || entry > e.registers.cashFlowCount || groupCount < 1) return false;
     e.history.TakeSnapshot(e.Records());
@@ -349,6 +404,7 @@ bool Session::StoreCashFlow(int entry, double amount, int groupCount) {
 }
 
 bool Session::SetAmortizationRange(int start, int end) {
+    const Command command(*this);
     constexpr int kLastPayment = 32767;
     if (start < 1 || end < 1 || start > kLastPayment || end > kLastPayment) return false;
     Engine& e = m_engine;
@@ -362,11 +418,13 @@ bool Session::SetAmortizationRange(int start, int end) {
 }
 
 bool Session::Solve(FunctionId registerKey) {
+    const Command command(*this);
     m_engine.FinishEntry();
     return Execute(registerKey);
 }
 
 bool Session::TapViewKey(FunctionId id) {
+    const Command command(*this);
     const bool accepted = Tap(id);
     if (id != fid::Shift && id != fid::DisplayToggle && (m_engine.state.status & status::FullDisplay)) {
         m_engine.state.status &= static_cast<u16>(~status::FullDisplay);
@@ -378,21 +436,25 @@ bool Session::TapViewKey(FunctionId id) {
 }
 
 void Session::SetConstantsTopRow(u16 row) {
+    const Command command(*this);
     m_engine.state.constantsTopRow = row;
     m_engine.dirty.state = true;
 }
 
 void Session::SetLastView(View view) {
+    const Command command(*this);
     m_engine.state.lastView = static_cast<u16>(view);
     m_engine.dirty.state = true;
 }
 
 void Session::SetRandomSeed(u32 seed) {
+    const Command command(*this);
     m_engine.state.randomSeed = seed;
     m_engine.dirty.state = true;
 }
 
 void Session::SelectKeyboard(int index) {
+    const Command command(*this);
     if (index < 0 || index >= kKeyboardCount) return;
     CalcState& s = m_engine.state;
     s.status = static_cast<u16>((s.status & ~status::KeyboardMask) | index);
@@ -401,6 +463,7 @@ void Session::SelectKeyboard(int index) {
 }
 
 void Session::Basic() {
+    const Command command(*this);
     CalcState& s = m_engine.state;
     s.viewFlags = static_cast<u16>((s.viewFlags & ~view::ModeMask) | view::Basic);
     m_engine.dirty.state = true;
@@ -408,6 +471,7 @@ void Session::Basic() {
 }
 
 void Session::Advanced() {
+    const Command command(*this);
     m_engine.state.viewFlags &= static_cast<u16>(~view::ModeMask);
     m_engine.dirty.state = true;
     m_host.Repaint();

@@ -19,6 +19,21 @@ enum class SpecialKey { Backspace, Delete, Enter, Up, Down, Left, Right };
 // The two halves of the User keyboard: the keys shown without and with the shift latch.
 enum class KeyHalf { Unshifted, Shifted };
 
+// Told of every command a front end gives, so that a calculator shared with other programs stays
+// one calculator: before the command, to pick up what they saved; after it, to keep the change at
+// once. A command given within another (Cut's Copy, a key's message box) is part of it.
+class CommandObserver {
+public:
+    virtual void BeforeCommand() = 0;
+    virtual void AfterCommand() = 0;
+    // Within a command, around a message box or the clipboard, which may keep everyone waiting.
+    virtual void PauseCommand() {}
+    virtual void ResumeCommand() {}
+
+protected:
+    ~CommandObserver() = default;
+};
+
 // Every change a front end makes goes through a command here, which marks the changed record
 // for the next save and asks the host for a repaint; front ends read the records through const
 // references only.
@@ -110,7 +125,37 @@ public:
     // The stored random seed (brinto-cli's --seed).
     void SetRandomSeed(u32 seed);
 
+    // At most one observer; nullptr removes it.
+    void SetCommandObserver(CommandObserver* observer) { m_observer = observer; }
+    // Whether a command is being carried out (a message box of a key is open, say).
+    bool InCommand() const { return m_commandDepth > 0; }
+
 private:
+    // Around a wait for the user or the clipboard within a command.
+    class Waiting {
+    public:
+        explicit Waiting(Session& session);
+        ~Waiting();
+        Waiting(const Waiting&) = delete;
+        Waiting& operator=(const Waiting&) = delete;
+
+    private:
+        Session& m_session;
+    };
+    void Show(std::string_view caption, std::string_view text);
+
+    // Brackets one command for the observer; nested brackets join the outermost.
+    class Command {
+    public:
+        explicit Command(Session& session);
+        ~Command();
+        Command(const Command&) = delete;
+        Command& operator=(const Command&) = delete;
+
+    private:
+        Session& m_session;
+    };
+
     friend class SessionStore;  // loading replaces the records wholesale
 
     // Dispatches one key and raises the macro messages that the key caused.
@@ -125,6 +170,8 @@ private:
     Engine& m_engine;
     Host& m_host;
     UserKeyMap m_userKeys = EmptyUserKeyMap();
+    CommandObserver* m_observer = nullptr;
+    int m_commandDepth = 0;
 };
 
 // Message texts.

@@ -14,8 +14,6 @@ namespace {
 
 constexpr const char* kInMemoryNow = "; the calculator runs in memory and nothing will be saved";
 
-enum class TroubleKind { Load, Save };
-
 std::optional<std::u16string> SettingName(std::string_view name) {
     if (name.empty() || name.size() > kMaxRecordName) return std::nullopt;
     std::u16string wide;
@@ -28,35 +26,52 @@ std::optional<std::u16string> SettingName(std::string_view name) {
 
 }  // namespace
 
-struct SessionStore::Impl {
+struct SessionStore::Impl : CommandObserver {
     explicit Impl(Session& s) : session(s) {}
 
     Session& session;
     RecordStore store;
     std::string where;            // the file, for messages; empty in memory
-    bool reported[2] = {false, false};
+    FileRecords file;             // what the file held when last read or written
+    FileRecords base;             // the calculator as it was then: what differs is this program's work
+    bool loadReported = false;
+    bool saveFailed = false;      // the last save did not reach the file
+    bool anySaveFailed = false;
+    bool finished = false;
+    std::optional<StoreTransaction> run;  // between BeginRun and EndRun
     std::map<std::u16string, std::vector<std::byte>> pendingSettings;
 
     Engine& engine() { return session.m_engine; }
     UserKeyMap& userKeys() { return session.m_userKeys; }
 
-    void Report(TroubleKind kind, const std::string& text) {
-        bool& once = reported[static_cast<int>(kind)];
-        if (once) return;
-        once = true;
+    // Each command of a window is a run of its own: no other program saves in between, so the
+    // command acts on the latest calculator and what it did is kept at once. A message box or the
+    // clipboard within a command lets the others in while it waits.
+    void BeforeCommand() override { BeginRun(); }
+    void AfterCommand() override { EndRun(); }
+    void PauseCommand() override { EndRun(); }
+    void ResumeCommand() override { BeginRun(); }
+    bool BeginRun();
+    bool EndRun();
+
+    void ReportLoad(const std::string& text) {
+        if (loadReported) return;
+        loadReported = true;
         session.host().ReportTrouble(text);
     }
     // Goes on with a store in memory: whatever the file holds stays as it is.
     void ToMemory() {
+        run.reset();
         store.Open(std::string(RecordStore::kInMemory));
         where.clear();
+        file = base = FileRecords{};
     }
     std::filesystem::path Open(const StoreLocation& location, StartOutcome& out);
     bool OpenFile(const std::filesystem::path& path, StartOutcome& out) {
         std::string warning;
         OpenStateFile(store, path, warning);
         if (!store.IsOpen()) {
-            Report(TroubleKind::Load, warning);
+            ReportLoad(warning);
             ToMemory();
             return false;
         }
@@ -64,7 +79,77 @@ struct SessionStore::Impl {
         where = path.string();
         return true;
     }
+
+    // Takes over `now` where this program kept the file's records as they were; an undoable step.
+    void TakeOver(const FileRecords& now) {
+        Engine& e = engine();
+        const EngineRecords before = e.Records();
+        const PickedUp picked = PickUp(e, userKeys(), file, base, now);
+        base = ImagesOf(e, userKeys());
+        if (picked.engineRecords) {
+            e.history.TakeSnapshot(before);
+            e.history.Commit(e.Records());
+        }
+        if (picked.Any()) session.host().PickedUp(picked.preferences);
+    }
+    // Whether another program saved since this one last looked; reading the counter is cheap.
+    bool OthersSaved() {
+        const std::optional<long long> version = store.DataVersion();
+        return version && version != file.dataVersion;
+    }
+    bool Refresh() {
+        if (finished || where.empty() || session.InCommand() || !OthersSaved()) return false;
+        store.ClearFailure();
+        const FileRecords now = ReadFileRecords(store);
+        if (store.Failed()) return false;  // read again at the next look
+        TakeOver(now);
+        return true;
+    }
+    bool Save();
 };
+
+bool SessionStore::Impl::Save() {
+    if (finished) return false;
+    Engine& e = engine();
+    if (!DiffersFromFile(e, userKeys(), file) && pendingSettings.empty()) return true;
+    const DirtyFlags before = e.dirty;
+    store.ClearFailure();
+    bool saved = false;
+    {
+        StoreTransaction transaction(store, StoreTransaction::Kind::Write);
+        saved = transaction.Started();
+        // Within the write transaction nobody else can save: what others saved until now is taken
+        // over first, so that this save builds on it instead of undoing it.
+        if (saved && !where.empty() && OthersSaved()) {
+            const FileRecords now = ReadFileRecords(store);
+            saved = !store.Failed();
+            if (saved) TakeOver(now);
+        }
+        for (const auto& [name, value] : pendingSettings) {
+            saved = saved && store.WriteRecord(kind::FrontEndSetting, value.data(), value.size(), name);
+        }
+        FileRecords written = file;
+        saved = saved && SaveState(e, userKeys(), store, &written) && transaction.Commit();
+        if (saved) {
+            file.images = written.images;
+            base = ImagesOf(e, userKeys());
+        }
+    }
+    if (!saved) {
+        e.dirty = before;
+        saveFailed = anySaveFailed = true;
+        session.host().ReportSaveFailure("cannot save the calculator to " +
+                                         (where.empty() ? std::string("memory") : where) + " (" +
+                                         store.LastError() + "); the file keeps its last save");
+        return false;
+    }
+    pendingSettings.clear();
+    if (saveFailed) {
+        saveFailed = false;
+        session.host().SaveRecovered();
+    }
+    return true;
+}
 
 SessionStore::SessionStore(Session& session) : m_impl(std::make_unique<Impl>(session)) {}
 
@@ -84,8 +169,8 @@ std::filesystem::path SessionStore::Impl::Open(const StoreLocation& location, St
                 out.trouble = !OpenFile(database, out);
                 break;
             }
-            Report(TroubleKind::Load,
-                   "cannot create the folder " + database.parent_path().string() + ": " + ec.message() + kInMemoryNow);
+            ReportLoad("cannot create the folder " + database.parent_path().string() + ": " + ec.message() +
+                       kInMemoryNow);
             ToMemory();
             out.trouble = true;
             break;
@@ -107,16 +192,15 @@ StartOutcome SessionStore::Start(const StoreLocation& location) {
         return outcome.imported;
     };
     m.store.ClearFailure();
-    const bool loaded = LoadState(m.engine(), m.userKeys(), m.store, migrate);
+    const bool loaded = LoadState(m.engine(), m.userKeys(), m.store, migrate, &m.file);
     if (m.store.Failed() && !m.where.empty()) {
-        m.Report(TroubleKind::Load, "cannot load the calculator from " + m.where + " (" + m.store.LastError() + ")" +
-                                        kInMemoryNow);
+        m.ReportLoad("cannot load the calculator from " + m.where + " (" + m.store.LastError() + ")" + kInMemoryNow);
         m.ToMemory();
         out.trouble = true;
-        LoadState(m.engine(), m.userKeys(), m.store);
+        LoadState(m.engine(), m.userKeys(), m.store, {}, &m.file);
     } else if (m.store.ReadOnly()) {
         // The calculator is there to use; only its saving is impossible.
-        m.Report(TroubleKind::Load, m.where + " is read-only" + kInMemoryNow);
+        m.ReportLoad(m.where + " is read-only" + kInMemoryNow);
         m.ToMemory();
         out.trouble = true;
     }
@@ -126,42 +210,84 @@ StartOutcome SessionStore::Start(const StoreLocation& location) {
         m.session.ChooseInputMethod(choice.method);
         out.openPreferences = choice.openPreferences;
     }
+    // The calculator as loaded (and set up by a first run) is the base against which this
+    // program's own work is told from what others save.
+    m.base = ImagesOf(m.engine(), m.userKeys());
     return out;
 }
 
 std::optional<std::string> SessionStore::ImportLegacy(const std::filesystem::path& exportFile) {
     Impl& m = *m_impl;
+    if (m.finished) return "the calculator is closed";
     const LegacyImport outcome = ImportLegacyFile(m.store, exportFile);
     if (!outcome.imported) return outcome.reason;
-    LoadState(m.engine(), m.userKeys(), m.store);
+    LoadState(m.engine(), m.userKeys(), m.store, {}, &m.file);
+    m.base = ImagesOf(m.engine(), m.userKeys());
     return std::nullopt;
 }
 
-bool SessionStore::Save() {
-    Impl& m = *m_impl;
-    Engine& e = m.engine();
-    const DirtyFlags before = e.dirty;
-    m.store.ClearFailure();
-    bool saved = false;
-    {
-        StoreTransaction transaction(m.store, StoreTransaction::Kind::Write);
-        saved = transaction.Started();
-        for (const auto& [name, value] : m.pendingSettings) {
-            saved = saved && m.store.WriteRecord(kind::FrontEndSetting, value.data(), value.size(), name);
-        }
-        saved = saved && SaveState(e, m.userKeys(), m.store) && transaction.Commit();
-    }
-    if (!saved) {
-        e.dirty = before;
-        m.Report(TroubleKind::Save, "cannot save the calculator to " + m.where + " (" + m.store.LastError() +
-                                        "); the file keeps its last save");
+bool SessionStore::Save() { return m_impl->Save(); }
+
+bool SessionStore::Refresh() { return m_impl->Refresh(); }
+
+void SessionStore::KeepEachCommand() {
+    m_impl->session.SetCommandObserver(m_impl.get());
+    m_impl->Save();  // a first run's answer, or repairs made while loading, are kept at once
+}
+
+bool SessionStore::Impl::BeginRun() {
+    if (finished || run || where.empty()) return false;
+    store.ClearFailure();
+    run.emplace(store, StoreTransaction::Kind::Write);
+    if (!run->Started()) {
+        run.reset();
+        session.host().ReportSaveFailure(where + " is locked by another program (" + store.LastError() + ")");
         return false;
     }
-    m.pendingSettings.clear();
+    if (OthersSaved()) {
+        const FileRecords now = ReadFileRecords(store);
+        if (!store.Failed()) TakeOver(now);
+    }
     return true;
 }
 
-bool SessionStore::HadTrouble() const { return m_impl->reported[0] || m_impl->reported[1]; }
+bool SessionStore::Impl::EndRun() {
+    const FileRecords fileBefore = file, baseBefore = base;
+    bool saved = Save();
+    if (run) {
+        // The save joined the run's transaction: the file has it only once this commits.
+        saved = run->Commit() && saved;
+        run.reset();
+        if (!saved) {  // so that the next save writes those records again
+            file = fileBefore;
+            base = baseBefore;
+        }
+        if (!saved && !saveFailed) {
+            saveFailed = anySaveFailed = true;
+            session.host().ReportSaveFailure("cannot save the calculator to " + where + " (" + store.LastError() +
+                                             "); the file keeps its last save");
+        }
+    }
+    return saved;
+}
+
+bool SessionStore::BeginRun() { return m_impl->BeginRun(); }
+
+bool SessionStore::EndRun() { return m_impl->EndRun(); }
+
+void SessionStore::Finish() {
+    Impl& m = *m_impl;
+    m.session.SetCommandObserver(nullptr);
+    m.run.reset();
+    m.store.Close();
+    m.finished = true;
+}
+
+bool SessionStore::Finished() const { return m_impl->finished; }
+
+bool SessionStore::HadTrouble() const { return m_impl->loadReported || m_impl->anySaveFailed; }
+
+bool SessionStore::LastSaveFailed() const { return m_impl->saveFailed; }
 
 std::optional<std::vector<std::byte>> SessionStore::FrontEndSetting(std::string_view name) const {
     const auto wide = SettingName(name);

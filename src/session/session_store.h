@@ -1,15 +1,23 @@
 #pragma once
-// SessionStore: keeping a session's calculator between runs. It owns the whole start-up (opening or
-// creating the database, moving a damaged file aside, the first-run migration of the handheld
-// release's settings, loading every record with its repairs, the first run's "Input Method"
-// question) and the saving of what changed. Front ends call Start once and Save at deactivation,
-// at exit or on request; what they must tell the user arrives through the Host or the outcome.
+// SessionStore: keeping a session's calculator between runs, and sharing it with every other
+// program that opens the same file. It owns the whole start-up (opening or creating the database,
+// moving a damaged file aside, the first-run migration of the handheld release's settings, loading
+// every record with its repairs, the first run's "Input Method" question) and the saving of what
+// changed; what front ends must tell the user arrives through the Host or the outcome.
 //
-// Damage and trouble are told apart. A damaged or foreign file is moved aside and the run starts
-// on defaults in a fresh file. Trouble (no right to the file, a read-only file, a full disk, an I/O
-// error, a lock held by another program beyond a few seconds, a path that is no regular file)
-// never moves nor changes anything: the host hears of it once (Host::ReportTrouble) and the run
-// goes on in memory.
+// One calculator, many doors: the desktop program keeps every command as it is made and picks up
+// what others saved before its next command, at activation and while idle (KeepEachCommand,
+// Refresh); brinto-cli does its whole run between BeginRun and EndRun, during which no other
+// program saves, so parallel runs take turns and each builds on the one before. Only records that
+// changed are written. A record that two programs changed at the same moment keeps the version of
+// the one that saved last; everything else of both is kept.
+//
+// Damage and trouble are told apart. A damaged Brinto database is moved aside and the run starts
+// on defaults in a fresh file. A file that is not a Brinto database is never touched. Trouble (no
+// right to the file, a read-only file, an I/O error, a lock held by another program beyond a few
+// seconds, a path that is no regular file or names someone else's file) never moves nor changes
+// anything: the host hears of it once (Host::ReportTrouble) and the run goes on in memory. Every
+// save that fails is told (Host::ReportSaveFailure) and tried again at the next save.
 #include <cstddef>
 #include <filesystem>
 #include <memory>
@@ -62,12 +70,31 @@ public:
     // one line.
     std::optional<std::string> ImportLegacy(const std::filesystem::path& exportFile);
 
-    // Writes the changed records, CalcState and the changed front-end settings as one transaction.
-    // False when that did not reach the file; the first such failure is reported to the host,
-    // the saved state stays as it was and the records stay marked for the next try.
+    // Writes the records that differ from the file and the changed front-end settings as one
+    // transaction, after picking up what another program saved meanwhile. True at once when
+    // nothing changed. False when it did not reach the file; every such failure is reported to the
+    // host, the file keeps its last save and the changes are kept for the next try.
     bool Save();
-    // Whether any trouble was reported during this run.
+    // Takes over what another program saved since this one last read or wrote the file, as one
+    // undoable step, and tells the host. Costs a look at a counter when nothing changed; does
+    // nothing while a command is being carried out. True when something was taken over.
+    bool Refresh();
+    // Every command of the session is kept as it is made: before it, what others saved is picked
+    // up; after it, what changed is saved. For a program that stays open beside others.
+    void KeepEachCommand();
+    // From BeginRun to EndRun no other program can save, and the calculator is the latest one in
+    // the file: a run of keys in between is one read-modify-write. EndRun saves and lets others
+    // in; false when that save failed. BeginRun reports a file locked for too long and the run
+    // then saves at EndRun as Save does.
+    bool BeginRun();
+    bool EndRun();
+    // Ends the use of the file: nothing is read or written afterwards, whatever is called.
+    void Finish();
+    bool Finished() const;
+
+    // Whether any trouble was reported during this run, and whether the last save failed.
     bool HadTrouble() const;
+    bool LastSaveFailed() const;
 
     // A front end's own setting (the desktop program's window geometry), kept beside the
     // calculator's records; nothing when none is stored. Names are 1..32 ASCII characters, values

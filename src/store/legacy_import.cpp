@@ -168,7 +168,9 @@ Migration WriteLegacy(RecordStore& store, const LegacyValues& values) {
 
 // The whole file, or nullopt with the reason when it cannot be read or is far too large.
 std::optional<std::string> ReadWholeFile(const std::filesystem::path& file, std::string& reason) {
-    constexpr std::uintmax_t kLargest = 16 << 20;  // far more than any export of one key needs
+    // An export of the one key is a few kilobytes; a file much larger is something else, and is
+    // refused before it is read rather than parsed at many times its size in memory.
+    constexpr std::uintmax_t kLargest = 1 << 20;
     std::error_code ec;
     const std::uintmax_t size = std::filesystem::file_size(file, ec);
     if (ec) {

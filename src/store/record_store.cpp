@@ -20,7 +20,21 @@ constexpr int kSchemaVersion = 1;
 // How long a load or a save waits for another process's save to finish before giving up.
 constexpr int kBusyTimeoutMs = 3000;
 
+// SQLite's own busy timeout sleeps longer and longer between tries, so a program that waits can
+// lose its turn again and again to runs that come and go quickly (two scripts looping over
+// brinto-cli). Short tries with a little randomness let every waiter in soon after the holder
+// leaves.
+int WaitWhileBusy(void*, int tries) {
+    constexpr int kPauseMicroseconds = 2000;
+    if (static_cast<long long>(tries) * kPauseMicroseconds >= kBusyTimeoutMs * 1000LL) return 0;
+    static thread_local unsigned seed = static_cast<unsigned>(getpid());
+    seed = seed * 1103515245u + 12345u;
+    usleep(kPauseMicroseconds / 2 + (seed >> 16) % kPauseMicroseconds);
+    return 1;
+}
+
 constexpr const char* kTableNames[2] = {"BrintoConfig", "BrintoState"};
+constexpr const char* kLogSuffixes[] = {"-wal", "-shm"};
 
 constexpr const char* kCreateSchema =
     "CREATE TABLE BrintoConfig(id INTEGER PRIMARY KEY, header BLOB NOT NULL, payload BLOB NOT NULL);"
@@ -36,7 +50,7 @@ OpenResult Judge(int code) {
         case SQLITE_FORMAT:
         case SQLITE_SCHEMA:
         case SQLITE_ERROR:
-        case SQLITE_MISMATCH: return OpenResult::NotBrinto;
+        case SQLITE_MISMATCH: return OpenResult::Damaged;
         case SQLITE_BUSY:
         case SQLITE_LOCKED: return OpenResult::Busy;
         default: return OpenResult::Unavailable;
@@ -123,20 +137,57 @@ OpenResult RecordStore::Open(const std::string& path) {
         }
         return OpenResult::Opened;
     }
+    const OpenResult first = OpenOnce(path, false);
+    if (first != OpenResult::Damaged) return first;
+    // Damage is confirmed by a second look with the full check before anyone acts on it: a read
+    // error that passes (a flaky disk, a file still being copied in) must not cost the user the file.
+    const std::string firstError = m_error;
+    const OpenResult second = OpenOnce(path, true);
+    if (second == OpenResult::Damaged && m_error.empty()) m_error = firstError;
+    return second;
+}
+
+OpenResult RecordStore::OpenOnce(const std::string& path, bool fullCheck) {
+    Close();
+    m_error.clear();
     if (const OpenResult kind = CheckPath(path); kind != OpenResult::Opened) return kind;
     if (const OpenResult header = CheckFileHeader(path); header != OpenResult::Opened) return header;
+    RepairCompanions(path);
+    // The file is judged through a connection that may not write: only a writer replays a log
+    // lying beside the database or removes it on closing, and a file that turns out damaged must
+    // go aside together with its log, exactly as it was. A rollback journal beside it is only
+    // ever left by a creation that was cut short, and must be rolled back to judge the file.
+    std::error_code ec;
+    const bool journal = std::filesystem::exists(path + "-journal", ec);
+    // The log and shared-memory files SQLite makes to read the file are ours to take away again
+    // when the file is not used; those that were there belong to the file.
+    bool had[std::size(kLogSuffixes)] = {};
+    for (std::size_t i = 0; i < std::size(kLogSuffixes); ++i) {
+        had[i] = std::filesystem::exists(path + kLogSuffixes[i], ec);
+    }
+    OpenResult result = OpenExisting(path, journal ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY)
+                            ? CheckBrinto(fullCheck)
+                            : OpenResult::Unavailable;
+    Close();
+    if (result != OpenResult::Opened) {
+        for (std::size_t i = 0; i < std::size(kLogSuffixes); ++i) {
+            if (!had[i]) std::filesystem::remove(path + kLogSuffixes[i], ec);
+        }
+        return result;
+    }
     if (!OpenExisting(path, SQLITE_OPEN_READWRITE)) {
         Close();
         return OpenResult::Unavailable;
     }
-    const OpenResult result = CheckBrinto();
+    result = Ready();
     if (result != OpenResult::Opened) Close();
     return result;
 }
 
 // Decides from what the path names, before anything opens it: a regular file (or a link to one)
-// goes on to the header check, a missing name is created when its folder exists, and anything
-// else is refused. A folder must not be renamed, a device not replaced and a pipe not waited on.
+// goes on to the header check, a missing name is created empty when its folder exists (and made a
+// database by CheckBrinto), and anything else is refused. A folder must not be renamed, a device
+// not replaced and a pipe not waited on.
 OpenResult RecordStore::CheckPath(const std::string& path) {
     struct stat info {};
     if (lstat(path.c_str(), &info) != 0) {
@@ -150,7 +201,15 @@ OpenResult RecordStore::CheckPath(const std::string& path) {
             m_error = "cannot create " + path + ": its folder does not exist";
             return OpenResult::Unavailable;
         }
-        return CreateFresh(path) ? OpenResult::Opened : OpenResult::Unavailable;
+        // An empty file, never a half-made database: the schema is written in one transaction by
+        // whichever process opens the empty file first, and the others wait for it.
+        const int fd = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0666);
+        if (fd < 0 && errno != EEXIST) {
+            m_error = "cannot create " + path + ": " + std::strerror(errno);
+            return OpenResult::Unavailable;
+        }
+        if (fd >= 0) close(fd);
+        return OpenResult::Opened;
     }
     // A link is followed once; one that leads nowhere is not created through.
     if (S_ISLNK(info.st_mode) && stat(path.c_str(), &info) != 0) {
@@ -166,8 +225,9 @@ OpenResult RecordStore::CheckPath(const std::string& path) {
 
 // Looks at the file's first bytes before SQLite does: opening a foreign or garbage file would let
 // SQLite act on a journal lying beside it (replay it, or delete it on closing), and that journal
-// belongs to whatever the user had there. The look never blocks: should the name have been
-// replaced by a pipe or a device since CheckPath, it is refused here.
+// belongs to whatever the user had there. Only an empty file or an SQLite database carrying
+// Brinto's mark goes on. The look never blocks: should the name have been replaced by a pipe or a
+// device since CheckPath, it is refused here.
 OpenResult RecordStore::CheckFileHeader(const std::string& path) {
     constexpr std::size_t kHeaderBytes = 100;
     const int fd = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
@@ -195,15 +255,31 @@ OpenResult RecordStore::CheckFileHeader(const std::string& path) {
         got += static_cast<std::size_t>(n);
     }
     close(fd);
+    if (got == 0) return OpenResult::Opened;  // an empty file becomes a new database
     // The format mark, then the application id as a big-endian word at offset 68.
     const auto byte = [&](int i) { return static_cast<unsigned>(header[i]); };
     const unsigned applicationId = byte(68) << 24 | byte(69) << 16 | byte(70) << 8 | byte(71);
     if (got != kHeaderBytes || std::memcmp(header, "SQLite format 3", 16) != 0 ||
         applicationId != static_cast<unsigned>(kApplicationId)) {
-        m_error = "not a Brinto database";
-        return OpenResult::NotBrinto;
+        m_error = path + " is not a Brinto database";
+        return OpenResult::Foreign;
     }
     return OpenResult::Opened;
+}
+
+// SQLite makes its shared-memory and log files with the database's own permissions: a run on a
+// write-protected database leaves them write-protected, and once the user makes the database
+// writable again they would still stop every save. Ours are given back the database's rights.
+void RecordStore::RepairCompanions(const std::string& path) {
+    struct stat database {};
+    if (stat(path.c_str(), &database) != 0 || access(path.c_str(), W_OK) != 0) return;
+    for (const char* suffix : kLogSuffixes) {
+        const std::string companion = path + suffix;
+        struct stat info {};
+        if (lstat(companion.c_str(), &info) != 0 || !S_ISREG(info.st_mode) || info.st_uid != geteuid()) continue;
+        const mode_t wanted = database.st_mode & 0666;
+        if ((info.st_mode & 0666) != wanted) chmod(companion.c_str(), wanted);
+    }
 }
 
 bool RecordStore::OpenExisting(const std::string& path, int flags) {
@@ -211,50 +287,39 @@ bool RecordStore::OpenExisting(const std::string& path, int flags) {
         Fail("cannot open " + path);
         return false;
     }
-    sqlite3_busy_timeout(m_db, kBusyTimeoutMs);
+    sqlite3_busy_handler(m_db, WaitWhileBusy, nullptr);
     return true;
 }
 
-// Builds the new database under a private name and links it into place only when complete; when
-// another process got there first, its file is kept and ours dropped.
-bool RecordStore::CreateFresh(const std::string& path) {
-    const std::string temporary = path + ".new-" + std::to_string(getpid());
-    std::error_code ec;
-    std::filesystem::remove(temporary, ec);
-    sqlite3* db = nullptr;
-    bool made = sqlite3_open_v2(temporary.c_str(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE,
-                                nullptr) == SQLITE_OK;
-    if (made) {
-        const std::string setup = "BEGIN;PRAGMA application_id=" + std::to_string(kApplicationId) +
-                                  ";PRAGMA user_version=" + std::to_string(kSchemaVersion) + ";" +
-                                  kCreateSchema + "COMMIT;PRAGMA journal_mode=WAL;";
-        made = sqlite3_exec(db, setup.c_str(), nullptr, nullptr, nullptr) == SQLITE_OK;
+// Writes the tables and Brinto's mark into an empty database as one transaction. Another process
+// that found the same empty file waits at BEGIN IMMEDIATE and then finds the work done.
+bool RecordStore::InitializeEmpty() {
+    if (sqlite3_exec(m_db, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr) != SQLITE_OK) return false;
+    // Within the transaction the database already has its first page; "empty" means no tables.
+    int tables = 0, code = SQLITE_OK;
+    bool made = QueryInt(m_db, "SELECT count(*) FROM sqlite_master", tables, code);
+    if (made && tables == 0) {
+        const std::string schema = "PRAGMA application_id=" + std::to_string(kApplicationId) +
+                                   ";PRAGMA user_version=" + std::to_string(kSchemaVersion) + ";" + kCreateSchema;
+        made = sqlite3_exec(m_db, schema.c_str(), nullptr, nullptr, nullptr) == SQLITE_OK;
     }
-    if (!made) m_error = std::string("cannot create ") + path + ": " + (db ? sqlite3_errmsg(db) : "out of memory");
-    made = sqlite3_close(db) == SQLITE_OK && made;
-    if (made) {
-        std::filesystem::create_hard_link(temporary, path, ec);
-        if (ec && ec != std::errc::file_exists) {
-            // Folders without hard links: an atomic rename will do, at the small risk of
-            // replacing a file another process created at the same instant.
-            ec.clear();
-            std::filesystem::rename(temporary, path, ec);
-        }
-        if (ec && ec != std::errc::file_exists) {
-            m_error = "cannot create " + path + ": " + ec.message();
-            made = false;
-        }
-    }
-    std::filesystem::remove(temporary, ec);
-    std::filesystem::remove(temporary + "-wal", ec);
-    std::filesystem::remove(temporary + "-shm", ec);
+    made = made && sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr) == SQLITE_OK;
+    if (!made) sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
     return made;
 }
 
 // Tells a Brinto database from anything else: our application id, both tables with the columns we
-// use, every header a well-formed 80-byte blob in the table of its kind, and an intact file.
-OpenResult RecordStore::CheckBrinto() {
+// use, every header a well-formed 80-byte blob in the table of its kind, and an intact file. The
+// quick check reads every page; the full one (a second look before damage is declared) also
+// checks every index and constraint.
+OpenResult RecordStore::CheckBrinto(bool fullCheck) {
     int code = SQLITE_OK;
+    int pages = 0;
+    if (!QueryInt(m_db, "PRAGMA page_count", pages, code)) {
+        Fail("cannot read the database");
+        return Judge(code);
+    }
+    if (pages == 0) return OpenResult::Opened;  // an empty file: Ready makes it a database
     int applicationId = 0;
     std::string check;
     if (!QueryInt(m_db, "PRAGMA application_id", applicationId, code)) {
@@ -263,15 +328,15 @@ OpenResult RecordStore::CheckBrinto() {
     }
     if (applicationId != kApplicationId) {
         m_error = "not a Brinto database";
-        return OpenResult::NotBrinto;
+        return OpenResult::Foreign;
     }
-    if (!QueryText(m_db, "PRAGMA quick_check", check, code)) {
+    if (!QueryText(m_db, fullCheck ? "PRAGMA integrity_check(1)" : "PRAGMA quick_check(1)", check, code)) {
         Fail("cannot read the database");
         return Judge(code);
     }
     if (check != "ok") {
         m_error = "damaged database: " + check.substr(0, check.find('\n'));
-        return OpenResult::NotBrinto;
+        return OpenResult::Damaged;
     }
     if (!Prepare()) {
         // A missing table or column is damage; a lock or an I/O error while reading the schema is not.
@@ -291,7 +356,7 @@ OpenResult RecordStore::CheckBrinto() {
                 TableOf(header.kind) != table) {
                 sqlite3_reset(scan);
                 m_error = std::string("a record of table ") + kTableNames[table] + " is damaged";
-                return OpenResult::NotBrinto;
+                return OpenResult::Damaged;
             }
         }
         sqlite3_reset(scan);
@@ -299,6 +364,27 @@ OpenResult RecordStore::CheckBrinto() {
             Fail("cannot read the database");
             return Judge(code);
         }
+    }
+    return OpenResult::Opened;
+}
+
+// Makes a file judged ours ready for use on a connection that may write: an empty one gets the
+// tables, and the statements are prepared.
+OpenResult RecordStore::Ready() {
+    int code = SQLITE_OK;
+    int pages = 0;
+    if (!QueryInt(m_db, "PRAGMA page_count", pages, code)) {
+        Fail("cannot read the database");
+        return Judge(code);
+    }
+    if (pages == 0 && !InitializeEmpty()) {
+        Fail("cannot create the database");
+        return OpenResult::Unavailable;
+    }
+    if (!Prepare()) {
+        const int prepareCode = sqlite3_extended_errcode(m_db);
+        Fail("not a Brinto database");
+        return Judge(prepareCode);
     }
     // Only now that the file is known to be ours may it be changed. The write-ahead log makes a
     // save one append (no waiting for the disk), and a kill at any moment leaves either the old or
@@ -429,6 +515,12 @@ bool RecordStore::Write(u32 kind, const void* buffer, std::size_t size, u16 inde
 }
 
 bool RecordStore::ReadOnly() const { return m_db && sqlite3_db_readonly(m_db, "main") == 1; }
+
+std::optional<long long> RecordStore::DataVersion() {
+    int version = 0, code = SQLITE_OK;
+    if (!m_db || !QueryInt(m_db, "PRAGMA data_version", version, code)) return std::nullopt;
+    return version;
+}
 
 int RecordStore::CountRecords() {
     if (!m_db) return 0;

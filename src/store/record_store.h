@@ -7,8 +7,10 @@
 //
 // Several processes may share one file (the desktop program and brinto-cli): each waits a while
 // for the other's write to finish, and every change is one SQLite transaction, so a crash or kill
-// leaves the file as it was before or after a save, never in between.
+// leaves the file as it was before or after a save, never in between. DataVersion tells a program
+// that another one has saved, so that it can pick the change up before building on it.
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -20,11 +22,13 @@ struct sqlite3_stmt;
 
 namespace brinto {
 
-// Damage is the file's own fault and only NotBrinto says so; every other failure is trouble
-// around a file that may well be sound, and the file must then be left exactly as it is.
+// Damage is the file's own fault and only Damaged says so; every other failure is trouble around
+// a file that may well be sound, or a file that is not ours, and the file must then be left
+// exactly as it is.
 enum class OpenResult {
-    Opened,       // a Brinto database, created first if the file did not exist
-    NotBrinto,    // the file is damaged or holds something else; it was left untouched
+    Opened,       // a Brinto database, created first if the file did not exist or was empty
+    Damaged,      // a Brinto database that cannot be used as it is; it was left untouched
+    Foreign,      // a file of something else (text, a picture, another program's database): not ours
     Busy,         // another process kept the file locked for longer than the store waits
     Unavailable,  // the file could not be read or created (rights, a missing folder, I/O, a full disk)
     Refused,      // the path names no regular file (a folder, a device, a pipe): never opened
@@ -41,10 +45,12 @@ public:
     RecordStore& operator=(const RecordStore&) = delete;
 
     // Opens the database at `path`. A missing file is created complete (both tables) under a
-    // temporary name and then moved into place, so no other process ever sees a half-made one.
-    // A file that exists but is not a Brinto database is not changed in any way. Only a regular
-    // file (or a link to one) is handed to SQLite; anything else is refused without being opened
-    // for more than a non-blocking look, so a folder, a device or a pipe is never touched.
+    // temporary name and then moved into place, so no other process ever sees a half-made one;
+    // an empty file becomes a database where it is. A file that exists but is not a Brinto
+    // database is not changed in any way. Only a regular file (or a link to one) is handed to
+    // SQLite; anything else is refused without being opened for more than a non-blocking look, so
+    // a folder, a device or a pipe is never touched. What looks damaged is looked at a second time
+    // with a full integrity check before it is called Damaged, so a passing read error is trouble.
     OpenResult Open(const std::string& path);
     void Close();
     bool IsOpen() const { return m_db != nullptr; }
@@ -56,6 +62,10 @@ public:
     void ClearFailure() { m_failed = false; }
     // An open database that SQLite could only open for reading (a write-protected file).
     bool ReadOnly() const;
+    // A number that changes whenever another connection (another program) has committed a change
+    // to the file since this one last looked; this store's own saves leave it as it is. Nothing
+    // when it cannot be read. Within a transaction it belongs to that transaction's snapshot.
+    std::optional<long long> DataVersion();
 
     // Finds the first record (in insertion order) with this kind and index and an empty name,
     // copies min(stored size, size) payload bytes into `buffer` and sets `size` to that count.
@@ -75,11 +85,14 @@ private:
     friend class StoreTransaction;
     struct Found;
 
+    OpenResult OpenOnce(const std::string& path, bool fullCheck);
     OpenResult CheckPath(const std::string& path);
     OpenResult CheckFileHeader(const std::string& path);
     bool OpenExisting(const std::string& path, int flags);
-    bool CreateFresh(const std::string& path);
-    OpenResult CheckBrinto();
+    void RepairCompanions(const std::string& path);
+    bool InitializeEmpty();
+    OpenResult CheckBrinto(bool fullCheck);
+    OpenResult Ready();
     bool Prepare();
     bool Find(u32 kind, u16 index, std::u16string_view name, Found& found);
     bool Read(u32 kind, u16 index, std::u16string_view name, void* buffer, std::size_t& size);

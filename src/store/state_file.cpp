@@ -77,21 +77,24 @@ OpenResult OpenStateFile(RecordStore& store, const fs::path& path, std::string& 
         case OpenResult::Busy:
             warning = path.string() + " is locked by another program" + kNothingSaved;
             return result;
+        case OpenResult::Foreign:
+            warning = path.string() + " is not a Brinto database; it was left as it is" + kNothingSaved;
+            return result;
         case OpenResult::Unavailable:
         case OpenResult::Refused:
             warning = store.LastError() + kNothingSaved;
             return result;
-        case OpenResult::NotBrinto: break;
+        case OpenResult::Damaged: break;
     }
     const std::string reason = store.LastError();
     const fs::path aside = MoveAside(path);
     if (aside.empty()) {
-        warning = path.string() + " cannot be used (" + reason + ") nor moved aside" + kNothingSaved;
+        warning = path.string() + " is damaged (" + reason + ") and cannot be moved aside" + kNothingSaved;
         return result;
     }
     const OpenResult fresh = store.Open(path.string());
-    warning = path.string() + " was damaged or not a Brinto database (" + reason + "); kept it as " +
-              aside.string() + (fresh == OpenResult::Opened ? "; starting on defaults" : kNothingSaved);
+    warning = path.string() + " was damaged (" + reason + "); kept it as " + aside.string() +
+              (fresh == OpenResult::Opened ? "; starting on defaults" : kNothingSaved);
     return fresh;
 }
 

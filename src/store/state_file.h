@@ -19,13 +19,14 @@ StateLocations LocationsFrom(const char* xdgDataHome, const char* xdgConfigHome,
 // From this process's environment.
 StateLocations DefaultLocations();
 
-// Opens the database at `path`, creating the file when missing (its folder must exist). A file
-// that is damaged or not a Brinto database is renamed aside in the same folder (with ".damaged-"
-// and the time in its name, so nothing the user had is destroyed) and a fresh database takes its
-// place. Trouble (no right to read, an I/O error, a lock held too long, a path that names no
-// regular file) never moves nor changes anything: the store stays closed. A write-protected file
-// opens for reading only (RecordStore::ReadOnly). `warning`
-// gets one line when something was wrong; whether the store is open tells damage from trouble.
+// Opens the database at `path`, creating the file when missing (its folder must exist) or empty.
+// A Brinto database that is damaged (confirmed by a second look) is renamed aside in the same
+// folder (with ".damaged-" and the time in its name, so nothing the user had is destroyed) and a
+// fresh database takes its place. A file that is not a Brinto database is someone else's and is
+// refused untouched. Trouble (no right to read, an I/O error, a lock held too long, a path that
+// names no regular file) never moves nor changes anything either: the store stays closed. A
+// write-protected file opens for reading only (RecordStore::ReadOnly). `warning` gets one line
+// when something was wrong; whether the store is open tells damage from refusal and trouble.
 OpenResult OpenStateFile(RecordStore& store, const std::filesystem::path& path, std::string& warning);
 
 // Renames `path` (and SQLite's companion files beside it) to a free name with ".damaged-" and the

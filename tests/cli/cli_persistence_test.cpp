@@ -106,7 +106,11 @@ TEST_F(CliPersistence, AFirstRunPicksUpTheExportBesideTheSettings) {
 }
 
 TEST_F(CliPersistence, ADamagedFileIsKeptAsideWithOneWarning) {
-    WriteFile(Db(), "this is not a database, but it is the user's file");
+    Cli({"--db", Db(), "9", "+"});
+    std::string damaged = ReadFile(Db());
+    ASSERT_GT(damaged.size(), 8192u);
+    std::fill(damaged.begin() + 4096, damaged.end(), '\x5A');
+    WriteFile(Db(), damaged);
     const CliRun run = Cli({"--db", Db(), "6", "+"});
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(run.out, "6.\n");
@@ -116,26 +120,42 @@ TEST_F(CliPersistence, ADamagedFileIsKeptAsideWithOneWarning) {
 }
 
 // Trouble with the file, met at the start (here a pipe; the store tells each kind apart) or at
-// the save (a full disk): the run goes on in memory, one line says so, the exit status is 1, and
-// nothing is touched.
-TEST_F(CliPersistence, TroubleSaysOneLineExitsOneAndTouchesNothing) {
-    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+// the save (a full disk), and a file that is not a Brinto database (someone's shell settings, a
+// picture, another program's database, a link to one of them): the run goes on in memory, one line
+// says so, the exit status is 1, and nothing is touched, byte for byte.
+TEST_F(CliPersistence, TroubleAndForeignFilesSayOneLineExitOneAndTouchNothing) {
+    const std::filesystem::path files = folder / "files";
+    std::filesystem::create_directories(files);
+    ASSERT_EQ(mkfifo((files / "pipe").c_str(), 0600), 0);
+    WriteFile(files / ".bashrc", "export PATH=$HOME/bin:$PATH\n");
+    WriteFile(files / "photo.png", std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16) + std::string(2000, '\x7F'));
+    std::filesystem::create_symlink(files / ".bashrc", files / "link.db");
     Cli({"--db", Db(), "9", "+"});
+    // Another program's database: a sound SQLite file with the same tables, but another mark.
+    std::string other = ReadFile(Db());
+    other.replace(68, 4, "Othr");
+    WriteFile(files / "other.db", other);
     const std::tuple<const char*, std::string, std::string> cases[] = {  // name, --db, shell limits
-        {"a pipe", (folder / "pipe").string(), ""},
+        {"a pipe", (files / "pipe").string(), ""},
         {"a full disk", Db(), "ulimit -f 1; "},
+        {"a text file", (files / ".bashrc").string(), ""},
+        {"a picture", (files / "photo.png").string(), ""},
+        {"another program's database", (files / "other.db").string(), ""},
+        {"a link to a text file", (files / "link.db").string(), ""},
     };
     for (const auto& [name, db, limits] : cases) {
         SCOPED_TRACE(name);
         const std::string before = ReadFile(Db());
+        const std::string others = Snapshot(files);
         const CliRun run = Cli({"--db", db, "6", "+"}, limits);
         EXPECT_EQ(run.status, 1);
         EXPECT_EQ(run.out, "6.\n");
         EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
         EXPECT_NE(run.err.find("nothing will be saved"), std::string::npos) << run.err;
         EXPECT_TRUE(ReadFile(Db()) == before);
+        EXPECT_EQ(Snapshot(files), others);
     }
-    EXPECT_TRUE(std::filesystem::is_fifo(folder / "pipe"));
+    EXPECT_TRUE(std::filesystem::is_fifo(files / "pipe"));
     EXPECT_EQ(Cli({"--db", Db(), "1", "="}).out, "10.\n");
 }
 

@@ -23,6 +23,8 @@ public:
     std::vector<View> opened;
     InputMethodChoice answer;
     int asked = 0;
+    int recovered = 0;
+    std::vector<bool> pickedUp;  // whether each change taken over from another program had preferences
     FixedPlatform clock;
 
     void ShowMessage(std::string_view caption, std::string_view text) override {
@@ -38,6 +40,8 @@ public:
         return answer;
     }
     void ReportTrouble(std::string_view text) override { troubles.emplace_back(text); }
+    void SaveRecovered() override { ++recovered; }
+    void PickedUp(bool preferences) override { pickedUp.push_back(preferences); }
     DateFields Now() const override { return clock.Now(); }
     std::string DateText(const DateFields& d, bool longForm) const override { return clock.DateText(d, longForm); }
     std::string TimeText(const DateFields& t) const override { return clock.TimeText(t); }

@@ -69,18 +69,28 @@ TEST_F(SessionStoreTest, AFirstRunAsksOnceAndKeepsTheAnswer) {
     EXPECT_EQ(Snapshot(), before);
 }
 
-// Damage is moved aside and the run starts afresh; trouble is reported once, changes nothing, and
-// the run goes on in memory without asking the first run's question.
+// Damage is moved aside and the run starts afresh; trouble and someone else's file are reported
+// once, change nothing, and the run goes on in memory without asking the first run's question.
 TEST_F(SessionStoreTest, DamageIsMovedAsideTroubleIsReportedAndTouchesNothing) {
     ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
+    {
+        FrontEnd maker;
+        maker.store.Start(StoreLocation::File(folder / "damaged.db"));
+        ASSERT_TRUE(maker.store.Save());
+    }
+    std::string damaged = ReadFile(folder / "damaged.db");
+    ASSERT_GT(damaged.size(), 8192u);
+    std::fill(damaged.begin() + 4096, damaged.end(), '\x5A');
+    WriteFile(folder / "damaged.db", damaged);
+    WriteFile(folder / "notes.txt", "not a database at all");
     // Each kind of trouble is told apart by the store's own tests; here one stands for them all.
     const std::tuple<const char*, std::filesystem::path, bool> cases[] = {  // name, path, trouble
         {"a pipe", folder / "pipe", true},
+        {"someone else's file", folder / "notes.txt", true},
         {"a damaged file", folder / "damaged.db", false},
     };
     for (const auto& [name, path, trouble] : cases) {
         SCOPED_TRACE(name);
-        if (!trouble) WriteFile(path, "not a database at all");
         const std::string before = Snapshot();
         FrontEnd run;
         const StartOutcome outcome = run.store.Start(StoreLocation::File(path));
@@ -120,7 +130,7 @@ private:
     void (*m_signal)(int) = nullptr;
 };
 
-TEST_F(SessionStoreTest, AFailedSaveIsReportedOnceAndTriedAgainWhole) {
+TEST_F(SessionStoreTest, EveryFailedSaveIsReportedAndTriedAgainWhole) {
     FrontEnd run;
     run.store.Start(StoreLocation::File(db));
     run.session.StoreRegister(5, 7.0);
@@ -131,9 +141,9 @@ TEST_F(SessionStoreTest, AFailedSaveIsReportedOnceAndTriedAgainWhole) {
         EXPECT_FALSE(run.store.Save());
         EXPECT_FALSE(run.store.Save());
     }
-    ASSERT_EQ(run.host.troubles.size(), 1u);
-    EXPECT_NE(run.host.troubles[0].find(db.string()), std::string::npos) << run.host.troubles[0];
-    EXPECT_TRUE(run.store.HadTrouble());
+    ASSERT_EQ(run.host.troubles.size(), 2u);
+    EXPECT_NE(run.host.troubles[1].find(db.string()), std::string::npos) << run.host.troubles[1];
+    EXPECT_TRUE(run.store.HadTrouble() && run.store.LastSaveFailed());
     {
         FrontEnd reader;
         reader.store.Start(StoreLocation::File(db));
@@ -141,9 +151,56 @@ TEST_F(SessionStoreTest, AFailedSaveIsReportedOnceAndTriedAgainWhole) {
     }
     // The changed registers stayed marked: the next save that can write them does.
     EXPECT_TRUE(run.store.Save());
+    EXPECT_EQ(run.host.recovered, 1);
+    EXPECT_FALSE(run.store.LastSaveFailed());
     FrontEnd reader;
     reader.store.Start(StoreLocation::File(db));
     EXPECT_EQ(reader.engine.registers.values[5], 42.0);
+}
+
+// Two windows on one file are one calculator: each keeps every command at once and builds on what
+// the other saved, and a change taken over is one step that Undo takes back.
+TEST_F(SessionStoreTest, TwoWindowsOnOneFileAreOneCalculator) {
+    FrontEnd a, b;
+    a.store.Start(StoreLocation::File(db));
+    a.store.KeepEachCommand();
+    b.store.Start(StoreLocation::File(db));
+    b.store.KeepEachCommand();
+    a.session.SetPreferences([&] {
+        Preferences p = a.engine.prefs;
+        p.SetMethod(InputMethod::Rpn);
+        return p;
+    }());
+    a.session.StoreRegister(1, 10.0);
+    b.session.StoreRegister(2, 20.0);  // b takes a's change over first, then adds its own
+    EXPECT_TRUE(b.engine.IsRpn());
+    EXPECT_EQ(b.host.pickedUp, std::vector<bool>{true});
+    a.session.CharacterKey('5');
+    a.session.Special(SpecialKey::Enter);
+    b.session.CharacterKey('6');
+    b.session.CharacterKey('+');
+    EXPECT_EQ(a.engine.X(), 5.0);
+    ASSERT_TRUE(a.store.Refresh());  // an idle look, or the next command, shows b's work
+    EXPECT_EQ(a.engine.X(), 11.0);
+    a.session.CharacterKey('2');
+    b.session.CharacterKey('*');  // on a's 2: b's own 11 is gone from its X
+    EXPECT_EQ(b.engine.X(), 22.0);
+    ASSERT_TRUE(a.store.Refresh());
+    EXPECT_EQ(a.engine.X(), 22.0);
+    EXPECT_EQ(a.engine.registers.values[2], 20.0);
+    // a's Undo takes back the step it took over (b's multiplication) and keeps that.
+    a.session.Undo();
+    EXPECT_EQ(a.engine.X(), 2.0);
+    EXPECT_TRUE(b.store.Refresh());
+    EXPECT_EQ(b.engine.X(), 2.0);
+    // Nothing changed: no look at the file finds anything, and no save writes anything.
+    EXPECT_FALSE(a.store.Refresh() || b.store.Refresh());
+    FrontEnd reader;
+    reader.store.Start(StoreLocation::File(db));
+    EXPECT_EQ(reader.engine.X(), 2.0);
+    EXPECT_EQ(reader.engine.Y(), 11.0);
+    EXPECT_EQ(reader.engine.registers.values[1], 10.0);
+    EXPECT_EQ(reader.engine.registers.values[2], 20.0);
 }
 
 TEST_F(SessionStoreTest, FrontEndSettingsTravelWithTheNextSave) {
