@@ -81,7 +81,7 @@ test-sanitize:
 	  ctest --test-dir build-asan --output-on-failure -j $(JOBS)
 
 bench: deps
-	cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release -DBRINTO_BENCH=ON -DBRINTO_TESTS=OFF -DBRINTO_APP=OFF $(CMAKE_FLAGS)
+	cmake -S . -B build-bench -DCMAKE_BUILD_TYPE=Release -DBRINTO_BENCH=ON -DBRINTO_TESTS=OFF -DBRINTO_APP=ON $(CMAKE_FLAGS)
 	cmake --build build-bench -j $(JOBS)
 	./build-bench/brinto_bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true
 	./build-bench/app_bench --benchmark_repetitions=5 --benchmark_report_aggregates_only=true

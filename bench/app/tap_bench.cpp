@@ -1,8 +1,12 @@
 // A tap on a drawn key to the repainted display and keys, on Qt's offscreen platform.
 #include <benchmark/benchmark.h>
 
+#include <unistd.h>
+
 #include <QApplication>
 #include <QTest>
+#include <filesystem>
+#include <string>
 
 #include "app/calculator.h"
 #include "app/main_window.h"
@@ -18,17 +22,27 @@ public:
     bool Confirm(std::string_view, std::string_view) override { return true; }
 };
 
+// Argument 1: the calculator is kept in a database file, every tap saved as it is made (the
+// program's own way); 0: in memory, the drawing alone.
 void TapToRepaint(benchmark::State& state) {
     QuietHost host;
     Calculator calculator(host);
-    calculator.Start(AppOptions::InMemory());
+    const std::string folder = "/tmp/brinto-tap-bench-" + std::to_string(getpid());
+    std::filesystem::create_directories(folder);
+    AppOptions options = AppOptions::InMemory();
+    if (state.range(0) == 1) {
+        options.memory = false;
+        options.db = folder + "/brinto.db";
+    }
+    calculator.Start(options);
+    calculator.store.KeepEachCommand();
     MainWindow window(calculator.session);
     host.window = &window;
     window.resize(360, 480);
     window.show();
     KeyView* keys = window.keyboardView();
     int seven = 0;
-    while (keys->ActiveId(seven) != 7) ++seven;
+    while (keys->ActiveId(seven) != fid::Digit7) ++seven;
     const QPoint at = keys->CellRect(seven).center();
     // Both views are painted into images of their size, as a repaint paints the backing store.
     QImage displayImage(window.display()->size(), QImage::Format_ARGB32_Premultiplied);
@@ -40,8 +54,10 @@ void TapToRepaint(benchmark::State& state) {
         // Keep the number short so every tap does the same work.
         if (calculator.engine.state.entryDigits > 8) calculator.session.Tap(fid::ClearX);
     }
+    calculator.store.Finish();
+    std::filesystem::remove_all(folder);
 }
-BENCHMARK(TapToRepaint)->Unit(benchmark::kMicrosecond);
+BENCHMARK(TapToRepaint)->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 }  // namespace brinto

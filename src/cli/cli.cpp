@@ -178,6 +178,9 @@ constexpr std::string_view kUsageMiddle =
     "Database: $XDG_DATA_HOME/brinto/brinto.db, by default ~/.local/share/brinto/brinto.db,\n"
     "shared with the desktop program; here ";
 constexpr std::string_view kUsageEnd =
+    "Every run and every open brinto window on one database are one calculator: a run reads it, runs\n"
+    "its tokens and saves what changed in one transaction, so runs at the same time take turns and\n"
+    "none loses another's work. A file that is not a Brinto database is refused and left as it is.\n"
     "The interactive calculator keeps the lines typed in brinto-cli.history beside the database.\n"
     "\n"
     "Exit status:\n"

@@ -8,9 +8,11 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <string>
 #include <thread>
+#include <vector>
 
 #include <QImage>
 
@@ -20,30 +22,39 @@ namespace {
 
 using brinto::test::CommandOutput;
 
-TEST(Program, SigtermKeepsWhatWasTypedForBrintoCli) {
+// Each signal that asks a program to end (a shutdown, a closed terminal, Ctrl-C, Ctrl-\\) ends it
+// normally, with everything typed kept; brinto-cli then goes on from it.
+TEST(Program, EndingSignalsKeepWhatWasTypedForBrintoCli) {
     const std::filesystem::path dir =
         std::filesystem::temp_directory_path() / ("brinto-app-test-" + std::to_string(getpid()));
     std::filesystem::create_directories(dir);
-    const std::string db = (dir / "brinto.db").string();
-    // brinto-cli makes the first run (RPN chosen), so the program opens without asking.
-    CommandOutput(std::string(BRINTO_CLI_PATH) + " --db " + db + " rpn");
-
-    const pid_t pid = fork();
-    if (pid == 0) {
-        setenv("QT_QPA_PLATFORM", "offscreen", 1);
-        setenv("XDG_DATA_HOME", dir.c_str(), 1);
-        setenv("XDG_CONFIG_HOME", dir.c_str(), 1);
-        execl(BRINTO_APP_PATH, BRINTO_APP_PATH, "--db", db.c_str(), "--keys", "12\n30+7", nullptr);
-        _exit(127);
+    const int signals[] = {SIGTERM, SIGHUP, SIGINT, SIGQUIT};
+    std::vector<pid_t> programs;
+    for (const int signal : signals) {
+        const std::string db = (dir / (std::to_string(signal) + ".db")).string();
+        // brinto-cli makes the first run (RPN chosen), so the program opens without asking.
+        CommandOutput(std::string(BRINTO_CLI_PATH) + " --db " + db + " rpn");
+        const pid_t pid = fork();
+        if (pid == 0) {
+            setenv("QT_QPA_PLATFORM", "offscreen", 1);
+            setenv("XDG_DATA_HOME", dir.c_str(), 1);
+            setenv("XDG_CONFIG_HOME", dir.c_str(), 1);
+            execl(BRINTO_APP_PATH, BRINTO_APP_PATH, "--db", db.c_str(), "--keys", "12\n30+7", nullptr);
+            _exit(127);
+        }
+        programs.push_back(pid);
     }
     std::this_thread::sleep_for(std::chrono::milliseconds(1500));
-    kill(pid, SIGTERM);
-    int status = 0;
-    waitpid(pid, &status, 0);
-    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
-
-    // Y holds the sum, X the 7 that was being typed when the signal came.
-    EXPECT_EQ(CommandOutput(std::string(BRINTO_CLI_PATH) + " --db " + db + " + </dev/null"), "49.\n");
+    for (std::size_t i = 0; i < programs.size(); ++i) {
+        SCOPED_TRACE(strsignal(signals[i]));
+        kill(programs[i], signals[i]);
+        int status = 0;
+        waitpid(programs[i], &status, 0);
+        EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
+        // Y holds the sum, X the 7 that was being typed when the signal came.
+        const std::string db = (dir / (std::to_string(signals[i]) + ".db")).string();
+        EXPECT_EQ(CommandOutput(std::string(BRINTO_CLI_PATH) + " --db " + db + " + </dev/null"), "49.\n");
+    }
     std::filesystem::remove_all(dir);
 }
 

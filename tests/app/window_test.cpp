@@ -11,6 +11,7 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QMenuBar>
+#include <QTimer>
 #include <charconv>
 #include <filesystem>
 #include <cmath>
@@ -191,6 +192,22 @@ TEST(Window, MenuCommandsAndTheirMessages) {
     EXPECT_TRUE(desk.window.basicView()->isVisible());
     trigger("Advanced");
     EXPECT_TRUE(desk.window.keyboardView()->isVisible());
+}
+
+// Quit ends the program, whatever other windows are open: the help viewer is a window of its own
+// and must not keep a program running that the user has quit.
+TEST(Window, ClosingTheWindowQuitsWithTheHelpViewerOpen) {
+    Desk desk;
+    int asked = 0;
+    desk.window.onQuit = [&] { return ++asked > 1; };  // the first time the user stays
+    desk.window.OpenHelp(QStringLiteral("Main_Contents"));
+    desk.window.close();
+    EXPECT_TRUE(desk.window.isVisible());
+    QTimer::singleShot(0, &desk.window, [&] { desk.window.close(); });
+    QTimer::singleShot(5000, [] { QCoreApplication::exit(7); });  // what a program that lives on would do
+    EXPECT_EQ(QCoreApplication::exec(), 0);
+    EXPECT_EQ(asked, 2);
+    EXPECT_FALSE(desk.window.isVisible());
 }
 
 TEST(Window, IconIsBuiltInAtTheSizesAWindowShows) {

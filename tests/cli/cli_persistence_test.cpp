@@ -8,6 +8,8 @@
 #include <sstream>
 
 #include "cli/cli.h"
+#include "engine/function_ids.h"
+#include "session/session_store.h"
 
 #include "temp_folder.h"
 
@@ -157,6 +159,77 @@ TEST_F(CliPersistence, TroubleAndForeignFilesSayOneLineExitOneAndTouchNothing) {
     }
     EXPECT_TRUE(std::filesystem::is_fifo(files / "pipe"));
     EXPECT_EQ(Cli({"--db", Db(), "1", "="}).out, "10.\n");
+}
+
+// A window's side of the calculator, as the desktop program keeps it: every command kept at once.
+struct WindowLike : Host {
+    Engine engine;
+    Session session{engine, *this};
+    SessionStore store{session};
+    FixedPlatform clock;
+    std::vector<std::string> troubles;
+
+    explicit WindowLike(const std::string& db) {
+        store.Start(StoreLocation::File(db));
+        store.KeepEachCommand();
+    }
+    void Type(std::string_view keys) {
+        for (const char c : keys) session.CharacterKey(static_cast<unsigned char>(c));
+    }
+    void ShowMessage(std::string_view, std::string_view) override {}
+    bool Confirm(std::string_view, std::string_view) override { return true; }
+    void PutOnClipboard(std::string_view) override {}
+    std::optional<std::string> ClipboardText() override { return std::nullopt; }
+    void ReportTrouble(std::string_view text) override { troubles.emplace_back(text); }
+    DateFields Now() const override { return clock.Now(); }
+    std::string DateText(const DateFields& d, bool longForm) const override { return clock.DateText(d, longForm); }
+    std::string TimeText(const DateFields& t) const override { return clock.TimeText(t); }
+};
+
+// One calculator, many doors: brinto-cli runs beside an open window build on its work and it on
+// theirs, and nothing either did is lost when the window saves, looks again or closes.
+TEST_F(CliPersistence, AWindowAndBrintoCliRunsAreOneCalculator) {
+    WindowLike window(Db());
+    window.Type("7");
+    EXPECT_EQ(Cli({"--db", Db(), "rpn", "enter", "5", "+"}).out, "12.\n");  // on the window's 7
+    EXPECT_EQ(Cli({"--db", Db(), "77", "sto", "0", "2"}).out, "77.\n");
+    EXPECT_TRUE(window.store.Save());  // as when the window is deactivated: nothing of its own to write
+    window.Type("2*");                 // on brinto-cli's 77
+    EXPECT_EQ(window.engine.X(), 154.0);
+    EXPECT_EQ(Cli({"--db", Db(), "rcl", "0", "2", "+"}).out, "231.\n");
+    EXPECT_TRUE(window.store.Refresh());  // an idle window shows it
+    EXPECT_EQ(window.engine.X(), 231.0);
+    window.session.Undo();                // the step taken over is undone, and that is kept
+    EXPECT_EQ(Cli({"--db", Db()}).out, "154.\n");
+    window.store.Finish();
+    EXPECT_EQ(Cli({"--db", Db(), "rcl", "0", "2"}).out, "77.  CFj\n");
+    EXPECT_TRUE(window.troubles.empty());
+}
+
+// Runs in parallel take turns: two loops of brinto-cli and a window adding to one register lose
+// no update.
+TEST_F(CliPersistence, ParallelRunsAndAWindowLoseNoUpdate) {
+    Cli({"--db", Db(), "rpn", "0", "sto", "0", "5"});
+    constexpr int kRuns = 40;
+    std::string loop = "for i in $(seq " + std::to_string(kRuns) + "); do '" BRINTO_CLI_PATH "' --db '" + Db() +
+                       "' 1 sto + 0 5 >/dev/null || echo failed; done";
+    const std::string command = "(" + loop + ") & (" + loop + ") & wait";
+    FILE* loops = popen(command.c_str(), "r");
+    ASSERT_NE(loops, nullptr);
+    {
+        WindowLike window(Db());
+        for (int i = 0; i < kRuns; ++i) {
+            window.Type("1");
+            window.session.TapKey(fid::Store);
+            window.Type("+05");
+        }
+    }
+    std::string printed;
+    char buffer[256];
+    while (fgets(buffer, sizeof buffer, loops)) printed += buffer;
+    EXPECT_EQ(pclose(loops), 0);
+    EXPECT_EQ(printed, "");
+    EXPECT_EQ(Cli({"--db", Db(), "rcl", "0", "5"}).out, std::to_string(3 * kRuns) + ".  CFj\n");
 }
 
 // --pref holds for the run in both modes; the saved preferences keep what they were.

@@ -4,6 +4,7 @@
 #include <poll.h>
 #include <pty.h>
 #include <signal.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <termios.h>
 #include <unistd.h>
@@ -20,6 +21,7 @@
 #include "engine/key_table.h"
 #include "engine/keyboards.h"
 #include "session/key_legends.h"
+#include "temp_folder.h"
 
 namespace brinto::test {
 namespace {
@@ -32,11 +34,6 @@ std::string NameOf(FunctionId id) {
 }
 
 std::string FirstWord(const std::string& line) { return line.substr(0, line.find(' ')); }
-
-std::string ReadFile(const std::filesystem::path& path) {
-    std::ifstream in(path);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
 
 // Every key is listed with its code and with the legend, meaning and aliases the desktop program
 // and the name table give it, and each built-in keyboard's section reads as its block does.
@@ -180,6 +177,10 @@ TEST(Cli, TerminalSessionEditsAndRemembersLines) {
     char folder[] = "/tmp/brinto-cli-tty-XXXXXX";
     ASSERT_NE(mkdtemp(folder), nullptr);
     const std::string db = std::string(folder) + "/brinto.db";
+    const std::string history = std::string(folder) + "/brinto-cli.history";
+    // A history name that leads to another file: the file is never written through the link.
+    WriteFile(std::string(folder) + "/victim", "someone's file\n");
+    std::filesystem::create_symlink(std::string(folder) + "/victim", history);
     {
         Terminal t(db);
         ASSERT_TRUE(t.Await("> ")) << t.Output();
@@ -190,7 +191,11 @@ TEST(Cli, TerminalSessionEditsAndRemembersLines) {
         EXPECT_EQ(t.Exit(), 0) << t.Output();
         EXPECT_TRUE(t.Output().ends_with("\r\n")) << t.Output();  // the shell's prompt starts on a line of its own
     }
-    EXPECT_NE(ReadFile(std::string(folder) + "/brinto-cli.history").find("rpn"), std::string::npos);
+    EXPECT_NE(ReadFile(history).find("rpn"), std::string::npos);
+    EXPECT_EQ(ReadFile(std::string(folder) + "/victim"), "someone's file\n");
+    struct stat info {};
+    ASSERT_EQ(lstat(history.c_str(), &info), 0);
+    EXPECT_TRUE(S_ISREG(info.st_mode) && (info.st_mode & 0777) == 0600) << std::oct << info.st_mode;
     {
         Terminal t(db);
         ASSERT_TRUE(t.Await("X: 7.")) << t.Output();  // the saved calculator

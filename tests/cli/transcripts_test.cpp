@@ -143,6 +143,9 @@ TEST(Cli, BadInputIsAOneLineErrorWithStatusTwo) {
         {{std::string(100000, '7') + "x"}, "", "unknown token 1: 777"},
         {{"--pref", "7=1"}, "", "bad --pref value"},
         {{"--now", "2020-13-01 00:00:00"}, "", "bad --now value"},
+        {{"--now", "2024-02-30 10:00:00"}, "", "bad --now value"},
+        {{"--now", "2023-02-29 10:00:00"}, "", "bad --now value"},
+        {{"--now", "2024-02-29 10:00:00"}, "", ""},
         {{"--db"}, "", "option needs a value: --db"},
     };
     for (const Bad& b : bad) {
