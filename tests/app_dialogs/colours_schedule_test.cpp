@@ -106,6 +106,10 @@ private slots:
         QCOMPARE(chart.balance.size(), std::size_t{24 + 1});
         QCOMPARE(chart.bars.size(), std::size_t{24});
         QCOMPARE(schedule->chart()->accessibleName(), QStringLiteral("Balance falls from 1,000 to 0 over 24 payments"));
+        QCOMPARE(schedule->chart()->firstShown(), 1);
+        table->scrollToBottom();
+        QCOMPARE(schedule->chart()->lastShown(), 24);
+        QVERIFY(schedule->chart()->firstShown() > 1);
     }
 
     // The Cash Flow Entries view draws an arrow group per entry, and names NPV and IRR/YR.

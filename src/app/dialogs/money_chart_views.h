@@ -29,6 +29,8 @@ public:
     // The payments of the table rows in view, shaded on the chart; first > last shades none.
     void ShowPayments(int first, int last);
     const ScheduleChart& chart() const { return m_chart; }
+    int firstShown() const { return m_firstShown; }
+    int lastShown() const { return m_lastShown; }
 
     QSize sizeHint() const override { return {520, 230}; }
     QSize minimumSizeHint() const override { return {240, 150}; }
