@@ -37,7 +37,7 @@ QString AxisAmount(double value, double top) {
 
 double Finite(double value) { return std::isfinite(value) ? std::fabs(value) : 0.0; }
 
-// Keeps the same colours and pen for the duration of one drawing step.
+// An arrow from `base` to `tip` with a filled head `head` long; a group's has a double shaft.
 void Arrow(QPainter& p, QPointF base, QPointF tip, double head, const QColor& colour, bool group) {
     p.setPen(QPen(colour, 2.0, Qt::SolidLine, Qt::FlatCap));
     const double direction = tip.y() < base.y() ? 1.0 : -1.0;  // 1: up
@@ -57,6 +57,20 @@ void Arrow(QPainter& p, QPointF base, QPointF tip, double head, const QColor& co
     p.setBrush(Qt::NoBrush);
 }
 
+// Until the window's theme arrives: dark on light, as the default display.
+ChartColours DefaultChartColours() {
+    ChartColours c;
+    c.background = QColor(0xF4, 0xF6, 0xEE);
+    c.text = QColor(0x10, 0x10, 0x10);
+    c.grid = Faded(c.text, 60);
+    c.balance = c.text;
+    c.interest = QColor(0xB0, 0x20, 0x20);
+    c.principal = QColor(0x20, 0x50, 0xA0);
+    c.received = c.principal;
+    c.paid = c.interest;
+    return c;
+}
+
 }  // namespace
 
 ChartColours MakeChartColours(const ScreenColours& screen) {
@@ -69,20 +83,6 @@ ChartColours MakeChartColours(const ScreenColours& screen) {
     c.principal = ToColour(screen.displayLabel);
     c.received = ToColour(screen.displayLabel);
     c.paid = ToColour(screen.displayNegative);
-    return c;
-}
-
-// Until the window's theme arrives: dark on light, as the default display.
-ChartColours DefaultChartColours() {
-    ChartColours c;
-    c.background = QColor(0xF4, 0xF6, 0xEE);
-    c.text = QColor(0x10, 0x10, 0x10);
-    c.grid = Faded(c.text, 60);
-    c.balance = c.text;
-    c.interest = QColor(0xB0, 0x20, 0x20);
-    c.principal = QColor(0x20, 0x50, 0xA0);
-    c.received = c.principal;
-    c.paid = c.interest;
     return c;
 }
 
@@ -110,106 +110,143 @@ void ScheduleChartView::ShowPayments(int first, int last) {
     update();
 }
 
-void ScheduleChartView::paintEvent(QPaintEvent*) {
-    QPainter p(this);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.fillRect(rect(), m_colours.background);
-    const QFontMetricsF fm(font());
-    const double line = fm.height();
-    const int payments = m_chart.balance.empty() ? 0 : m_chart.balance.back().payment;
-    if (payments == 0) {
-        p.setPen(m_colours.text);
-        p.drawText(rect(), Qt::AlignCenter, QString::fromStdString(m_chart.description));
-        return;
-    }
+namespace {
 
-    // Two scales: the balance on the left, a period's interest and principal on the right.
+// Where the schedule chart draws: the plot area and its three scales (payments across, the
+// balance on the left, a period's payment on the right).
+struct ScheduleFrame {
+    QRectF plot;
+    int payments;
+    double balanceTop, balanceStep, barTop, barStep;
+    double leftWidth, rightWidth, line;
+
+    double X(double payment) const { return plot.left() + plot.width() * payment / payments; }
+    double YBalance(double v) const { return plot.bottom() - plot.height() * v / balanceTop; }
+    double YBar(double v) const { return plot.bottom() - plot.height() * v / barTop; }
+};
+
+ScheduleFrame FrameFor(const ScheduleChart& chart, const QFontMetricsF& fm, QSizeF size) {
+    ScheduleFrame f{};
+    f.payments = chart.balance.back().payment;
+    f.line = fm.height();
     double balanceMax = 0.0, barMax = 0.0;
-    for (const BalancePoint& b : m_chart.balance) balanceMax = std::max(balanceMax, Finite(b.balance));
-    for (const PeriodBar& b : m_chart.bars) barMax = std::max(barMax, Finite(b.interest) + Finite(b.principal));
-    const double balanceStep = NiceStep(balanceMax, 4), barStep = NiceStep(barMax, 4);
-    const double balanceTop = std::max(balanceStep, std::ceil(balanceMax / balanceStep) * balanceStep);
-    const double barTop = std::max(barStep, std::ceil(barMax / barStep) * barStep);
-    const double leftWidth = fm.horizontalAdvance(AxisAmount(balanceTop, balanceTop)) + 10;
-    const double rightWidth = fm.horizontalAdvance(AxisAmount(barTop, barTop)) + 10;
-    const QRectF plot(leftWidth, line * 1.8, width() - leftWidth - rightWidth, height() - line * 3.2);
-    const auto x = [&](double payment) { return plot.left() + plot.width() * payment / payments; };
-    const auto yBalance = [&](double v) { return plot.bottom() - plot.height() * v / balanceTop; };
-    const auto yBar = [&](double v) { return plot.bottom() - plot.height() * v / barTop; };
+    for (const BalancePoint& b : chart.balance) balanceMax = std::max(balanceMax, Finite(b.balance));
+    for (const PeriodBar& b : chart.bars) barMax = std::max(barMax, Finite(b.interest) + Finite(b.principal));
+    f.balanceStep = NiceStep(balanceMax, 4);
+    f.barStep = NiceStep(barMax, 4);
+    f.balanceTop = std::max(f.balanceStep, std::ceil(balanceMax / f.balanceStep) * f.balanceStep);
+    f.barTop = std::max(f.barStep, std::ceil(barMax / f.barStep) * f.barStep);
+    f.leftWidth = fm.horizontalAdvance(AxisAmount(f.balanceTop, f.balanceTop)) + 10;
+    f.rightWidth = fm.horizontalAdvance(AxisAmount(f.barTop, f.barTop)) + 10;
+    f.plot = QRectF(f.leftWidth, f.line * 1.8, size.width() - f.leftWidth - f.rightWidth, size.height() - f.line * 3.2);
+    return f;
+}
 
-    // The rows the table shows.
-    if (m_firstShown <= m_lastShown) {
-        p.fillRect(QRectF(QPointF(x(m_firstShown - 1), plot.top()), QPointF(x(m_lastShown), plot.bottom())),
-                   Faded(m_colours.text, 28));
+// Grid lines and the balance scale on the left; the bar scale on the right.
+void DrawScales(QPainter& p, const ScheduleFrame& f, const ChartColours& c) {
+    for (double v = 0.0; v <= f.balanceTop * 1.0001; v += f.balanceStep) {
+        p.setPen(QPen(c.grid, 1.0, Qt::DotLine));
+        p.drawLine(QPointF(f.plot.left(), f.YBalance(v)), QPointF(f.plot.right(), f.YBalance(v)));
+        p.setPen(c.text);
+        p.drawText(QRectF(0, f.YBalance(v) - f.line / 2, f.leftWidth - 5, f.line), Qt::AlignRight | Qt::AlignVCenter,
+                   AxisAmount(v, f.balanceTop));
     }
-    // Grid and the balance scale, left; the bar scale, right.
-    p.setPen(m_colours.text);
-    for (double v = 0.0; v <= balanceTop * 1.0001; v += balanceStep) {
-        p.setPen(QPen(m_colours.grid, 1.0, Qt::DotLine));
-        p.drawLine(QPointF(plot.left(), yBalance(v)), QPointF(plot.right(), yBalance(v)));
-        p.setPen(m_colours.text);
-        p.drawText(QRectF(0, yBalance(v) - line / 2, leftWidth - 5, line), Qt::AlignRight | Qt::AlignVCenter,
-                   AxisAmount(v, balanceTop));
+    for (double v = 0.0; v <= f.barTop * 1.0001; v += f.barStep) {
+        p.drawText(QRectF(f.plot.right() + 5, f.YBar(v) - f.line / 2, f.rightWidth - 5, f.line),
+                   Qt::AlignLeft | Qt::AlignVCenter, AxisAmount(v, f.barTop));
     }
-    for (double v = 0.0; v <= barTop * 1.0001; v += barStep) {
-        p.drawText(QRectF(plot.right() + 5, yBar(v) - line / 2, rightWidth - 5, line), Qt::AlignLeft | Qt::AlignVCenter,
-                   AxisAmount(v, barTop));
-    }
-    // Bars: principal below, interest above it, so a bar's height is the period's payment.
-    for (const PeriodBar& b : m_chart.bars) {
-        const double left = x(b.first - 1), right = x(b.last);
+}
+
+// Principal below, interest above it, so that a bar's height is the period's payment.
+void DrawBars(QPainter& p, const ScheduleFrame& f, const ChartColours& c, const std::vector<PeriodBar>& bars) {
+    for (const PeriodBar& b : bars) {
+        const double left = f.X(b.first - 1), right = f.X(b.last);
         const double gap = (right - left) * 0.15;
         const double principal = Finite(b.principal), interest = Finite(b.interest);
-        const QRectF low(QPointF(left + gap, yBar(principal)), QPointF(right - gap, plot.bottom()));
-        const QRectF high(QPointF(left + gap, yBar(principal + interest)), QPointF(right - gap, yBar(principal)));
-        p.fillRect(low, Faded(m_colours.principal, 170));
-        p.fillRect(high, Faded(m_colours.interest, 170));
+        p.fillRect(QRectF(QPointF(left + gap, f.YBar(principal)), QPointF(right - gap, f.plot.bottom())),
+                   Faded(c.principal, 170));
+        p.fillRect(QRectF(QPointF(left + gap, f.YBar(principal + interest)), QPointF(right - gap, f.YBar(principal))),
+                   Faded(c.interest, 170));
     }
-    // The balance line.
+}
+
+void DrawBalance(QPainter& p, const ScheduleFrame& f, const ChartColours& c, const std::vector<BalancePoint>& points) {
     QPainterPath path;
-    for (const BalancePoint& b : m_chart.balance) {
-        const QPointF point(x(b.payment), yBalance(Finite(b.balance)));
+    for (const BalancePoint& b : points) {
+        const QPointF point(f.X(b.payment), f.YBalance(Finite(b.balance)));
         if (path.elementCount() == 0) {
             path.moveTo(point);
         } else {
             path.lineTo(point);
         }
     }
-    p.setPen(QPen(m_colours.balance, 2.0));
+    p.setPen(QPen(c.balance, 2.0));
     p.drawPath(path);
-    // Axes, and the payments (or years) along the bottom.
-    p.setPen(QPen(m_colours.text, 1.0));
-    p.drawLine(plot.bottomLeft(), plot.bottomRight());
-    p.drawLine(plot.bottomLeft(), plot.topLeft());
-    p.drawLine(plot.bottomRight(), plot.topRight());
-    const int perYear = m_chart.byYear && !m_chart.bars.empty() ? m_chart.bars.front().last - m_chart.bars.front().first + 1 : 1;
-    const double units = static_cast<double>(payments) / perYear;
-    const double unitStep = std::max(1.0, NiceStep(units, std::max(2, static_cast<int>(plot.width() / 60))));
+}
+
+// The frame's axes, and the payments (or years) along the bottom.
+void DrawAxes(QPainter& p, const ScheduleFrame& f, const ChartColours& c, const ScheduleChart& chart) {
+    p.setPen(QPen(c.text, 1.0));
+    p.drawLine(f.plot.bottomLeft(), f.plot.bottomRight());
+    p.drawLine(f.plot.bottomLeft(), f.plot.topLeft());
+    p.drawLine(f.plot.bottomRight(), f.plot.topRight());
+    const int perYear = chart.byYear && !chart.bars.empty() ? chart.bars.front().last - chart.bars.front().first + 1 : 1;
+    const double units = static_cast<double>(f.payments) / perYear;
+    const double unitStep = std::max(1.0, NiceStep(units, std::max(2, static_cast<int>(f.plot.width() / 60))));
     for (double u = 0.0; u <= units + 1e-9; u += unitStep) {
-        const double at = x(u * perYear);
-        p.drawLine(QPointF(at, plot.bottom()), QPointF(at, plot.bottom() + 3));
-        p.drawText(QRectF(at - 40, plot.bottom() + 3, 80, line), Qt::AlignHCenter | Qt::AlignTop, Amount(u));
+        const double at = f.X(u * perYear);
+        p.drawLine(QPointF(at, f.plot.bottom()), QPointF(at, f.plot.bottom() + 3));
+        p.drawText(QRectF(at - 40, f.plot.bottom() + 3, 80, f.line), Qt::AlignHCenter | Qt::AlignTop, Amount(u));
     }
-    p.drawText(QRectF(plot.left(), plot.bottom() + 3 + line, plot.width(), line), Qt::AlignHCenter | Qt::AlignTop,
-               m_chart.byYear ? QStringLiteral("Year") : QStringLiteral("Payment"));
-    // Legend.
-    double at = plot.left();
-    const double mid = line * 0.8;
-    p.setPen(QPen(m_colours.balance, 2.0));
+    p.drawText(QRectF(f.plot.left(), f.plot.bottom() + 3 + f.line, f.plot.width(), f.line),
+               Qt::AlignHCenter | Qt::AlignTop, chart.byYear ? QStringLiteral("Year") : QStringLiteral("Payment"));
+}
+
+void DrawLegend(QPainter& p, const ScheduleFrame& f, const ChartColours& c, const QFontMetricsF& fm, bool byYear) {
+    double at = f.plot.left();
+    const double mid = f.line * 0.8;
+    const double baseline = mid + fm.ascent() / 2 - 1;
+    p.setPen(QPen(c.balance, 2.0));
     p.drawLine(QPointF(at, mid), QPointF(at + 18, mid));
     at += 22;
-    p.setPen(m_colours.text);
-    const QString entries[] = {QStringLiteral("Balance"), QStringLiteral("Interest"), QStringLiteral("Principal")};
-    const QColor swatches[] = {QColor(), Faded(m_colours.interest, 170), Faded(m_colours.principal, 170)};
-    for (int i = 0; i < 3; ++i) {
-        if (i > 0) {
-            p.fillRect(QRectF(at, mid - 5, 10, 10), swatches[i]);
+    p.setPen(c.text);
+    const std::pair<QString, QColor> entries[] = {{QStringLiteral("Balance"), QColor()},
+                                                  {QStringLiteral("Interest"), Faded(c.interest, 170)},
+                                                  {QStringLiteral("Principal"), Faded(c.principal, 170)},
+                                                  {byYear ? QStringLiteral("(by year)") : QStringLiteral("(by payment)"), QColor()}};
+    for (const auto& [text, swatch] : entries) {
+        if (swatch.isValid()) {
+            p.fillRect(QRectF(at, mid - 5, 10, 10), swatch);
             at += 14;
         }
-        p.drawText(QPointF(at, mid + fm.ascent() / 2 - 1), entries[i]);
-        at += fm.horizontalAdvance(entries[i]) + 14;
+        p.drawText(QPointF(at, baseline), text);
+        at += fm.horizontalAdvance(text) + 14;
     }
-    p.drawText(QPointF(at, mid + fm.ascent() / 2 - 1), m_chart.byYear ? QStringLiteral("(by year)") : QStringLiteral("(by payment)"));
+}
+
+}  // namespace
+
+void ScheduleChartView::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.fillRect(rect(), m_colours.background);
+    const QFontMetricsF fm(font());
+    if (m_chart.balance.empty() || m_chart.balance.back().payment == 0) {
+        p.setPen(m_colours.text);
+        p.drawText(rect(), Qt::AlignCenter, QString::fromStdString(m_chart.description));
+        return;
+    }
+    const ScheduleFrame frame = FrameFor(m_chart, fm, size());
+    if (m_firstShown <= m_lastShown) {  // the rows the table shows
+        p.fillRect(QRectF(QPointF(frame.X(m_firstShown - 1), frame.plot.top()),
+                          QPointF(frame.X(m_lastShown), frame.plot.bottom())),
+                   Faded(m_colours.text, 28));
+    }
+    DrawScales(p, frame, m_colours);
+    DrawBars(p, frame, m_colours, m_chart.bars);
+    DrawBalance(p, frame, m_colours, m_chart.balance);
+    DrawAxes(p, frame, m_colours, m_chart);
+    DrawLegend(p, frame, m_colours, fm, m_chart.byYear);
 }
 
 CashFlowDiagramView::CashFlowDiagramView(QWidget* parent) : QWidget(parent), m_colours(DefaultChartColours()) {
