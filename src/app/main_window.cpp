@@ -160,6 +160,7 @@ void MainWindow::BuildMenus() {
 void MainWindow::ApplyTheme() {
     m_themes.ApplyTheme(m_themes.SelectTheme(m_session.engine().prefs.Theme()));
     m_colours = MakeScreenColours(m_themes, m_session.engine().prefs, DefaultDisplayStyle(m_themes), m_customColours);
+    if (m_dialogs) m_dialogs->SetScreenColours(m_colours);
     QPalette palette = m_pane->palette();
     palette.setColor(QPalette::Window, ToQColor(m_colours.window));
     m_pane->setPalette(palette);
@@ -268,6 +269,7 @@ void MainWindow::DisplayTapped(TapArea area) {
 dialogs::DialogHost& MainWindow::Dialogs() {
     if (m_dialogs) return *m_dialogs;
     m_dialogs = new dialogs::DialogHost(m_session, this, {}, m_store);
+    m_dialogs->SetScreenColours(m_colours);
     connect(m_dialogs, &dialogs::DialogHost::changed, this, [this] { Refresh(); });
     connect(m_dialogs, &dialogs::DialogHost::preferencesClosed, this, [this] { ApplyTheme(); });
     connect(m_dialogs, &dialogs::DialogHost::coloursChanged, this, [this](const CustomColours& colours) {

@@ -12,6 +12,8 @@
 #include "app/dialogs/date_time_dialogs.h"
 #include "app/dialogs/dialogs.h"
 #include "app/dialogs/help_viewer.h"
+#include "app/dialogs/register_view.h"
+#include "app/dialogs/schedule_window.h"
 #include "app/input_method_dialog.h"
 #include "app/main_window.h"
 #include "app/window_host.h"
@@ -64,9 +66,12 @@ void FillSamples(Session& session) {
     enter("0", fid::FV);
     session.Solve(fid::PMT);
     session.SetAmortizationRange(1, 12);
-    // Cash flows: an outlay and three returns.
+    // Cash flows: an outlay and three returns, the second of them for two years running.
     enter("-15000", fid::CashFlow);
-    for (const char* amount : {"4000", "5500", "7000"}) enter(amount, fid::CashFlow);
+    for (const char* amount : {"4000", "5500", "7000"}) {
+        enter(amount, fid::CashFlow);
+        if (*amount == '5') enter("2", fid::GroupCount);
+    }
     // Statistics: four (x, y) pairs, y typed first.
     for (const auto& [y, x] : {std::pair{"2.1", "1"}, {"3.9", "2"}, {"6.2", "3"}, {"7.8", "4"}}) {
         type(y);
@@ -96,6 +101,7 @@ const QStringList& ScreenshotNames() {
         for (const char* name : kPreferencePages) list << QString::fromLatin1(name);
         list << QStringLiteral("customize-keyboard");
         for (const auto& [name, view] : kViewShots) list << QString::fromLatin1(name);
+        list << QStringLiteral("amortization-schedule") << QStringLiteral("cash-flow-diagram");
         list << QStringLiteral("input-method") << QStringLiteral("enter-date") << QStringLiteral("enter-time")
              << QStringLiteral("about") << QStringLiteral("customize-colors") << QStringLiteral("color-chooser")
              << QStringLiteral("help");
@@ -161,6 +167,17 @@ int WriteScreenshots(const QString& directory) {
         QWidget* shown = windows.Open(view);
         shoot(shown, QString::fromLatin1(name));
         close(shown);
+    }
+    dialogs::ScheduleWindow* schedule = windows.OpenSchedule();
+    shoot(schedule, QStringLiteral("amortization-schedule"));
+    close(schedule);
+    // The diagram alone, as the guide shows it beside the text about cash flows.
+    if (auto* flows = qobject_cast<dialogs::RegisterView*>(windows.Open(View::CashFlow)); flows && flows->diagram()) {
+        shoot(flows->diagram(), QStringLiteral("cash-flow-diagram"));
+        close(flows);
+    } else {
+        std::fprintf(stderr, "brinto: the sample cash flows did not open their view\n");
+        ++failures;
     }
     {
         InputMethodDialog dialog(&window);

@@ -10,6 +10,7 @@
 #include <sstream>
 #include <span>
 
+#include "cli/formula.h"
 #include "cli/json_report.h"
 #include "cli/key_listing.h"
 #include "cli/line_source.h"
@@ -18,6 +19,7 @@
 #include "display/display_text.h"
 #include "engine/key_table.h"
 #include "engine/keyboards.h"
+#include "engine/value_tags.h"
 #include "finance/amortization_schedule.h"
 #include "ops/constants.h"
 #include "session/session_store.h"
@@ -146,6 +148,9 @@ constexpr std::string_view kUsage =
     "Usage: brinto-cli [OPTIONS] [TOKEN ...]\n"
     "Runs the tokens left to right and prints X as the display shows it. With no tokens, reads them\n"
     "from standard input, or is an interactive calculator at a terminal (\"help\" there says more).\n"
+    "The tokens are keys pressed on the calculator the last run left (its input method, keyboard\n"
+    "and stack), so a command can answer differently from one run to the next: scripts that want a\n"
+    "calculator of their own pass --memory.\n"
     "\n"
     "Options:\n"
     "  --json                 after the last token, print the whole state as one JSON object\n"
@@ -162,9 +167,15 @@ constexpr std::string_view kUsage =
     "\n"
     "Tokens:\n"
     "  #N                     a tap of the key with code N (0..65535), exactly that key\n"
-    "  12  -1.5e-3  .5        a number, typed as keys\n"
+    "  12  -1.5e-3  .5        a number, typed as keys; in RPN a number after a number pushes the\n"
+    "                         first, in Simple and Precedence it is refused\n"
+    "  2+3*5  sqrt(2)  (1+2)*3^2\n"
+    "                         a formula, worked out with precedence by typing the keys of the input\n"
+    "                         method in force; functions are the keys (sqrt, ln, sin, sq, mod(7,3)),\n"
+    "                         pi is pi and ^ is y^x\n"
     "  NAME                   the key of that name or alias, any case (enter, +, sqrt, x^2, pv;\n"
-    "                         see --list-keys)\n"
+    "                         see --list-keys); a unit key also by its face (mi, ft, in, m)\n"
+    "  to                     before a unit key: convert X to that unit (10 km to mi)\n"
     "  keys:TEXT              each character of TEXT as a key (keys:2+3*5=)\n"
     "  kb:N                   select keyboard N:";
 constexpr std::string_view kUsageMiddle =
@@ -185,13 +196,16 @@ constexpr std::string_view kUsageEnd =
     "\n"
     "Exit status:\n"
     "  0  the tokens ran; also when a number had more digits than entry takes (standard error\n"
-    "     says how many it took, and X holds those)\n"
+    "     says how many it took, and X holds those) or a key is left waiting for its digits\n"
     "  1  the calculator could not be loaded, saved or imported (standard error says why)\n"
-    "  2  an unknown option or token: nothing is saved\n"
+    "  2  an unknown option or token, a malformed formula (the error gives the character), two\n"
+    "     numbers in a row in Simple or Precedence, a \"to\" that converts nothing: nothing is saved\n"
     "\n"
     "Examples:\n"
     "  brinto-cli --memory 2 + 3 '*' 5 =                prints 25. (Simple, the first-run method)\n"
     "  brinto-cli --memory rpn 2 enter 3 x^2 +          prints 11.\n"
+    "  brinto-cli --memory '(1+2)*3^2'                  prints 27.\n"
+    "  brinto-cli --memory rpn 2 3 +                    prints 5.\n"
     "  echo 'rpn 100000 pv 6 i/yr 360 n 0 fv pmt' | brinto-cli --memory\n"
     "                                                   prints -599.550525153  PMT\n";
 
@@ -209,6 +223,8 @@ constexpr std::string_view kInteractiveHelp =
     "Type tokens separated by blanks; each line runs as a whole and the stack is shown after it.\n"
     "  2 enter 3 +     keys by name (brinto-cli --list-keys lists them), numbers, #CODE, keys:TEXT,\n"
     "                  kb:N, key:K, const:N, paste:TEXT, undo, redo, copy, cut, basic, advanced\n"
+    "  (1+2)*3^2       a formula, worked out with precedence: sqrt(2), 2*pi, sin(30), mod(7,3)\n"
+    "  10 km to mi     a unit key, also by its face (mi, ft, in, m), converts a value in a unit\n"
     "  help NAME       what a key, command or constant does and where it sits (help sqrt, help const:7)\n"
     "  status          the input method, keyboard, angle unit and entry base\n"
     "  quit            leave (Ctrl-D too); the calculator is saved after every line\n"
@@ -295,11 +311,18 @@ std::string Suggestions(const std::vector<std::string_view>& names) {
 }
 
 // The one line on a word that is no token: its number among the tokens, its position, and what
-// was probably meant.
+// was probably meant; for a malformed formula, the character where it goes wrong and why.
 std::string UnknownToken(std::string_view word, int number, const std::string& position,
                          std::span<const std::string_view> extra = {}) {
+    const auto range = RangeOf(word);
+    if (!range && LooksLikeFormula(word)) {
+        if (const auto error = KeysOfFormula(word, FormulaMethod::Postfix).error) {
+            return "bad formula in token " + std::to_string(number) + position + ": " + Printable(word) +
+                   ": at character " + std::to_string(error->position + 1) + ", " + error->message;
+        }
+    }
     std::string text = "unknown token " + std::to_string(number) + position + ": " + Printable(word);
-    if (const auto range = RangeOf(word)) return text + " (" + *range + ")";
+    if (range) return text + " (" + *range + ")";
     if (std::find(extra.begin(), extra.end(), word) != extra.end()) return text + " (it takes a line of its own)";
     const std::vector<std::string_view> near = NearestNames(word, extra);
     return text + Suggestions(near);
@@ -322,6 +345,23 @@ bool CheckTokens(const Words& words, std::string_view line, std::string& error) 
 
 // Of the keys a number token taps, the digits.
 bool IsDigitKey(FunctionId id) { return id != fid::Point && id != fid::ChangeSign && id != fid::Exponent; }
+
+// Types a formula as the keys of the input method in force. In RPN a number that follows a number
+// still being typed is pushed first, as Enter does.
+bool TypeFormula(Session& session, std::string_view text) {
+    const Engine& e = session.engine();
+    const FormulaKeys keys = KeysOfFormula(text, e.IsRpn() ? FormulaMethod::Postfix : FormulaMethod::Infix);
+    bool accepted = true;
+    for (const FormulaStep& step : keys.steps) {
+        if (step.key != kNoKey) {
+            accepted = session.TapKey(step.key) && accepted;
+            continue;
+        }
+        if (e.IsRpn() && e.EntryOpen()) accepted = session.TapKey(fid::Enter) && accepted;
+        TypeNumber(step.number, [&](FunctionId id) { accepted = session.TapKey(id) && accepted; });
+    }
+    return accepted;
+}
 
 // Runs one token; false when a key of it was not accepted. A number counts the digits entry took.
 bool RunToken(Session& session, const Token& t, int& digitsTaken) {
@@ -354,29 +394,96 @@ bool RunToken(Session& session, const Token& t, int& digitsTaken) {
         case TokenKind::Constant:
             // No list is scrolled here, so the remembered list position stays as it is.
             return session.RecallConstant(t.number, session.engine().state.constantsTopRow);
+        case TokenKind::Formula: return TypeFormula(session, t.text);
+        case TokenKind::To: return true;  // RunTokens checks the unit key after it
     }
     return true;
 }
 
+// What a token left in X for the next one to meet: a number still being typed or a formula's
+// result (Value), or anything else.
+enum class Left { Value, Other };
+
+// Whether the digits just typed went into X rather than to a key waiting for them (STO 0 7).
+bool TypedIntoX(const Engine& e) {
+    return e.EntryOpen() && e.state.pendingArgument == kNoPendingArgument && e.state.pendingFormat == kNoKey;
+}
+
+// Before a number or a formula that follows one: in RPN the first is pushed, as a space does in
+// dc; in Simple and Precedence the two would run together ("2 3" typed as 23), so the run stops.
+// Nothing when the token may run.
+std::optional<std::string> MeetValue(Session& session, Left left, const Token& t, std::string_view word) {
+    const bool value = t.kind == TokenKind::Number || t.kind == TokenKind::Formula;
+    if (!value || left != Left::Value) return std::nullopt;
+    const Engine& e = session.engine();
+    if (!e.IsRpn()) {
+        return Printable(word) + " follows another value in " + (e.IsPrecedence() ? "Precedence" : "Simple") +
+               ": put an operator between them, or use rpn";
+    }
+    if (e.EntryOpen()) session.TapKey(fid::Enter);
+    return std::nullopt;
+}
+
+// "to" asks for a conversion: the unit key after it must take X from a unit of its own kind.
+// Nothing when it did; else what went wrong (X keeps what the key made of it).
+std::optional<std::string> CheckConversion(ValueTag before, ValueTag after, std::string_view unit) {
+    const Category from = TagCategory(before);
+    const bool unitKind = from != Category::None && from != Category::IntegerFormat && from != Category::Calendar;
+    if (unitKind && TagCategory(after) == from) return std::nullopt;
+    return "to " + Printable(unit) + ": X holds no value in a unit that converts to " + Printable(unit);
+}
+
+// A key left waiting for what follows it (STO 1, FIX 4, HYP SIN): the next run's first keys go
+// to it, which is seldom what a script meant.
+void WarnOfWaitingKey(const Engine& e, std::ostream& warnings, std::string_view prefix) {
+    const CalcState& s = e.state;
+    std::string waiting;
+    if (s.pendingArgument != kNoPendingArgument) {
+        // The prefix as typed: "sto", not the register variant the keyboard sent ("sto.100").
+        const std::string name = KeyName(FunctionIdFrom(s.pendingArgument & 0xFF));
+        waiting = name.substr(0, name.find('.')) + " waits for its register";
+    } else if (s.pendingFormat != kNoKey) {
+        waiting = KeyName(s.pendingFormat) + " waits for its number of places";
+    } else if (s.status & status::Hyperbolic) {
+        waiting = "hyp waits for its function";
+    }
+    if (!waiting.empty()) warnings << prefix << waiting << ": the next keys typed go to it\n";
+}
+
 // Runs every word as a token; the indices of tokens with a refused key go to `rejected`, and a
-// number whose digits entry did not all take is told on `warnings` (X holds what it took). Stops
-// at a word that is no token and names it in `error`: nothing has been shown or saved by then, so
-// the run ends as if it had not started.
+// number whose digits entry did not all take is told on `warnings` (X holds what it took), as is a
+// key left waiting for its digits at the end. Stops at a word that is no token, at two values in a
+// row in Simple or Precedence and at a "to" that converts nothing, and names it in `error`: nothing
+// has been shown or saved by then, so the run ends as if it had not started.
 template <typename Words>
 bool RunTokens(Session& session, const Words& words, std::string_view text, std::vector<int>& rejected,
                std::string& error, std::ostream& warnings, std::string_view prefix) {
     int index = 0;
     bool ok = true;
     Positions positions(text);
+    Left left = Left::Other;
+    std::optional<std::string_view> to;  // the "to" before this token
     words([&](std::string_view word, std::size_t offset) {
         const auto token = ParseToken(word);
-        if (!token) {
-            error = UnknownToken(word, index + 1, positions.At(offset));
+        const auto stop = [&](const std::string& why) {
+            error = (why.empty() ? UnknownToken(word, index + 1, positions.At(offset))
+                                 : "token " + std::to_string(index + 1) + positions.At(offset) + ": " + why);
             ok = false;
             return false;
-        }
+        };
+        if (!token) return stop({});
+        if (to && token->kind != TokenKind::Key) return stop("to needs a unit key after it, not " + Printable(word));
+        if (const auto refused = MeetValue(session, left, *token, word)) return stop(*refused);
+        const ValueTag before = session.engine().XTag();
         int digitsTaken = 0;
         if (!RunToken(session, *token, digitsTaken)) rejected.push_back(index);
+        if (to) {
+            if (const auto refused = CheckConversion(before, session.engine().XTag(), word)) return stop(*refused);
+        }
+        to = token->kind == TokenKind::To ? std::optional(word) : std::nullopt;
+        left = token->kind == TokenKind::Formula || (token->kind == TokenKind::Number && TypedIntoX(session.engine()))
+                   ? Left::Value
+                   : Left::Other;
         if (token->kind == TokenKind::Number) {
             const auto digits = std::count_if(word.begin(), word.end(), [](char c) { return c >= '0' && c <= '9'; });
             if (digitsTaken < digits) {
@@ -387,6 +494,11 @@ bool RunTokens(Session& session, const Words& words, std::string_view text, std:
         ++index;
         return true;
     });
+    if (ok && to) {
+        error = "token " + std::to_string(index) + ": to needs a unit key after it";
+        ok = false;
+    }
+    if (ok) WarnOfWaitingKey(session.engine(), warnings, prefix);
     return ok;
 }
 
@@ -533,7 +645,7 @@ void Interactive(Session& session, CliHost& host, LineSource& lines, std::ostrea
         std::vector<int> rejected;
         store.BeginRun();
         overrides.Apply();
-        RunTokens(session, words, *line, rejected, error, err, "");
+        if (!RunTokens(session, words, *line, rejected, error, err, "")) err << error << '\n';
         overrides.Save([&] { return store.EndRun(); });
         PrintStack(out, session.engine());
     }

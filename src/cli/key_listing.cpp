@@ -16,13 +16,6 @@ namespace brinto {
 
 namespace {
 
-std::string KeyName(FunctionId id) {
-    const auto it = std::lower_bound(kKeyTable.begin(), kKeyTable.end(), id,
-                                     [](const KeyInfo& k, FunctionId wanted) { return k.id < wanted; });
-    if (it != kKeyTable.end() && it->id == id) return std::string(it->name);
-    return "#" + std::to_string(ToNumber(id));
-}
-
 std::string Aliases(FunctionId id) {
     std::string out;
     for (const KeyAlias& a : kKeyAliases) {
@@ -109,6 +102,13 @@ std::size_t EditDistance(std::string_view a, std::string_view b) {
 }
 
 }  // namespace
+
+std::string KeyName(FunctionId id) {
+    const auto it = std::lower_bound(kKeyTable.begin(), kKeyTable.end(), id,
+                                     [](const KeyInfo& k, FunctionId wanted) { return k.id < wanted; });
+    if (it != kKeyTable.end() && it->id == id) return std::string(it->name);
+    return "#" + std::to_string(ToNumber(id));
+}
 
 void ListKeys(std::ostream& out) {
     // A key on several keyboards is listed under each, so that every section reads as the keyboard does.

@@ -8,7 +8,12 @@
 #include <string_view>
 #include <vector>
 
+#include "engine/function_ids.h"
+
 namespace brinto {
+
+// The name brinto-cli takes for a key, or "#CODE" for a key that has none.
+std::string KeyName(FunctionId id);
 
 // Every key, one a line: "NAME CODE LEGEND MEANING", with "(also ALIASES)" where it has aliases,
 // under a "# KEYBOARD" heading for each keyboard's block (unshifted, then shifted), then the

@@ -1,8 +1,11 @@
 #include "cli/tokens.h"
 
+#include "cli/formula.h"
 #include "engine/key_table.h"
 #include "engine/keyboards.h"
 #include "ops/constants.h"
+#include "ops/units.h"
+#include "session/key_legends.h"
 
 namespace brinto {
 
@@ -33,6 +36,7 @@ std::span<const CommandInfo> Commands() {
         {"cut", TokenKind::Cut, "Copy X to the clipboard and drop it (Edit menu)"},
         {"basic", TokenKind::Basic, "Basic view (View menu)"},
         {"advanced", TokenKind::Advanced, "Advanced view (View menu)"},
+        {"to", TokenKind::To, "Before a unit key: X converted to that unit, or an error (10 km to mi)"},
     };
     return kCommands;
 }
@@ -85,7 +89,21 @@ std::optional<Token> ParseToken(std::string_view text) {
         if (text == c.name) return Token{c.kind, kNoKey, {}, 0};
     }
     if (const auto id = KeyByName(text)) return Token{TokenKind::Key, *id, {}, 0};
+    if (const auto id = UnitKeyByFace(text)) return Token{TokenKind::Key, *id, {}, 0};
+    if (LooksLikeFormula(text) && !KeysOfFormula(text, FormulaMethod::Postfix).error) {
+        return Token{TokenKind::Formula, kNoKey, text, 0};
+    }
     return std::nullopt;
+}
+
+std::optional<FunctionId> UnitKeyByFace(std::string_view text) {
+    std::optional<FunctionId> found;
+    for (const KeyLegend& legend : AllLegends()) {
+        if (!SameName(legend.legend, text)) continue;
+        if (found || !IsUnitKey(legend.id)) return std::nullopt;  // a face on two keys names neither
+        found = legend.id;
+    }
+    return found;
 }
 
 }  // namespace brinto

@@ -10,13 +10,14 @@
 namespace brinto {
 
 // Key: a named key, remapped as the keyboard remaps it; ExactKey: `#N`, dispatched as it is.
+// Formula: "2+3*5", typed as keys (cli/formula.h). To: "to" before a unit key.
 enum class TokenKind { Key, ExactKey, Number, Characters, Keyboard, BlockKey, Undo, Redo, Copy, Cut, Paste,
-                       Basic, Advanced, Constant };
+                       Basic, Advanced, Constant, Formula, To };
 
 struct Token {
     TokenKind kind;
     FunctionId id = kNoKey;  // Key and ExactKey
-    std::string_view text;  // Number, Characters and Paste
+    std::string_view text;  // Number, Characters, Paste and Formula
     int number = 0;         // Keyboard, BlockKey, Constant
 };
 
@@ -38,6 +39,10 @@ std::span<const NumberedForm> NumberedForms();
 
 // Nothing when the token is not one brinto-cli knows.
 std::optional<Token> ParseToken(std::string_view text);
+
+// The unit key whose face is `text` ("mi", "ft", "in", "m", "lb"), ignoring case, when no other
+// key has that face.
+std::optional<FunctionId> UnitKeyByFace(std::string_view text);
 
 // A decimal number such as "12", ".5", "-3" or "-1.5e-3".
 bool IsNumberToken(std::string_view text);

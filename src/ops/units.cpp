@@ -439,6 +439,13 @@ ValueTag ArithmeticResultTag(FunctionId op, TaggedValue& y, TaggedValue& x, cons
     }
 }
 
+bool IsUnitKey(FunctionId id) {
+    for (const UnitRow& row : kTime) {
+        if (row.key == id) return true;
+    }
+    return id == fid::DegC || id == fid::DegF || FindUnitKey(id).row != nullptr;
+}
+
 bool HandleConversionKey(Engine& e, FunctionId id) {
     for (const UnitRow& row : kTime) {
         if (row.key != id) continue;

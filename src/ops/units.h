@@ -23,6 +23,10 @@ struct DurationSettings {
 
 DurationSettings DurationSettingsOf(const Engine& e);
 
+// A key that gives X a unit, converting a value already in a unit of its kind: the length, area,
+// volume, speed and mass keys, the temperature keys and the time keys (years .. frames).
+bool IsUnitKey(FunctionId id);
+
 // Converts v from unit `from` to unit `to` with the table of `to`'s category: multiplied by the
 // factor of `from` when `from` is in that table, then divided by the factor of `to` when `to` is.
 // A tag missing from the table skips its step, so mixing categories never fails loudly.

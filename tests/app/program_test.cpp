@@ -71,6 +71,7 @@ TEST(Program, ScreenshotDrawsEveryWindow) {
         "main-conversion-1", "main-conversion-2", "main-date-time", "main-user", "main-basic",
         "preferences-general", "preferences-display", "preferences-keyboard", "customize-keyboard", "stack",
         "user-registers", "constants", "tvm", "amortization", "cash-flows", "statistical-registers",
+        "amortization-schedule", "cash-flow-diagram",
         "input-method", "enter-date", "enter-time", "about", "customize-colors", "color-chooser", "help"};
     for (const char* name : names) {
         const QImage image(QString::fromStdString((dir / "shots" / (std::string(name) + ".png")).string()));

@@ -1,4 +1,4 @@
-// "Customize Colors" with "Color Chooser", and the amortization schedule.
+// "Customize Colors" with "Color Chooser", the amortization schedule and the cash-flow diagram.
 #include <QApplication>
 #include <QFile>
 #include <algorithm>
@@ -9,8 +9,10 @@
 #include <QSlider>
 #include <QTableWidget>
 #include <QTemporaryDir>
+#include <tuple>
 
 #include "app/dialogs/colour_dialogs.h"
+#include "app/dialogs/register_view.h"
 #include "app/dialogs/schedule_window.h"
 #include "app_dialogs/dialog_test_support.h"
 #include "app_dialogs/test_classes.h"
@@ -98,6 +100,36 @@ private slots:
         QCOMPARE(lines.size(), 1 + 26 + 1);  // header, rows, and the empty text after the last "\n"
         QVERIFY(std::memcmp(&before, &run.engine.Records(), sizeof before) == 0);
         QVERIFY(!schedule->ExportTo(folder.filePath(QStringLiteral("no/such/folder.csv"))));
+        // The chart above the table: a point per payment after PV, a bar per payment, its summary
+        // as the accessible name, and the payments of the rows in view shaded.
+        const ScheduleChart& chart = schedule->chart()->chart();
+        QCOMPARE(chart.balance.size(), std::size_t{24 + 1});
+        QCOMPARE(chart.bars.size(), std::size_t{24});
+        QCOMPARE(schedule->chart()->accessibleName(), QStringLiteral("Balance falls from 1,000 to 0 over 24 payments"));
+        QCOMPARE(schedule->chart()->firstShown(), 1);
+        table->scrollToBottom();
+        QCOMPARE(schedule->chart()->lastShown(), 24);
+        QVERIFY(schedule->chart()->firstShown() > 1);
+    }
+
+    // The Cash Flow Entries view draws an arrow group per entry, and names NPV and IRR/YR.
+    void CashFlowViewHasItsDiagram() {
+        Place place;
+        Run run(place);
+        double* r = run.engine.registers.values;
+        r[reg::IYr] = 10;
+        r[reg::PYr] = 1;
+        for (const auto& [j, amount, count] : {std::tuple{0, -1000.0, 1u}, {1, 300.0, 4u}, {2, 200.0, 1u}}) {
+            r[j] = amount;
+            run.engine.registers.aux[j] = count;
+        }
+        auto* view = qobject_cast<dialogs::RegisterView*>(run.dialogs.Open(dialogs::View::CashFlow));
+        QVERIFY(view && view->diagram());
+        const CashFlowDiagram& diagram = view->diagram()->diagram();
+        QCOMPARE(diagram.groups.size(), std::size_t{3});
+        QCOMPARE(diagram.periods, 5);
+        QVERIFY(view->diagram()->accessibleName().contains(QStringLiteral("NPV ")));
+        QVERIFY(view->diagram()->accessibleName().contains(QStringLiteral("IRR/YR ")));
     }
 };
 

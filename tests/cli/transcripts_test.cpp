@@ -103,7 +103,7 @@ TEST(Transcripts, EveryCaseHolds) {
 }
 
 TEST(Cli, JsonReportIsOneObjectWithEveryField) {
-    const RunResult r = RunCli({"--json", "--memory", "1", "2"});
+    const RunResult r = RunCli({"--json", "--memory", "12"});
     ASSERT_EQ(r.exitCode, 0);
     const auto json = ParseJson(r.out);
     ASSERT_TRUE(json.has_value());
@@ -137,7 +137,20 @@ TEST(Cli, BadInputIsAOneLineErrorWithStatusTwo) {
         {{"1", "sinn", "2"}, "", "unknown token 2: sinn (did you mean: sin, asin, bin)"},
         {{"swpa"}, "", "(did you mean: swap)"},
         {{"X^3"}, "", ""},  // an alias, in any case: no error
-        {{}, "1 2\n3 sqrtt +\n", "unknown token 4 (line 2, column 3): sqrtt (did you mean: sqrt)"},
+        {{}, "1 +\n3 sqrtt +\n", "unknown token 4 (line 2, column 3): sqrtt (did you mean: sqrt)"},
+        // A malformed formula: the character where it goes wrong.
+        {{"2+*3"}, "", "bad formula in token 1: 2+*3: at character 3, a number, a name or ( is missing"},
+        {{"2+3*"}, "", "2+3*: at character 5, a number, a name or ( is missing at the end"},
+        {{"sqrt(2"}, "", "at character 5, this ( is not closed"},
+        {{"(1+2))"}, "", "at character 6, this ) closes no ("},
+        {{"2(3)"}, "", "at character 2, an operator is missing here"},
+        {{"foo(2)"}, "", "at character 1, no key is named foo"},
+        {{"1+e"}, "", "at character 3, the key e takes no part in formulas"},
+        {{"mod(7)"}, "", "at character 1, mod takes two values in parentheses"},
+        {{"pi(1)"}, "", "at character 1, pi takes no value"},
+        {{"1+2#"}, "", "at character 4, this character cannot stand in a formula"},
+        {{std::string(200, '(') + "1" + std::string(200, ')')}, "", "the formula nests too deeply"},
+        {{}, "rpn 1\n2 3+*4\n", "bad formula in token 4 (line 2, column 3): 3+*4: at character 3"},
         {{}, "rpn 2 enter Undoo\n", "unknown token 4 (column 13): Undoo (did you mean: undo)"},
         {{"qqqqqqq"}, "", "unknown token 1: qqqqqqq\n"},
         {{std::string(100000, '7') + "x"}, "", "unknown token 1: 777"},

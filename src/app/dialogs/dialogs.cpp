@@ -145,6 +145,7 @@ RegisterView* DialogHost::Registers(View view) {
                                   : view == View::Statistical  ? RegisterList::Statistical
                                                                : RegisterList::UserRegisters;
         slot = new RegisterView(m_session, list, m_help, m_parent);
+        if (m_screenColours) slot->SetChartColours(MakeChartColours(*m_screenColours));
         connect(slot, &RegisterView::changed, this, &DialogHost::changed);
         connect(slot, &RegisterView::scheduleRequested, this, &DialogHost::OpenSchedule);
     }
@@ -223,7 +224,10 @@ CustomizeColours* DialogHost::OpenColours() {
 }
 
 ScheduleWindow* DialogHost::OpenSchedule() {
-    if (!m_schedule) m_schedule = new ScheduleWindow(m_session.engine(), m_help, m_parent);
+    if (!m_schedule) {
+        m_schedule = new ScheduleWindow(m_session.engine(), m_help, m_parent);
+        if (m_screenColours) m_schedule->SetChartColours(MakeChartColours(*m_screenColours));
+    }
     m_schedule->Refresh();
     Show(m_schedule);
     return m_schedule;
@@ -241,6 +245,15 @@ void DialogHost::Refresh() {
     if (m_stack && m_stack->isVisible()) m_stack->Refresh();
     for (RegisterView* view : m_registers) {
         if (view && view->isVisible()) view->Refresh();
+    }
+}
+
+void DialogHost::SetScreenColours(const ScreenColours& colours) {
+    m_screenColours = colours;
+    const ChartColours chart = MakeChartColours(colours);
+    if (m_schedule) m_schedule->SetChartColours(chart);
+    for (RegisterView* view : m_registers) {
+        if (view) view->SetChartColours(chart);
     }
 }
 

@@ -6,6 +6,7 @@
 // every key so that open views (the "Stack") follow the calculator.
 #include <QObject>
 #include <QPointer>
+#include <optional>
 #include <string_view>
 
 #include "app/dialogs/dialog_support.h"
@@ -57,6 +58,8 @@ public:
     // coloursChanged.
     CustomizeColours* OpenColours();
     ScheduleWindow* OpenSchedule();
+    // The theme's colours, for the charts of the windows open now and of those opened later.
+    void SetScreenColours(const ScreenColours& colours);
     const CustomColours& customColours() const { return m_customColours; }
     HelpViewer* OpenHelp(std::string_view anchor);
 
@@ -92,6 +95,7 @@ private:
     ScheduleWindow* m_schedule = nullptr;
     QMessageBox* m_noCashFlows = nullptr;
     CustomColours m_customColours;
+    std::optional<ScreenColours> m_screenColours;
     QPointer<HelpViewer> m_helpViewer;
 };
 

@@ -7,6 +7,7 @@
 #include <array>
 #include <string_view>
 
+#include "app/dialogs/money_chart_views.h"
 #include "display/labels.h"
 #include "engine/function_ids.h"
 #include "engine/value_tags.h"
@@ -67,7 +68,11 @@ RegisterView::RegisterView(Session& session, RegisterList list, const HelpFuncti
     m_table->verticalHeader()->setVisible(false);
     m_table->horizontalHeader()->setSectionResizeMode(kValueColumn, QHeaderView::Stretch);
     auto* column = new QVBoxLayout(this);
-    column->addWidget(m_table);
+    if (list == RegisterList::CashFlow) {
+        m_diagram = new CashFlowDiagramView(this);
+        column->addWidget(m_diagram, 1);
+    }
+    column->addWidget(m_table, 1);
     QDialogButtonBox* buttons = MakeButtonRow(this, QDialogButtonBox::Close, info.anchor, help);
     if (list == RegisterList::Amortization) {
         QPushButton* schedule = buttons->addButton(QStringLiteral("Schedule..."), QDialogButtonBox::ActionRole);
@@ -75,8 +80,16 @@ RegisterView::RegisterView(Session& session, RegisterList list, const HelpFuncti
     }
     column->addWidget(buttons);
     connect(m_table, &QTableWidget::cellChanged, this, &RegisterView::Edited);
-    resize(320, 360);
+    if (m_diagram) {
+        resize(440, 520);
+    } else {
+        resize(320, 360);
+    }
     Refresh();
+}
+
+void RegisterView::SetChartColours(const ChartColours& colours) {
+    if (m_diagram) m_diagram->SetColours(colours);
 }
 
 std::vector<RegisterView::Row> RegisterView::Rows() const {
@@ -149,6 +162,13 @@ void RegisterView::Refresh() {
     }
     m_table->resizeColumnToContents(kLabelColumn);
     m_filling = false;
+    if (m_diagram) {
+        CashFlowDiagram diagram = MakeCashFlowDiagram(e);
+        QStringList figures;
+        if (diagram.npv) figures << Label(label::NetPresentValue) + QLatin1Char(' ') + DisplayNumber(e, *diagram.npv);
+        if (diagram.irr) figures << Label(label::ReturnRate) + QLatin1Char(' ') + DisplayNumber(e, *diagram.irr);
+        m_diagram->SetDiagram(std::move(diagram), figures);
+    }
 }
 
 void RegisterView::Edited(int row, int column) {

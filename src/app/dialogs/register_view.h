@@ -3,7 +3,8 @@
 // "Statistical Registers", "Cash Flow Entries" and "User Registers". Values are written as the
 // display writes them and can be edited in place: an edited value goes back through the same
 // register as one undoable step (a cash-flow row keeps a group count of at least 1). The TVM rows
-// have a "Solve" button that computes the register as its key does.
+// have a "Solve" button that computes the register as its key does. "Cash Flow Entries" shows the
+// cash-flow diagram above its rows.
 #include <QDialog>
 #include <vector>
 
@@ -13,6 +14,9 @@
 class QTableWidget;
 
 namespace brinto::dialogs {
+
+class CashFlowDiagramView;
+struct ChartColours;
 
 enum class RegisterList { Tvm, Amortization, Statistical, CashFlow, UserRegisters };
 
@@ -24,6 +28,9 @@ public:
     // Rewrites every row from the calculator.
     void Refresh();
     QTableWidget* table() const { return m_table; }
+    // The cash-flow diagram; nullptr in the other views.
+    CashFlowDiagramView* diagram() const { return m_diagram; }
+    void SetChartColours(const ChartColours& colours);
 
 Q_SIGNALS:
     // The calculator changed: the main window repaints.
@@ -49,6 +56,7 @@ private:
     Session& m_session;
     RegisterList m_list;
     QTableWidget* m_table;
+    CashFlowDiagramView* m_diagram = nullptr;
     std::vector<Row> m_rows;
     bool m_filling = false;
 };
