@@ -12,12 +12,14 @@
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
+#include <QTreeWidget>
 #include <QHBoxLayout>
 #include <QIcon>
 
 #include "app/accessibility.h"
 #include "app/dialogs/colour_dialogs.h"
 #include "app/dialogs/dialogs.h"
+#include "app/tape_panel.h"
 #include "engine/function_ids.h"
 #include "engine/keyboards.h"
 #include "session/keypad.h"
@@ -133,6 +135,10 @@ void MainWindow::BuildMenus() {
     add(viewMenu, QStringLiteral("Enter Date..."), [this] { Dialogs().OpenEnterDate(); }, QKeySequence(Qt::CTRL | Qt::Key_D));
     add(viewMenu, QStringLiteral("Enter Time..."), [this] { Dialogs().OpenEnterTime(); }, QKeySequence(Qt::CTRL | Qt::Key_T));
     add(viewMenu, QStringLiteral("Durations..."), [this] { Dialogs().OpenDurations(); }, QKeySequence(Qt::CTRL | Qt::Key_U));
+    viewMenu->addSeparator();
+    m_tapeAction = add(viewMenu, QStringLiteral("History Tape"), [this](bool on) { ShowTape(on); },
+                       QKeySequence(Qt::CTRL | Qt::Key_H));
+    m_tapeAction->setCheckable(true);
 
     QMenu* editMenu = menuBar()->addMenu(QStringLiteral("Edit"));
     add(editMenu, QStringLiteral("Undo"), [&s] { s.Undo(); }, QKeySequence(Qt::CTRL | Qt::Key_Z));
@@ -351,6 +357,25 @@ void MainWindow::PickedUp(bool preferences) {
         Refresh();
     }
     if (m_dialogs) m_dialogs->Refresh();
+}
+
+void MainWindow::ShowTape(bool shown) {
+    if (!m_tape && !shown) return;
+    if (!m_tape) {
+        m_tape = new TapePanel(m_session, m_store, this);
+        // Beside the display in a wide window, under the keys in a tall one.
+        addDockWidget(width() > height() ? Qt::RightDockWidgetArea : Qt::BottomDockWidgetArea, m_tape);
+        connect(m_tape, &QDockWidget::visibilityChanged, this, [this](bool visible) {
+            if (m_tapeAction) m_tapeAction->setChecked(visible);
+        });
+    }
+    if (shown) m_tape->Reload();
+    m_tape->setVisible(shown);
+    if (shown) m_tape->list()->setFocus();
+}
+
+void MainWindow::TapeChanged() {
+    if (m_tape && m_tape->isVisible()) m_tape->Reload();
 }
 
 void MainWindow::ShowSaveFailure(const QString& text) {

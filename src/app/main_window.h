@@ -20,6 +20,7 @@ namespace brinto {
 
 class Session;
 class SessionStore;
+class TapePanel;
 namespace dialogs {
 class DialogHost;
 }
@@ -46,6 +47,12 @@ public:
     void PickedUp(bool preferences);
     // A line along the bottom saying that the calculator is not being saved; none for empty text.
     void ShowSaveFailure(const QString& text);
+    // The history tape beside the display: shown or hidden (View > History Tape, Ctrl+H), and
+    // redrawn when it has new lines.
+    void ShowTape(bool shown);
+    void TapeChanged();
+    // Null until the tape was first shown.
+    TapePanel* tapePanel() { return m_tape; }
 
     // The secondary windows, made on first use so that start-up does not pay for them.
     dialogs::DialogHost& Dialogs();
@@ -99,6 +106,8 @@ private:
     SessionStore* m_store = nullptr;
     dialogs::DialogHost* m_dialogs = nullptr;
     QLabel* m_saveFailure = nullptr;
+    TapePanel* m_tape = nullptr;
+    QAction* m_tapeAction = nullptr;
 };
 
 }  // namespace brinto

@@ -104,7 +104,7 @@ const QStringList& ScreenshotNames() {
         list << QStringLiteral("amortization-schedule") << QStringLiteral("cash-flow-diagram");
         list << QStringLiteral("input-method") << QStringLiteral("enter-date") << QStringLiteral("enter-time")
              << QStringLiteral("about") << QStringLiteral("customize-colors") << QStringLiteral("color-chooser")
-             << QStringLiteral("help");
+             << QStringLiteral("help") << QStringLiteral("history");
         return list;
     }();
     return names;
@@ -202,6 +202,12 @@ int WriteScreenshots(const QString& directory) {
     help->resize(640, 480);
     shoot(help, QStringLiteral("help"));
     close(help);
+    // The history tape of the sample keys, beside the calculator in a wide window.
+    window.UseStore(&calculator.store);
+    calculator.store.Save();
+    window.resize(640, 480);
+    window.ShowTape(true);
+    shoot(&window, QStringLiteral("history"));
     return failures == 0 ? 0 : 1;
 }
 

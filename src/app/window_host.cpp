@@ -73,6 +73,10 @@ void WindowHost::PickedUp(bool preferences) {
     if (window) window->PickedUp(preferences);
 }
 
+void WindowHost::TapeChanged() {
+    if (window) window->TapeChanged();
+}
+
 void WindowHost::Repaint() {
     if (window) window->Refresh();
 }

@@ -30,6 +30,7 @@ public:
     void ReportSaveFailure(std::string_view text) override;
     void SaveRecovered() override;
     void PickedUp(bool preferences) override;
+    void TapeChanged() override;
 
     DateFields Now() const override;
     std::string DateText(const DateFields& date, bool longForm) const override;

@@ -66,6 +66,8 @@ struct Options {
     bool help = false;
     bool version = false;
     bool schedule = false;
+    bool tape = false;
+    bool clearTape = false;
     std::optional<std::string> db;
     std::optional<std::string> importLegacy;
     std::vector<std::pair<int, u16>> prefs;
@@ -104,6 +106,10 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& args, std::s
             o.version = true;
         } else if (a == "--schedule") {
             o.schedule = true;
+        } else if (a == "--tape") {
+            o.tape = true;
+        } else if (a == "--clear-tape") {
+            o.clearTape = true;
         } else if (a == "--db" && hasValue) {
             o.db = args[++i];
         } else if (a == "--import-legacy" && hasValue) {
@@ -161,6 +167,8 @@ constexpr std::string_view kUsage =
     "  --now \"YYYY-MM-DD HH:MM:SS\"  the local date and time that the \"now\" key reads\n"
     "  --seed N               the stored random seed before the first token\n"
     "  --schedule             after the last token, print the amortization schedule as CSV\n"
+    "  --tape                 after the last token, print the history tape (with --json, as JSON)\n"
+    "  --clear-tape           clear the history tape before the first token\n"
     "  --list-keys            list every key by keyboard (name, code, legend, meaning) and exit\n"
     "  -h, --help             print this text and exit\n"
     "  --version              print the version and exit\n"
@@ -674,7 +682,8 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
         ListKeys(out);
         return 0;
     }
-    const bool interactive = options->tokens.empty() && inIsTerminal && !options->json && !options->schedule;
+    const bool interactive = options->tokens.empty() && inIsTerminal && !options->json && !options->schedule &&
+                             !options->tape && !options->clearTape;
     std::string script;
     if (options->tokens.empty() && !inIsTerminal) {
         script.assign(std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>());
@@ -700,6 +709,7 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
     PreferenceOverrides overrides(session, options->prefs);
     const auto save = [&] { overrides.Save([&] { return store.EndRun(); }); };
     if (options->seed) session.SetRandomSeed(*options->seed);
+    if (options->clearTape) store.ClearTape();
 
     if (interactive) {
         StreamLines streamLines(in, out);
@@ -718,7 +728,15 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
         return 2;  // nothing is saved: the run ends as if it had not started
     }
     save();
-    if (options->json && !options->schedule) {
+    if (options->tape) {
+        for (const ReportMessage& m : host.report.messages) err << m.caption << ": " << m.text << '\n';
+        const std::vector<TapeLine> tape = store.Tape();
+        if (options->json) {
+            out << TapeJson(tape);
+        } else {
+            for (const TapeLine& line : tape) out << TapeText(line) << '\n';
+        }
+    } else if (options->json && !options->schedule) {
         out << JsonReport(session, host.report);
     } else {
         for (const ReportMessage& m : host.report.messages) err << m.caption << ": " << m.text << '\n';

@@ -62,6 +62,25 @@ std::string NumberText(double v) {
     return std::string(text, r.ptr);
 }
 
+std::string TapeJson(const std::vector<TapeLine>& lines) {
+    std::string out = "[";
+    for (const TapeLine& line : lines) {
+        if (out.size() > 1) out += ',';
+        out += "{\"time\":";
+        AppendEscaped(out, line.time);
+        out += ",\"text\":";
+        AppendEscaped(out, line.keys);
+        out += ",\"result\":";
+        AppendEscaped(out, line.result);
+        out += ",\"label\":";
+        AppendEscaped(out, line.label);
+        out += ",\"value\":";
+        AppendNumber(out, line.value);
+        out += '}';
+    }
+    return out + "]\n";
+}
+
 std::string JsonReport(const Session& session, const Report& report) {
     const Engine& e = session.engine();
     const CalcState& s = e.state;

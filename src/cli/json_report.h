@@ -24,4 +24,8 @@ std::string NumberText(double v);
 
 std::string JsonReport(const Session& session, const Report& report);
 
+// The history tape as a JSON array, oldest line first: each line's time, text (the keys), result
+// and label as the display shows them, and value.
+std::string TapeJson(const std::vector<TapeLine>& lines);
+
 }  // namespace brinto

@@ -49,6 +49,8 @@ public:
     // Another program sharing the calculator saved a change and this one took it over; with
     // `preferences`, the preferences are among what changed.
     virtual void PickedUp(bool /*preferences*/) { Repaint(); }
+    // The history tape has new lines, or was cleared.
+    virtual void TapeChanged() {}
 };
 
 }  // namespace brinto

@@ -8,6 +8,7 @@
 #include "engine/numeric/date_fields.h"
 #include "engine/numeric/integer_format.h"
 #include "ops/constants.h"
+#include "session/key_legends.h"
 #include "session/paste.h"
 
 namespace brinto {
@@ -38,7 +39,11 @@ Session::Command::~Command() {
 
 bool Session::Execute(FunctionId id) {
     const bool wasRecording = m_engine.state.engineFlags & flags::Recording;
+    m_tape.BeforeKey(m_engine);
     const bool accepted = m_engine.Dispatch(id);
+    const KeyLegend* legend = FindLegend(id);
+    const bool shiftKey = id == fid::Shift || id == fid::FirstShift || id == fid::SecondShift;
+    m_tape.AfterKey(m_engine, legend ? legend->legend : std::string_view(), accepted, shiftKey);
     if (id == fid::MacroPlay && m_engine.macro.macroLength < 3 &&
         !(m_engine.state.engineFlags & flags::Playing)) {
         Show(message::NoMacroCaption, message::NoMacroText);
@@ -201,12 +206,20 @@ bool Session::Restore(HistoryStep step) {
 
 void Session::Undo() {
     const Command command(*this);
-    if (!Restore(HistoryStep::Undo)) Show(message::NothingToUndoCaption, message::NothingToUndoText);
+    if (!Restore(HistoryStep::Undo)) {
+        Show(message::NothingToUndoCaption, message::NothingToUndoText);
+        return;
+    }
+    m_tape.Command(m_engine, "Undo");
 }
 
 void Session::Redo() {
     const Command command(*this);
-    if (!Restore(HistoryStep::Redo)) Show(message::NothingToRedoCaption, message::NothingToRedoText);
+    if (!Restore(HistoryStep::Redo)) {
+        Show(message::NothingToRedoCaption, message::NothingToRedoText);
+        return;
+    }
+    m_tape.Command(m_engine, "Redo");
 }
 
 void Session::Copy() {
@@ -238,6 +251,7 @@ bool Session::RecallConstant(int index, u16 topRow) {
     e.history.TakeSnapshot(e.Records());
     if (!brinto::RecallConstant(e, index, topRow)) return false;
     e.history.Commit(e.Records());
+    m_tape.Command(e, "Constant " + std::string(ConstantName(index)));
     m_host.Repaint();
     return true;
 }
@@ -265,10 +279,17 @@ void Session::PasteText(std::string_view text) {
     if (!value) return;
     if (base == 0) {
         EnterValue(*value, ValueTag::None);
-        return;
+    } else {
+        const ValueTag format = IntegerFormatOf(m_engine.prefs, ValueTag::None);
+        EnterValue(Narrow(*value, ValueTag::U32, format), format);  // the pasted digits are an unsigned word
     }
-    const ValueTag format = IntegerFormatOf(m_engine.prefs, ValueTag::None);
-    EnterValue(Narrow(*value, ValueTag::U32, format), format);  // the pasted digits are an unsigned word
+    m_tape.Command(m_engine, "Paste");
+}
+
+void Session::RecallValue(double value, ValueTag tag) {
+    const Command command(*this);
+    EnterValue(value, tag);
+    m_tape.Command(m_engine, "Recall");
 }
 
 bool Session::EnterDate(int year, int month, int day) {
@@ -281,6 +302,7 @@ bool Session::EnterDate(int year, int month, int day) {
     const double value = ComposeDate(fields);
     if (!IsDateInRange(value) || SplitDate(value).day != day) return false;  // 31 April is no date
     EnterValue(value, fid::TagDate);
+    m_tape.Command(m_engine, "Enter Date");
     return true;
 }
 
@@ -288,6 +310,7 @@ bool Session::EnterTime(int hour, int minute) {
     const Command command(*this);
     if (hour < 0 || hour > 23 || minute < 0 || minute > 59) return false;
     EnterValue(hour * 3600.0 + minute * 60.0, fid::TagTime);
+    m_tape.Command(m_engine, "Enter Time");
     return true;
 }
 

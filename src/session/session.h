@@ -10,6 +10,7 @@
 #include "engine/engine.h"
 #include "engine/user_key_map.h"
 #include "session/host.h"
+#include "session/tape.h"
 
 namespace brinto {
 
@@ -124,6 +125,10 @@ public:
     bool EnterTime(int hour, int minute);
     // The stored random seed (brinto-cli's --seed).
     void SetRandomSeed(u32 seed);
+    // A value recalled into X from the history tape, as a recall does: one undoable step.
+    void RecallValue(double value, ValueTag tag);
+    // The tape lines made since the last call (the store keeps them).
+    std::vector<TapeLine> TakeTapeLines() { return m_tape.Take(); }
 
     // At most one observer; nullptr removes it.
     void SetCommandObserver(CommandObserver* observer) { m_observer = observer; }
@@ -172,6 +177,7 @@ private:
     UserKeyMap m_userKeys = EmptyUserKeyMap();
     CommandObserver* m_observer = nullptr;
     int m_commandDepth = 0;
+    TapeWriter m_tape;
 };
 
 // Message texts.

@@ -40,6 +40,8 @@ struct SessionStore::Impl : CommandObserver {
     bool finished = false;
     std::optional<StoreTransaction> run;  // between BeginRun and EndRun
     std::map<std::u16string, std::vector<std::byte>> pendingSettings;
+    std::vector<TapeRow> pendingTape;  // tape lines not yet in the file
+    long long lastTapeRow = 0;         // the newest tape line seen in the file
 
     Engine& engine() { return session.m_engine; }
     UserKeyMap& userKeys() { return session.m_userKeys; }
@@ -103,7 +105,15 @@ struct SessionStore::Impl : CommandObserver {
         const FileRecords now = ReadFileRecords(store);
         if (store.Failed()) return false;  // read again at the next look
         TakeOver(now);
+        NoticeTape();
         return true;
+    }
+    // Tells the host when the tape in the file has lines it has not shown.
+    void NoticeTape() {
+        const long long last = store.LastTapeRow();
+        if (last == lastTapeRow) return;
+        lastTapeRow = last;
+        session.host().TapeChanged();
     }
     bool Save();
 };
@@ -111,7 +121,11 @@ struct SessionStore::Impl : CommandObserver {
 bool SessionStore::Impl::Save() {
     if (finished) return false;
     Engine& e = engine();
-    if (!DiffersFromFile(e, userKeys(), file) && pendingSettings.empty()) return true;
+    for (TapeLine& line : session.TakeTapeLines()) {
+        pendingTape.push_back({std::move(line.time), std::move(line.keys), std::move(line.result),
+                               std::move(line.label), line.value, ToNumber(line.tag)});
+    }
+    if (!DiffersFromFile(e, userKeys(), file) && pendingSettings.empty() && pendingTape.empty()) return true;
     const DirtyFlags before = e.dirty;
     store.ClearFailure();
     bool saved = false;
@@ -125,6 +139,7 @@ bool SessionStore::Impl::Save() {
             saved = !store.Failed();
             if (saved) TakeOver(now);
         }
+        saved = saved && store.AppendTape(pendingTape, kTapeLines);
         for (const auto& [name, value] : pendingSettings) {
             saved = saved && store.WriteRecord(kind::FrontEndSetting, value.data(), value.size(), name);
         }
@@ -144,6 +159,10 @@ bool SessionStore::Impl::Save() {
         return false;
     }
     pendingSettings.clear();
+    if (!pendingTape.empty()) {
+        pendingTape.clear();
+        NoticeTape();
+    }
     if (saveFailed) {
         saveFailed = false;
         session.host().SaveRecovered();
@@ -284,6 +303,27 @@ void SessionStore::Finish() {
 }
 
 bool SessionStore::Finished() const { return m_impl->finished; }
+
+std::vector<TapeLine> SessionStore::Tape() {
+    std::vector<TapeLine> lines;
+    if (m_impl->finished) return lines;
+    for (TapeRow& row : m_impl->store.ReadTape(kTapeLines)) {
+        lines.push_back({std::move(row.time), std::move(row.keys), row.value, static_cast<ValueTag>(row.tag),
+                         std::move(row.result), std::move(row.label)});
+    }
+    return lines;
+}
+
+bool SessionStore::ClearTape() {
+    Impl& m = *m_impl;
+    if (m.finished) return false;
+    m.pendingTape.clear();
+    m.session.TakeTapeLines();
+    StoreTransaction transaction(m.store, StoreTransaction::Kind::Write);
+    const bool cleared = transaction.Started() && m.store.ClearTape() && transaction.Commit();
+    if (cleared) m.NoticeTape();
+    return cleared;
+}
 
 bool SessionStore::HadTrouble() const { return m_impl->loadReported || m_impl->anySaveFailed; }
 

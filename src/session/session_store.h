@@ -88,6 +88,12 @@ public:
     // then saves at EndRun as Save does.
     bool BeginRun();
     bool EndRun();
+    // The history tape as the file keeps it, oldest line first (the newest kTapeLines of them), and
+    // its own Clear. Lines reach the file with the save of the command that made them; the host
+    // hears of new lines, its own or another program's (Host::TapeChanged).
+    std::vector<TapeLine> Tape();
+    bool ClearTape();
+
     // Ends the use of the file: nothing is read or written afterwards, whatever is called.
     void Finish();
     bool Finished() const;

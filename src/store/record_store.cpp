@@ -8,6 +8,7 @@
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
+#include <limits>
 #include <system_error>
 
 namespace brinto {
@@ -36,9 +37,14 @@ int WaitWhileBusy(void*, int tries) {
 constexpr const char* kTableNames[2] = {"BrintoConfig", "BrintoState"};
 constexpr const char* kLogSuffixes[] = {"-wal", "-shm"};
 
+constexpr const char* kCreateTape =
+    "CREATE TABLE IF NOT EXISTS BrintoTape(id INTEGER PRIMARY KEY, time TEXT NOT NULL, keys TEXT NOT NULL,"
+    " result TEXT NOT NULL, label TEXT NOT NULL, value REAL, tag INTEGER NOT NULL);";
 constexpr const char* kCreateSchema =
     "CREATE TABLE BrintoConfig(id INTEGER PRIMARY KEY, header BLOB NOT NULL, payload BLOB NOT NULL);"
-    "CREATE TABLE BrintoState(id INTEGER PRIMARY KEY, header BLOB NOT NULL, payload BLOB NOT NULL);";
+    "CREATE TABLE BrintoState(id INTEGER PRIMARY KEY, header BLOB NOT NULL, payload BLOB NOT NULL);"
+    "CREATE TABLE IF NOT EXISTS BrintoTape(id INTEGER PRIMARY KEY, time TEXT NOT NULL, keys TEXT NOT NULL,"
+    " result TEXT NOT NULL, label TEXT NOT NULL, value REAL, tag INTEGER NOT NULL);";
 
 int TableOf(u32 kind) { return kind == kind::Preferences ? 0 : 1; }
 
@@ -394,6 +400,8 @@ OpenResult RecordStore::Ready() {
         QueryText(m_db, "PRAGMA journal_mode=WAL", mode, code);
     }
     sqlite3_exec(m_db, "PRAGMA synchronous=NORMAL", nullptr, nullptr, nullptr);
+    // Databases made before the tape get its table; a write-protected one simply has no tape.
+    sqlite3_exec(m_db, kCreateTape, nullptr, nullptr, nullptr);
     return OpenResult::Opened;
 }
 
@@ -530,6 +538,76 @@ int RecordStore::CountRecords() {
         sqlite3_reset(scan);
     }
     return count;
+}
+
+bool RecordStore::AppendTape(const std::vector<TapeRow>& rows, std::size_t keep) {
+    if (!m_db) return false;
+    if (rows.empty()) return true;
+    StoreTransaction transaction(*this, StoreTransaction::Kind::Write);
+    sqlite3_stmt* insert = nullptr;
+    bool ok = transaction.Started() &&
+              sqlite3_prepare_v2(m_db, "INSERT INTO BrintoTape(time, keys, result, label, value, tag) "
+                                       "VALUES(?1, ?2, ?3, ?4, ?5, ?6)", -1, &insert, nullptr) == SQLITE_OK;
+    for (const TapeRow& row : rows) {
+        if (!ok) break;
+        int column = 1;
+        for (const std::string* text : {&row.time, &row.keys, &row.result, &row.label}) {
+            sqlite3_bind_text(insert, column++, text->data(), static_cast<int>(text->size()), SQLITE_STATIC);
+        }
+        sqlite3_bind_double(insert, 5, row.value);  // not a number is kept as NULL
+        sqlite3_bind_int(insert, 6, row.tag);
+        ok = Execute(insert);
+    }
+    sqlite3_finalize(insert);
+    const std::string trim = "DELETE FROM BrintoTape WHERE id <= (SELECT max(id) FROM BrintoTape) - " +
+                             std::to_string(keep);
+    ok = ok && sqlite3_exec(m_db, trim.c_str(), nullptr, nullptr, nullptr) == SQLITE_OK;
+    if (!ok) {
+        Fail("cannot write the tape");
+        return false;
+    }
+    return transaction.Commit();
+}
+
+std::vector<TapeRow> RecordStore::ReadTape(std::size_t newest) {
+    std::vector<TapeRow> rows;
+    sqlite3_stmt* select = nullptr;
+    const std::string sql = "SELECT time, keys, result, label, value, tag FROM (SELECT * FROM BrintoTape ORDER BY id "
+                            "DESC LIMIT " + std::to_string(newest) + ") ORDER BY id";
+    if (!m_db || sqlite3_prepare_v2(m_db, sql.c_str(), -1, &select, nullptr) != SQLITE_OK) {
+        sqlite3_finalize(select);
+        return rows;
+    }
+    const auto text = [&](int column) {
+        const unsigned char* t = sqlite3_column_text(select, column);
+        return t ? std::string(reinterpret_cast<const char*>(t)) : std::string();
+    };
+    while (sqlite3_step(select) == SQLITE_ROW) {
+        const double value = sqlite3_column_type(select, 4) == SQLITE_NULL ? std::numeric_limits<double>::quiet_NaN()
+                                                                           : sqlite3_column_double(select, 4);
+        rows.push_back({text(0), text(1), text(2), text(3), value, static_cast<u16>(sqlite3_column_int(select, 5))});
+    }
+    sqlite3_finalize(select);
+    return rows;
+}
+
+long long RecordStore::LastTapeRow() {
+    sqlite3_stmt* select = nullptr;
+    long long last = 0;
+    if (m_db && sqlite3_prepare_v2(m_db, "SELECT max(id) FROM BrintoTape", -1, &select, nullptr) == SQLITE_OK &&
+        sqlite3_step(select) == SQLITE_ROW) {
+        last = sqlite3_column_int64(select, 0);
+    }
+    sqlite3_finalize(select);
+    return last;
+}
+
+bool RecordStore::ClearTape() {
+    if (!m_db || sqlite3_exec(m_db, "DELETE FROM BrintoTape", nullptr, nullptr, nullptr) != SQLITE_OK) {
+        Fail("cannot clear the tape");
+        return false;
+    }
+    return true;
 }
 
 bool RecordStore::Begin(bool write) {

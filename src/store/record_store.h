@@ -13,6 +13,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "engine/types.h"
 #include "store/record_header.h"
@@ -32,6 +33,16 @@ enum class OpenResult {
     Busy,         // another process kept the file locked for longer than the store waits
     Unavailable,  // the file could not be read or created (rights, a missing folder, I/O, a full disk)
     Refused,      // the path names no regular file (a folder, a device, a pipe): never opened
+};
+
+// One line of the history tape as the file keeps it, in the table "BrintoTape" beside the records.
+struct TapeRow {
+    std::string time;
+    std::string keys;
+    std::string result;
+    std::string label;
+    double value = 0.0;
+    u16 tag = 0;
 };
 
 class RecordStore {
@@ -80,6 +91,14 @@ public:
 
     // Number of rows in both tables, for tests and diagnostics.
     int CountRecords();
+
+    // The history tape. Appending adds the rows after the others and keeps only the newest `keep`
+    // (within the caller's transaction, or one of its own); reading gives up to the newest `newest`
+    // rows, oldest first; the last row's number tells whether anyone added rows since.
+    bool AppendTape(const std::vector<TapeRow>& rows, std::size_t keep);
+    std::vector<TapeRow> ReadTape(std::size_t newest);
+    long long LastTapeRow();
+    bool ClearTape();
 
 private:
     friend class StoreTransaction;

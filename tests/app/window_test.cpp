@@ -12,12 +12,14 @@
 #include <QImage>
 #include <QMenuBar>
 #include <QTimer>
+#include <QTreeWidget>
 #include <charconv>
 #include <filesystem>
 #include <cmath>
 #include <cstdio>
 #include <regex>
 
+#include "app/tape_panel.h"
 #include "app_fixture.h"
 #include "display/display_text.h"
 #include "engine/keyboards.h"
@@ -208,6 +210,32 @@ TEST(Window, ClosingTheWindowQuitsWithTheHelpViewerOpen) {
     EXPECT_EQ(QCoreApplication::exec(), 0);
     EXPECT_EQ(asked, 2);
     EXPECT_FALSE(desk.window.isVisible());
+}
+
+// The history tape opens from the keyboard beside the keys, follows every key, recalls a line's
+// result into X with Return and copies it with Ctrl+C.
+TEST(Window, TheHistoryTapeFollowsRecallsAndCopies) {
+    Desk desk;
+    desk.window.UseStore(&desk.calculator.store);
+    desk.calculator.store.KeepEachCommand();
+    desk.Type("2+3=");
+    QTest::keyClick(&desk.window, Qt::Key_H, Qt::ControlModifier);
+    TapePanel* tape = desk.window.tapePanel();
+    ASSERT_NE(tape, nullptr);
+    ASSERT_TRUE(tape->isVisible());
+    QTreeWidget* list = tape->list();
+    desk.Type("4*");
+    ASSERT_EQ(list->topLevelItemCount(), 3);
+    EXPECT_EQ(list->topLevelItem(1)->text(0), QStringLiteral("3 ="));
+    EXPECT_EQ(list->topLevelItem(1)->text(1), QStringLiteral("5."));
+    list->setCurrentItem(list->topLevelItem(1));
+    QTest::keyClick(list, Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("5."));
+    QTest::keyClick(list, Qt::Key_Return);
+    EXPECT_EQ(desk.XLine(), "5.");
+    EXPECT_EQ(list->topLevelItem(list->topLevelItemCount() - 1)->text(0), QStringLiteral("Recall"));
+    QTest::keyClick(&desk.window, Qt::Key_H, Qt::ControlModifier);
+    EXPECT_FALSE(tape->isVisible());
 }
 
 TEST(Window, IconIsBuiltInAtTheSizesAWindowShows) {

@@ -62,7 +62,7 @@ TEST(Windows, EachOpensFromItsMenuEntryAndShortcut) {
     }
     EXPECT_EQ(menus.join(QLatin1Char('|')).toStdString(),
               "View:|Basic|Advanced|-|Stack...|User Registers...|Constants...|TVM...|Amortization...|"
-              "Cash Flow...|Statistical...|-|Enter Date...|Enter Time...|Durations...|Edit:|Undo|Redo|-|Cut|Copy|"
+              "Cash Flow...|Statistical...|-|Enter Date...|Enter Time...|Durations...|-|History Tape|Edit:|Undo|Redo|-|Cut|Copy|"
               "Paste|Options:|Preferences...|Keyboard...|-|About Brinto...|-|Quit");
     // Nothing is made before it is first wanted.
     EXPECT_EQ(desk.window.openedDialogs(), nullptr);

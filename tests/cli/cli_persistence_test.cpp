@@ -232,6 +232,30 @@ TEST_F(CliPersistence, ParallelRunsAndAWindowLoseNoUpdate) {
     EXPECT_EQ(Cli({"--db", Db(), "rcl", "0", "5"}).out, std::to_string(3 * kRuns) + ".  CFj\n");
 }
 
+// The tape is one for every program on the file: a window's lines and brinto-cli's follow each
+// other in the order they were made; it keeps the newest 1,000 lines and has its own Clear.
+TEST_F(CliPersistence, TheTapeIsSharedAndKeepsItsNewestLines) {
+    WindowLike window(Db());
+    window.Type("2+3=");
+    EXPECT_EQ(Cli({"--db", Db(), "4", "*", "5", "=", "undo"}).out, "5\n");  // back to typing the 5
+    const std::vector<TapeLine> tape = window.store.Tape();
+    std::vector<std::string> lines;
+    for (const TapeLine& line : tape) lines.push_back(line.keys + " = " + line.result);
+    EXPECT_EQ(lines, (std::vector<std::string>{"2 + = 2.", "3 = = 5.", "4 \u00D7 = 4.", "5 = = 20.", "Undo = 5"}));
+    EXPECT_EQ(Cli({"--db", Db(), "--tape"}).out.substr(0, 29), "2 +                     = 2.\n");
+
+    std::vector<std::string> presses = {"--db", Db()};
+    presses.insert(presses.end(), 1003, "clx");
+    Cli(presses);
+    const std::vector<TapeLine> full = window.store.Tape();
+    ASSERT_EQ(full.size(), kTapeLines);
+    EXPECT_EQ(full.front().keys, "CLx");
+    EXPECT_EQ(Cli({"--db", Db(), "--clear-tape", "--tape"}).out, "");
+    EXPECT_TRUE(window.store.Tape().empty());
+    EXPECT_EQ(Cli({"--memory", "--tape", "1", "+", "2", "="}).out,
+              "1 +                     = 1.\n2 =                     = 3.\n");
+}
+
 // --pref holds for the run in both modes; the saved preferences keep what they were.
 TEST_F(CliPersistence, GivenPreferencesAreNotSavedInEitherMode) {
     for (const bool interactive : {false, true}) {

@@ -26,6 +26,39 @@ struct Fixture {
     }
 };
 
+// The tape: a line for each operation with the number typed before it and the result it gave; a
+// key that waits for more (a register key, HYP) and the shift latch add to the next line instead.
+TEST(Session, TheTapeHasALinePerOperation) {
+    Fixture f;
+    f.Type("2");
+    f.session.Special(SpecialKey::Enter);
+    f.Type("3+");
+    f.Type("77");
+    f.session.TapKey(fid::Store);
+    f.Type("02");
+    f.session.Tap(fid::Shift);
+    f.session.Tap(fid::ClearX);
+    f.session.Undo();
+    f.session.Tap(fid::Hyperbolic);
+    f.session.Tap(fid::Sin);
+    f.session.Undo();
+    f.Type("16");
+    f.session.Tap(fid::SquareRoot);
+    const std::vector<std::pair<std::string, std::string>> expected = {
+        {"2 ENTER", "2."},    {"3 +", "5."},    {"77 STO 0 2", "77."}, {"CLx", "0."},
+        {"Undo", "77."},      {"HYP SIN", ""},  {"Undo", "77."},       {"16 \u221Ax", "4."},
+    };
+    const std::vector<TapeLine> lines = f.session.TakeTapeLines();
+    ASSERT_EQ(lines.size(), expected.size());
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        EXPECT_EQ(lines[i].keys, expected[i].first);
+        if (!expected[i].second.empty()) EXPECT_EQ(lines[i].result, expected[i].second) << lines[i].keys;
+        EXPECT_EQ(lines[i].time, "2000-01-01 00:00:00");
+    }
+    EXPECT_EQ(lines.back().value, 4.0);
+    EXPECT_TRUE(f.session.TakeTapeLines().empty());
+}
+
 // Each refusal the user can meet shows its own caption and text, once.
 TEST(Session, MessagesNameWhatCannotBeDone) {
     using Steps = void (*)(Fixture&);
