@@ -236,6 +236,7 @@ constexpr std::string_view kInteractiveHelp =
     "  help NAME       what a key, command or constant does and where it sits (help sqrt, help const:7)\n"
     "  status          the input method, keyboard, angle unit and entry base\n"
     "  quit            leave (Ctrl-D too); the calculator is saved after every line\n"
+    "Every operation and its result go on the history tape: brinto-cli --tape prints it.\n"
     "A line with an unknown token runs nothing; the error names the token and its column.\n";
 
 // The words the interactive prompt takes besides the tokens.

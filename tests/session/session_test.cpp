@@ -52,7 +52,9 @@ TEST(Session, TheTapeHasALinePerOperation) {
     ASSERT_EQ(lines.size(), expected.size());
     for (std::size_t i = 0; i < lines.size(); ++i) {
         EXPECT_EQ(lines[i].keys, expected[i].first);
-        if (!expected[i].second.empty()) EXPECT_EQ(lines[i].result, expected[i].second) << lines[i].keys;
+        if (!expected[i].second.empty()) {
+            EXPECT_EQ(lines[i].result, expected[i].second) << lines[i].keys;
+        }
         EXPECT_EQ(lines[i].time, "2000-01-01 00:00:00");
     }
     EXPECT_EQ(lines.back().value, 4.0);

@@ -222,6 +222,7 @@ TEST(LegacyImport, AnExportBecomesTheRecordsOrNothingAtAll) {
         {"a number value", kHeadAndKey + "\"saved_0\"=dword:00000006\r\n", "not binary data"},
         {"garbage in the key", kHeadAndKey + "saved_0=hex:06\r\n", "line 3"},
         {"unclosed name", kHeadAndKey + "\"saved_0=hex:06\r\n", "line 3"},
+        {"larger than any export", LegacyFile("REGEDIT4\r\n") + std::string((1 << 20) + 1, ';'), "too large"},
     };
     for (const auto& [name, file, reason] : cases) {
         SCOPED_TRACE(name);
