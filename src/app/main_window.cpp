@@ -365,9 +365,9 @@ void MainWindow::ShowTape(bool shown) {
         m_tape = new TapePanel(m_session, m_store, this);
         // Beside the display in a wide window, under the keys in a tall one.
         addDockWidget(width() > height() ? Qt::RightDockWidgetArea : Qt::BottomDockWidgetArea, m_tape);
-        connect(m_tape, &QDockWidget::visibilityChanged, this, [this](bool visible) {
-            if (m_tapeAction) m_tapeAction->setChecked(visible);
-        });
+        // The menu entry follows the panel's own close button. Connected to the entry, not the
+        // window, so that nothing reaches a window being taken down.
+        connect(m_tape, &QDockWidget::visibilityChanged, m_tapeAction, &QAction::setChecked);
     }
     if (shown) m_tape->Reload();
     m_tape->setVisible(shown);

@@ -72,7 +72,7 @@ TEST(Program, ScreenshotDrawsEveryWindow) {
         "preferences-general", "preferences-display", "preferences-keyboard", "customize-keyboard", "stack",
         "user-registers", "constants", "tvm", "amortization", "cash-flows", "statistical-registers",
         "amortization-schedule", "cash-flow-diagram",
-        "input-method", "enter-date", "enter-time", "about", "customize-colors", "color-chooser", "help"};
+        "input-method", "enter-date", "enter-time", "about", "customize-colors", "color-chooser", "help", "history"};
     for (const char* name : names) {
         const QImage image(QString::fromStdString((dir / "shots" / (std::string(name) + ".png")).string()));
         ASSERT_FALSE(image.isNull()) << name;
