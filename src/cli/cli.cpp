@@ -23,7 +23,6 @@
 #include "finance/amortization_schedule.h"
 #include "ops/constants.h"
 #include "session/session_store.h"
-#include "store/state_file.h"
 
 namespace brinto {
 
@@ -224,7 +223,7 @@ void PrintUsage(std::ostream& out) {
         const std::string_view gap = k == 0 ? " " : k % 3 == 0 ? ",\n                         " : ", ";
         out << gap << k << ' ' << kKeyboardNames[k];
     }
-    out << '\n' << kUsageMiddle << DefaultLocations().database.string() << ".\n" << kUsageEnd;
+    out << '\n' << kUsageMiddle << StoreLocation::DefaultFile().string() << ".\n" << kUsageEnd;
 }
 
 constexpr std::string_view kInteractiveHelp =
@@ -718,7 +717,7 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
         if (terminal && !options->memory) {
             // Beside the database in use; with --memory the run leaves no trace.
             const std::filesystem::path database =
-                options->db ? std::filesystem::path(*options->db) : DefaultLocations().database;
+                options->db ? std::filesystem::path(*options->db) : StoreLocation::DefaultFile();
             lines.KeepHistoryIn(database.parent_path() / "brinto-cli.history");
         }
         Interactive(session, host, lines, out, err, store, overrides);

@@ -170,6 +170,8 @@ bool SessionStore::Impl::Save() {
     return true;
 }
 
+std::filesystem::path StoreLocation::DefaultFile() { return DefaultLocations().database; }
+
 SessionStore::SessionStore(Session& session) : m_impl(std::make_unique<Impl>(session)) {}
 
 SessionStore::~SessionStore() = default;

@@ -40,6 +40,8 @@ struct StoreLocation {
     // The file shared by every front end, $XDG_DATA_HOME/brinto/brinto.db, its folder created when
     // missing; a first run there takes over the export $XDG_CONFIG_HOME/brinto/Brinto.reg.
     static StoreLocation Default() { return {}; }
+    // Where that file is, from this process's environment.
+    static std::filesystem::path DefaultFile();
     // A given file; its folder must exist. A first run takes over the same export.
     static StoreLocation File(std::filesystem::path path) { return {Kind::File, std::move(path)}; }
     // Nothing read, nothing written: a very first run that lasts one run.
