@@ -134,6 +134,16 @@ void StampVersions(Engine& e) {
     e.state.version = kCalcStateVersion;
 }
 
+void StampVersion(Engine& e, int slot) {
+    switch (slot) {
+        case kPreferences: e.prefs.words[0] = kPreferencesVersion; break;
+        case kRegisters: e.registers.version = kRegisterBankVersion; break;
+        case kMacro: e.macro.macroVersion = kMacroVersion; break;
+        case kCalcState: e.state.version = kCalcStateVersion; break;
+        default: break;
+    }
+}
+
 // Whether the engine's record in `slot` is byte for byte what `stored` holds.
 bool Same(const Engine& e, const UserKeyMap& userKeys, int slot, const Image& stored) {
     switch (slot) {
@@ -214,12 +224,15 @@ bool SaveState(Engine& e, const UserKeyMap& userKeys, RecordStore& store, FileRe
     StoreTransaction transaction(store, StoreTransaction::Kind::Write);
     // Without the transaction each record would be written on its own: a save is all or nothing.
     bool saved = transaction.Started();
-    StampVersions(e);
+    // With the file's records to compare with, every record carries today's version, and one that
+    // did not is then written; without them, only the records written get it.
+    if (file) StampVersions(e);
     const bool changed[FileRecords::kCount] = {e.dirty.preferences, e.dirty.registers, e.dirty.userKeys,
                                                e.dirty.macro, true};
     bool written[FileRecords::kCount] = {};
     for (int slot = 0; saved && slot < FileRecords::kCount; ++slot) {
         written[slot] = file ? !Same(e, userKeys, slot, file->images[slot]) : changed[slot];
+        if (written[slot] && !file) StampVersion(e, slot);
         if (written[slot]) saved = WriteSlot(e, userKeys, slot, store);
     }
     saved = saved && transaction.Commit();
