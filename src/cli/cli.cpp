@@ -287,12 +287,12 @@ std::string UnknownToken(std::string_view word, int number, const std::string& p
 
 // Checks every word of one line before any runs; on a bad one names it in `error`.
 template <typename Words>
-bool CheckTokens(const Words& words, std::string_view line, std::string& error) {
+bool CheckTokens(const Words& words, std::string_view line, NumberSyntax syntax, std::string& error) {
     bool ok = true;
     int number = 0;
     words([&](std::string_view word, std::size_t offset) {
         ++number;
-        if (ParseToken(word)) return true;
+        if (ParseToken(word, syntax)) return true;
         error = UnknownToken(word, number, Position(line, offset), kPromptWords);
         ok = false;
         return false;
@@ -310,7 +310,9 @@ bool RunToken(Session& session, const Token& t, int& digitsTaken) {
         case TokenKind::ExactKey: return session.Tap(t.id);
         case TokenKind::Number: {
             bool accepted = true;
-            TypeNumber(t.text, [&](FunctionId id) {
+            const auto parts = SplitNumber(t.text, SyntaxOf(session.engine().prefs));
+            if (!parts) return false;
+            TypeNumber(*parts, [&](FunctionId id) {
                 const bool took = session.TapKey(id);
                 if (took && IsDigitKey(id)) ++digitsTaken;
                 accepted = took && accepted;
@@ -348,7 +350,7 @@ bool RunTokens(Session& session, const Words& words, std::string_view text, std:
     int index = 0;
     bool ok = true;
     words([&](std::string_view word, std::size_t offset) {
-        const auto token = ParseToken(word);
+        const auto token = ParseToken(word, SyntaxOf(session.engine().prefs));
         if (!token) {
             error = UnknownToken(word, index + 1, Position(text, offset));
             ok = false;
@@ -491,7 +493,7 @@ void Interactive(Session& session, CliHost& host, LineSource& lines, std::ostrea
         }
         const auto words = [&](auto&& each) { ForEachWord(*line, each); };
         std::string error;
-        if (!CheckTokens(words, *line, error)) {
+        if (!CheckTokens(words, *line, SyntaxOf(session.engine().prefs), error)) {
             err << error << '\n';
             continue;
         }

@@ -8,8 +8,11 @@
 #include <string_view>
 
 #include "engine/engine.h"
+#include "session/number_reader.h"
 
 class QDialog;
+class QLabel;
+class QLineEdit;
 
 namespace brinto::dialogs {
 
@@ -27,8 +30,14 @@ QDialogButtonBox* MakeButtonRow(QDialog* dialog, QDialogButtonBox::StandardButto
 
 // A number as the display shows it in the present number format (untagged).
 QString DisplayNumber(const Engine& e, double value);
-// A number typed into a row: the user's radix character, digit grouping ignored. Nothing when the
-// text is not a number.
-std::optional<double> ReadNumber(const Engine& e, const QString& text);
+// A number typed into a field, read as the keypad and brinto-cli read numbers, in the radix of
+// the "Comma Radix" preference in force.
+FieldReading ReadNumberField(const Engine& e, const QString& text, FieldKind kind);
+
+// The line under a window's fields that says why a field's text is refused; hidden while none is.
+QLabel* MakeProblemLine(QWidget* parent);
+// Makes `edit` a number field of `kind`: while its text is refused, Enter does not accept it (in
+// a table the editor stays open) and `problem` says why.
+void WatchNumberField(QLineEdit* edit, const Engine& e, FieldKind kind, QLabel* problem);
 
 }  // namespace brinto::dialogs

@@ -129,8 +129,12 @@ PreferencesDialog* DialogHost::PreferencesSheet() {
     m_preferences = new PreferencesDialog(m_session, m_help, m_parent);
     connect(m_preferences, &QDialog::accepted, this, [this] {
         m_session.SetPreferences(m_preferences->Edited());
+        if (m_sheetColours) KeepColours(*m_sheetColours);
+        m_sheetColours.reset();
         emit changed();
     });
+    // Colours chosen from the sheet belong to it: its Cancel drops them with the rest.
+    connect(m_preferences, &QDialog::rejected, this, [this] { m_sheetColours.reset(); });
     connect(m_preferences, &QDialog::finished, this, &DialogHost::preferencesClosed);
     connect(m_preferences, &PreferencesDialog::colorsRequested, this, &DialogHost::OpenColours);
     return m_preferences;
@@ -208,18 +212,26 @@ CustomizeColours* DialogHost::OpenColours() {
     if (!m_colours) {
         m_colours = new CustomizeColours(m_help, m_parent);
         connect(m_colours, &QDialog::accepted, this, [this] {
-            m_customColours = m_colours->Edited();
-            if (m_store) m_store->SetFrontEndSetting(kCustomColoursSetting, PackColours(m_customColours));
-            emit coloursChanged(m_customColours);
+            if (m_preferences && m_preferences->isVisible()) {
+                m_sheetColours = m_colours->Edited();
+            } else {
+                KeepColours(m_colours->Edited());
+            }
         });
     }
     // The colours of the theme chosen on the sheet, as the key classes show them without custom ones.
     const Preferences& prefs = m_session.engine().prefs;
     ThemeSet themes;
     themes.ApplyTheme(themes.SelectTheme(prefs.Theme()));
-    m_colours->Load(MakeScreenColours(themes, prefs, DefaultDisplayStyle(themes)), m_customColours);
+    m_colours->Load(MakeScreenColours(themes, prefs, DefaultDisplayStyle(themes)), m_sheetColours.value_or(m_customColours));
     Show(m_colours);
     return m_colours;
+}
+
+void DialogHost::KeepColours(const CustomColours& colours) {
+    m_customColours = colours;
+    if (m_store) m_store->SetFrontEndSetting(kCustomColoursSetting, PackColours(m_customColours));
+    emit coloursChanged(m_customColours);
 }
 
 ScheduleWindow* DialogHost::OpenSchedule() {

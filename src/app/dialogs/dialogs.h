@@ -6,6 +6,7 @@
 // every key so that open views (the "Stack") follow the calculator.
 #include <QObject>
 #include <QPointer>
+#include <optional>
 #include <string_view>
 
 #include "app/dialogs/dialog_support.h"
@@ -54,7 +55,7 @@ public:
     EnterTimeDialog* OpenEnterTime();
     DurationsDialog* OpenDurations();
     // "Customize Colors", on the colours in force; its OK keeps the custom colours and emits
-    // coloursChanged.
+    // coloursChanged, or, opened from the "Preferences" sheet, leaves them to the sheet's OK.
     CustomizeColours* OpenColours();
     ScheduleWindow* OpenSchedule();
     const CustomColours& customColours() const { return m_customColours; }
@@ -74,6 +75,7 @@ private:
     PreferencesDialog* PreferencesSheet();
     RegisterView* Registers(View view);
     QMessageBox* NoCashFlows();
+    void KeepColours(const CustomColours& colours);
 
     Session& m_session;
     SessionStore* m_store;
@@ -92,6 +94,7 @@ private:
     ScheduleWindow* m_schedule = nullptr;
     QMessageBox* m_noCashFlows = nullptr;
     CustomColours m_customColours;
+    std::optional<CustomColours> m_sheetColours;  // chosen while the sheet is open, not yet kept
     QPointer<HelpViewer> m_helpViewer;
 };
 

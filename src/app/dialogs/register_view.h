@@ -10,6 +10,7 @@
 #include "app/dialogs/dialog_support.h"
 #include "session/session.h"
 
+class QLabel;
 class QTableWidget;
 
 namespace brinto::dialogs {
@@ -24,6 +25,8 @@ public:
     // Rewrites every row from the calculator.
     void Refresh();
     QTableWidget* table() const { return m_table; }
+    // The line that says why an edited value is refused.
+    QLabel* problem() const { return m_problem; }
 
 Q_SIGNALS:
     // The calculator changed: the main window repaints.
@@ -42,13 +45,16 @@ private:
         FunctionId solveKey; // kNoKey: no "Solve"
         int groupCount;      // cash flows only
     };
+    class FieldDelegate;
     std::vector<Row> Rows() const;
+    FieldKind KindAt(int row, int column) const;
     void Edited(int row, int column);
     void Solve(FunctionId key);
 
     Session& m_session;
     RegisterList m_list;
     QTableWidget* m_table;
+    QLabel* m_problem;
     std::vector<Row> m_rows;
     bool m_filling = false;
 };

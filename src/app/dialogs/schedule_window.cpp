@@ -30,7 +30,10 @@ ScheduleWindow::ScheduleWindow(const Engine& engine, const HelpFunction& help, Q
     m_table->verticalHeader()->setVisible(false);
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     QDialogButtonBox* buttons = MakeButtonRow(this, QDialogButtonBox::Close, "amortization", help);
+    // Return closes the window; it never asks for a file.
+    buttons->button(QDialogButtonBox::Close)->setDefault(true);
     QPushButton* exportCsv = buttons->addButton(QStringLiteral("Export CSV..."), QDialogButtonBox::ActionRole);
+    exportCsv->setAutoDefault(false);
     connect(exportCsv, &QPushButton::clicked, this, [this] { AskAndExport(); });
     auto* column = new QVBoxLayout(this);
     column->addWidget(m_table);
