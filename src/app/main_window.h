@@ -6,6 +6,7 @@
 
 #include "app/display_view.h"
 #include "app/key_view.h"
+#include "app/quick_switch.h"
 #include "session/host.h"
 #include "session/screen_colours.h"
 #include "session/theme.h"
@@ -16,6 +17,7 @@ class QComboBox;
 class QToolBar;
 
 namespace brinto {
+
 
 class Session;
 class SessionStore;
@@ -54,7 +56,7 @@ public:
     KeyView* keyboardView() { return m_keys; }
     KeyView* basicView() { return m_basic; }
     QComboBox* selector() { return m_selector; }
-    QWidget* quickSwitch() { return m_strip; }
+    QuickSwitchStrip* quickSwitch() { return m_strip; }
     QButtonGroup* quickSwitchButtons() { return m_stripButtons; }
 
 protected:
@@ -80,7 +82,7 @@ private:
     KeyView* m_basic = nullptr;
     QToolBar* m_toolBar = nullptr;
     QComboBox* m_selector = nullptr;
-    QWidget* m_strip = nullptr;
+    QuickSwitchStrip* m_strip = nullptr;
     QButtonGroup* m_stripButtons = nullptr;
     ThemeSet m_themes;
     ScreenColours m_colours{};
