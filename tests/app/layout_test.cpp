@@ -3,10 +3,17 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QButtonGroup>
+#include <QDialogButtonBox>
 #include <QFontMetrics>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSet>
 
+#include "app/input_method_dialog.h"
 #include "app_fixture.h"
 #include "engine/keyboards.h"
 #include "session/session.h"
@@ -70,6 +77,44 @@ TEST(Layout, KeysStayPutAtTheFirstKey) {
     EXPECT_EQ(calculator.engine.X(), 5.0);
     EXPECT_EQ(window.keyboardView()->geometry(), keys);
     EXPECT_EQ(window.display()->geometry(), display);
+}
+
+// The Stack view opens beside the calculator; the other windows centred on it.
+TEST(Layout, StackBesideOthersCentred) {
+    Desk desk;
+    desk.window.move(20, 20);
+    desk.window.OpenView(View::Stack);
+    QWidget* stack = QApplication::activeModalWidget();
+    for (QWidget* w : QApplication::topLevelWidgets()) {
+        if (w->isVisible() && w->windowTitle() == QStringLiteral("Stack")) stack = w;
+    }
+    ASSERT_NE(stack, nullptr);
+    EXPECT_FALSE(stack->frameGeometry().intersects(desk.window.frameGeometry()));
+    desk.window.OpenView(View::Tvm);
+    QWidget* tvm = QApplication::activeModalWidget();
+    ASSERT_NE(tvm, nullptr);
+    EXPECT_LE((tvm->frameGeometry().center() - desk.window.frameGeometry().center()).manhattanLength(), 4);
+    tvm->close();
+    stack->close();
+}
+
+// The first run's question shows all of its text at its opening size and offers its help; Escape
+// chooses nothing, whatever the list shows.
+TEST(Layout, InputMethodQuestionIsWholeAndEscapeChoosesNothing) {
+    InputMethodDialog dialog;
+    dialog.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&dialog));
+    EXPECT_EQ(dialog.textArea()->verticalScrollBar()->maximum(), 0);
+    auto* buttons = dialog.findChild<QDialogButtonBox*>();
+    ASSERT_NE(buttons->button(QDialogButtonBox::Help), nullptr);
+    dialog.list()->setCurrentRow(2);
+    QTest::keyClick(&dialog, Qt::Key_Escape);
+    EXPECT_EQ(dialog.Chosen(), InputMethod::Simple);
+    EXPECT_FALSE(dialog.PreferencesAfterwards());
+    dialog.show();
+    dialog.list()->setCurrentRow(2);
+    buttons->button(QDialogButtonBox::Ok)->click();
+    EXPECT_EQ(dialog.Chosen(), InputMethod::Rpn);
 }
 
 }  // namespace brinto::test

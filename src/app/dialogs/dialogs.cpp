@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -71,6 +72,7 @@ DialogHost::~DialogHost() {
 }
 
 QDialog* DialogHost::Show(QDialog* dialog) {
+    Place(dialog);
     if (dialog == m_stack) {
         dialog->show();  // modeless: the calculator stays usable beside it
     } else {
@@ -79,6 +81,28 @@ QDialog* DialogHost::Show(QDialog* dialog) {
     dialog->raise();
     dialog->activateWindow();
     return dialog;
+}
+
+// The Stack view opens beside the calculator (right of it, else left of it, where the screen has
+// room), so that both are seen at once; every other window opens centred on the calculator.
+void DialogHost::Place(QWidget* window) const {
+    if (!m_parent) return;
+    if (!window->testAttribute(Qt::WA_Resized)) window->adjustSize();
+    QWidget* main = m_parent->window();
+    const QRect calculator = main->frameGeometry();
+    const QSize size = window->frameGeometry().size();
+    QPoint where(calculator.center().x() - size.width() / 2, calculator.center().y() - size.height() / 2);
+    if (window == m_stack) {
+        const QScreen* screen = main->screen();
+        const QRect room = screen ? screen->availableGeometry() : QRect();
+        constexpr int kGap = 8;
+        where = QPoint(calculator.right() + kGap, calculator.top());
+        if (room.isValid() && where.x() + size.width() > room.right()) {
+            where.setX(calculator.left() - kGap - size.width());
+            if (where.x() < room.left()) where.setX(room.right() - size.width());
+        }
+    }
+    window->move(where);
 }
 
 QWidget* DialogHost::Open(int view) {

@@ -72,6 +72,7 @@ Q_SIGNALS:
 
 private:
     QDialog* Show(QDialog* dialog);
+    void Place(QWidget* window) const;
     PreferencesDialog* PreferencesSheet();
     RegisterView* Registers(View view);
     QMessageBox* NoCashFlows();
