@@ -192,6 +192,8 @@ void MainWindow::Refresh() {
     const bool quick = p.QuickSwitch();
     m_strip->setVisible(quick && !basic);
     m_toolBar->setVisible(!quick);
+    // The Basic view has no keyboards to choose from.
+    m_selector->setEnabled(!basic);
     if (m_selector->currentIndex() != keyboard) m_selector->setCurrentIndex(keyboard);
     if (QAbstractButton* button = m_stripButtons->button(keyboard); button && !button->isChecked()) {
         button->setChecked(true);

@@ -98,6 +98,32 @@ TEST(Layout, StackBesideOthersCentred) {
     stack->close();
 }
 
+// While a prefix waits for its register digits the display says so, until it completes or is
+// cancelled.
+TEST(Layout, DisplaySaysWhatAPrefixWaitsFor) {
+    Desk desk;
+    const auto waiting = [&] {
+        QStringList shown;
+        for (const QString& a : desk.window.display()->Annunciators()) {
+            if (a.endsWith(QLatin1Char('_'))) shown << a;
+        }
+        return shown.join(QLatin1Char('|')).toStdString();
+    };
+    struct Step {
+        FunctionId key;
+        std::string shown;
+    };
+    const Step steps[] = {
+        {fid::Store, "STO _"}, {fid::Add, "STO+ _"}, {fid::Digit1, "STO+ 1_"}, {DigitKey(2), ""},
+        {fid::Recall, "RCL _"}, {fid::Backspace, ""},
+    };
+    for (const Step& step : steps) {
+        SCOPED_TRACE(ToNumber(step.key));
+        desk.session().Tap(step.key);
+        EXPECT_EQ(waiting(), step.shown);
+    }
+}
+
 // The first run's question shows all of its text at its opening size and offers its help; Escape
 // chooses nothing, whatever the list shows.
 TEST(Layout, InputMethodQuestionIsWholeAndEscapeChoosesNothing) {

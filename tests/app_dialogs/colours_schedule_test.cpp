@@ -108,6 +108,14 @@ private slots:
         QCOMPARE(lines.size(), 1 + 26 + 1);  // header, rows, and the empty text after the last "\n"
         QVERIFY(std::memcmp(&before, &run.engine.Records(), sizeof before) == 0);
         QVERIFY(!schedule->ExportTo(folder.filePath(QStringLiteral("no/such/folder.csv"))));
+        QVERIFY(!schedule->cutShortNote()->isVisibleTo(schedule));
+        // Amounts as the display writes them; a loan longer than the keys reach says so.
+        r[reg::N] = 40000;
+        r[reg::PV] = 1e7;
+        schedule->Refresh();
+        QCOMPARE(table->item(0, 4)->text().count(QLatin1Char(',')), 2);  // 9,99x,xxx.xx
+        QVERIFY(schedule->cutShortNote()->isVisibleTo(schedule));
+        QVERIFY(schedule->cutShortNote()->text().contains(QStringLiteral("40,000")));
         QTest::keyClick(schedule, Qt::Key_Return);  // closes; never asks for a file
         QVERIFY(!schedule->isVisible());
     }

@@ -3,11 +3,15 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
+#include <cmath>
 #include <string>
+
+#include "engine/register_bank.h"
 
 namespace brinto::dialogs {
 namespace {
@@ -28,7 +32,12 @@ ScheduleWindow::ScheduleWindow(const Engine& engine, const HelpFunction& help, Q
     m_table->setHorizontalHeaderLabels({QStringLiteral("Year"), QStringLiteral("Payment"), QStringLiteral("Int"),
                                         QStringLiteral("Prin"), QStringLiteral("Bal")});
     m_table->verticalHeader()->setVisible(false);
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    // Whole amounts, never elided: the columns take their widths, and the table scrolls across.
+    m_table->setTextElideMode(Qt::ElideNone);
+    m_table->horizontalHeader()->setStretchLastSection(true);
+    m_cutShort = new QLabel(this);
+    m_cutShort->setWordWrap(true);
+    m_cutShort->hide();
     QDialogButtonBox* buttons = MakeButtonRow(this, QDialogButtonBox::Close, "amortization", help);
     // Return closes the window; it never asks for a file.
     buttons->button(QDialogButtonBox::Close)->setDefault(true);
@@ -37,21 +46,48 @@ ScheduleWindow::ScheduleWindow(const Engine& engine, const HelpFunction& help, Q
     connect(exportCsv, &QPushButton::clicked, this, [this] { AskAndExport(); });
     auto* column = new QVBoxLayout(this);
     column->addWidget(m_table);
+    column->addWidget(m_cutShort);
     column->addWidget(buttons);
     resize(480, 480);
 }
 
-// The table shows the amounts as the CSV has them: one text per line, split at the commas.
+// The amounts as the display writes them (grouped, in the radix in force); each year's totals
+// after its last payment, as in the CSV.
 void ScheduleWindow::Refresh() {
     m_schedule = MakeAmortizationSchedule(m_engine);
-    const QStringList lines = QString::fromStdString(ScheduleCsv(m_schedule)).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    m_table->setRowCount(static_cast<int>(lines.size()) - 1);
-    for (int row = 1; row < lines.size(); ++row) {
-        const QStringList fields = lines[row].split(QLatin1Char(','));
-        for (int column = 0; column < fields.size() && column < 5; ++column) {
-            m_table->setItem(row - 1, column, Cell(fields[column]));
+    const auto amount = [this](double value) { return Cell(DisplayNumber(m_engine, value)); };
+    const auto year = m_schedule.years.begin();
+    m_table->setRowCount(static_cast<int>(m_schedule.payments.size() + m_schedule.years.size()));
+    int row = 0;
+    auto totals = year;
+    for (const ScheduleRow& payment : m_schedule.payments) {
+        while (totals != m_schedule.years.end() && totals->lastPayment < payment.payment) ++totals;
+        const int yearNumber = totals != m_schedule.years.end() ? totals->year : 0;
+        m_table->setItem(row, 0, Cell(QString::number(yearNumber)));
+        m_table->setItem(row, 1, Cell(QString::number(payment.payment)));
+        m_table->setItem(row, 2, amount(payment.interest));
+        m_table->setItem(row, 3, amount(payment.principal));
+        m_table->setItem(row, 4, amount(payment.balance));
+        ++row;
+        if (totals != m_schedule.years.end() && totals->lastPayment == payment.payment) {
+            m_table->setItem(row, 0, Cell(QString::number(totals->year)));
+            m_table->setItem(row, 1, Cell(QStringLiteral("Total")));
+            m_table->setItem(row, 2, amount(totals->interest));
+            m_table->setItem(row, 3, amount(totals->principal));
+            m_table->setItem(row, 4, amount(totals->balance));
+            ++row;
         }
     }
+    m_table->setRowCount(row);
+    m_table->resizeColumnsToContents();
+    // A loan longer than the amortization keys reach is listed up to their last payment, and says so.
+    const double periods = m_engine.registers.values[reg::N];
+    const bool cutShort = periods >= kMostSchedulePayments + 1.0;
+    m_cutShort->setText(cutShort ? QStringLiteral("Listed up to payment %1 of %2: the amortization keys reach no further.")
+                                       .arg(DisplayNumber(m_engine, kMostSchedulePayments),
+                                            DisplayNumber(m_engine, std::trunc(periods)))
+                                 : QString());
+    m_cutShort->setVisible(cutShort);
 }
 
 bool ScheduleWindow::ExportTo(const QString& path) const {
