@@ -5,6 +5,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QShortcut>
 #include <QVBoxLayout>
 #include <algorithm>
 
@@ -53,6 +54,8 @@ InputMethodDialog::InputMethodDialog(QWidget* parent) : QDialog(parent) {
     buttons->button(QDialogButtonBox::Ok)->setDefault(true);
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    auto* f1 = new QShortcut(QKeySequence(Qt::Key_F1), this);
+    connect(f1, &QShortcut::activated, buttons, &QDialogButtonBox::helpRequested);
     connect(buttons, &QDialogButtonBox::helpRequested, this, [this] {
         // A window of the dialog's own, so that the modal question does not block it.
         if (!m_help) {

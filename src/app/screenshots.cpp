@@ -3,7 +3,10 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QAbstractButton>
+#include <QMessageBox>
 #include <QTabWidget>
+#include <QTimer>
 #include <cstdio>
 #include <functional>
 
@@ -12,6 +15,7 @@
 #include "app/dialogs/date_time_dialogs.h"
 #include "app/dialogs/dialogs.h"
 #include "app/dialogs/help_viewer.h"
+#include "app/dialogs/schedule_window.h"
 #include "app/input_method_dialog.h"
 #include "app/main_window.h"
 #include "app/window_host.h"
@@ -34,6 +38,28 @@ const std::pair<const char*, View> kViewShots[] = {
     {"constants", View::Constants}, {"tvm", View::Tvm},
     {"amortization", View::Amortization}, {"cash-flows", View::CashFlow},
     {"statistical-registers", View::Statistical}};
+
+// The program's message boxes, each raised as the user raises it, on a calculator of its own
+// where that matters (nothing to undo, no macro, no cash flows).
+struct MessageShot {
+    const char* name;
+    std::function<void(Session&)> raise;
+    bool freshCalculator;
+};
+const MessageShot kMessageShots[] = {
+    {"message-no-function", [](Session& s) { s.Tap(kNoKey); }, false},
+    {"message-clear-all", [](Session& s) { s.Tap(fid::ClearAll); }, false},
+    {"message-nothing-to-redo", [](Session& s) { s.Redo(); }, false},
+    {"message-nothing-to-undo", [](Session& s) { s.Undo(); }, true},
+    {"message-no-macro", [](Session& s) { s.Tap(fid::MacroPlay); }, true},
+    {"message-macro-length-exceeded",
+     [](Session& s) {
+         // Keys into a recording until it is full: the message ends the loop.
+         s.Tap(fid::MacroRecord);
+         for (int i = 0; i < 10000 && (s.engine().state.engineFlags & flags::Recording); ++i) s.Tap(fid::Swap);
+     },
+     true},
+};
 
 // The same moment on every run, so the date pictures do not change by themselves.
 class ScreenshotHost : public WindowHost {
@@ -86,6 +112,47 @@ void FillSamples(Session& session) {
     type("1024");
 }
 
+bool Save(QWidget* widget, const QString& directory, const QString& name) {
+    const QString path = QDir(directory).filePath(name + QStringLiteral(".png"));
+    if (widget->grab().save(path)) return true;
+    std::fprintf(stderr, "brinto: cannot write %s\n", qPrintable(path));
+    return false;
+}
+
+// Each message box is drawn while it waits for its answer, then answered: OK, except that
+// "Clear All" is cancelled, so the sample values stay.
+int ShootMessages(const QString& directory, Session& session) {
+    ScreenshotHost freshHost;
+    Calculator fresh(freshHost);
+    fresh.Start(AppOptions::InMemory());
+    MainWindow freshWindow(fresh.session);
+    freshHost.window = &freshWindow;
+    int failures = 0;
+    for (const MessageShot& shot : kMessageShots) {
+        bool shown = false;
+        QTimer::singleShot(0, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box) return;
+            shown = true;
+            if (!Save(box, directory, QString::fromLatin1(shot.name))) ++failures;
+            QAbstractButton* answer = box->button(QMessageBox::Cancel) ? box->button(QMessageBox::Cancel)
+                                                                        : box->button(QMessageBox::Ok);
+            if (answer) answer->click();
+        });
+        shot.raise(shot.freshCalculator ? fresh.session : session);
+        if (!shown) {
+            std::fprintf(stderr, "brinto: no message box for %s\n", shot.name);
+            ++failures;
+        }
+    }
+    // The one message a view raises instead of opening: on the fresh calculator, with no cash flows.
+    QWidget* noCashFlows = freshWindow.Dialogs().Open(View::CashFlow);
+    QApplication::processEvents();
+    if (!Save(noCashFlows, directory, QStringLiteral("message-no-cash-flow"))) ++failures;
+    noCashFlows->close();
+    return failures;
+}
+
 }  // namespace
 
 const QStringList& ScreenshotNames() {
@@ -97,8 +164,10 @@ const QStringList& ScreenshotNames() {
         list << QStringLiteral("customize-keyboard");
         for (const auto& [name, view] : kViewShots) list << QString::fromLatin1(name);
         list << QStringLiteral("input-method") << QStringLiteral("enter-date") << QStringLiteral("enter-time")
-             << QStringLiteral("about") << QStringLiteral("customize-colors") << QStringLiteral("color-chooser")
-             << QStringLiteral("help");
+             << QStringLiteral("durations") << QStringLiteral("amortization-schedule") << QStringLiteral("about")
+             << QStringLiteral("customize-colors") << QStringLiteral("color-chooser") << QStringLiteral("help");
+        for (const MessageShot& shot : kMessageShots) list << QString::fromLatin1(shot.name);
+        list << QStringLiteral("message-no-cash-flow");
         return list;
     }();
     return names;
@@ -175,6 +244,14 @@ int WriteScreenshots(const QString& directory) {
         shoot(shown, QString::fromLatin1(name));
         close(shown);
     }
+    QWidget* durations = windows.OpenDurations();
+    shoot(durations, QStringLiteral("durations"));
+    close(durations);
+    windows.Open(View::Amortization);
+    QWidget* schedule = windows.OpenSchedule();
+    shoot(schedule, QStringLiteral("amortization-schedule"));
+    close(schedule);
+    close(windows.Open(View::Amortization));
     dialogs::CustomizeColours* colours = windows.OpenColours();
     shoot(colours, QStringLiteral("customize-colors"));
     QWidget* chooser = colours->Choose(0);
@@ -185,6 +262,7 @@ int WriteScreenshots(const QString& directory) {
     help->resize(640, 480);
     shoot(help, QStringLiteral("help"));
     close(help);
+    failures += ShootMessages(directory, session);
     return failures == 0 ? 0 : 1;
 }
 

@@ -3,8 +3,12 @@
 #include <QMessageBox>
 #include <QTableWidget>
 #include <cmath>
+#include <functional>
 
+#include "app/dialogs/colour_dialogs.h"
+#include "app/dialogs/date_time_dialogs.h"
 #include "app/dialogs/register_view.h"
+#include "app/dialogs/schedule_window.h"
 #include "app_dialogs/dialog_test_support.h"
 #include "app_dialogs/test_classes.h"
 #include "display/display_text.h"
@@ -176,24 +180,45 @@ private slots:
         QCOMPARE(run.engine.state.lastView, u16(dialogs::View::UserRegisters));
     }
 
-    // Each window's Help opens its own anchor.
+    // Each window's Help, and F1 in it, open its own anchor.
     void HelpOpensEachAnchor() {
         Place place;
         Run run(place);
-        const std::pair<dialogs::View, const char*> views[] = {
-            {dialogs::View::Tvm, "tvm"},           {dialogs::View::Amortization, "amortization"},
-            {dialogs::View::Statistical, "statistical"}, {dialogs::View::UserRegisters, "userregisters"},
-            {dialogs::View::Stack, "rpnstack"},   {dialogs::View::Constants, "constants"},
-            {dialogs::View::Preferences, "prefs"}, {dialogs::View::Keyboard, "keyboard"},
+        run.Type("1");
+        run.session.Tap(fid::CashFlow);
+        run.session.Tap(fid::CashFlow);
+        using Opener = std::function<QWidget*()>;
+        const auto view = [&run](dialogs::View v) -> Opener { return [&run, v] { return run.dialogs.Open(v); }; };
+        const std::pair<Opener, const char*> windows[] = {
+            {view(dialogs::View::Tvm), "tvm"},
+            {view(dialogs::View::Amortization), "amortization"},
+            {view(dialogs::View::Statistical), "statistical"},
+            {view(dialogs::View::UserRegisters), "userregisters"},
+            {view(dialogs::View::CashFlow), "cashflow"},
+            {view(dialogs::View::Stack), "rpnstack"},
+            {view(dialogs::View::Constants), "constants"},
+            {view(dialogs::View::Preferences), "prefs"},
+            {view(dialogs::View::Keyboard), "keyboard"},
+            {[&run] { return run.dialogs.OpenAbout(); }, "about"},
+            {[&run] { return run.dialogs.OpenEnterDate(); }, "enterdate"},
+            {[&run] { return run.dialogs.OpenEnterTime(); }, "enterdate"},
+            {[&run] { return run.dialogs.OpenDurations(); }, "durations"},
+            {[&run] { return run.dialogs.OpenSchedule(); }, "schedule"},
+            {[&run] { return run.dialogs.OpenColours(); }, "colors"},
+            {[&run] { return run.dialogs.OpenColours()->Choose(0); }, "colors"},
         };
-        for (const auto& [view, anchor] : views) {
-            QWidget* window = run.dialogs.Open(view);
+        for (const auto& [open, anchor] : windows) {
+            QWidget* window = open();
+            QVERIFY2(window, anchor);
+            run.helpAnchors.clear();
             Click(Button(window, QDialogButtonBox::Help));
-            QCOMPARE(run.helpAnchors.back(), std::string(anchor));
+            QCOMPARE(run.helpAnchors, std::vector<std::string>{anchor});
+            window->activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(window));
+            QTest::keyClick(window, Qt::Key_F1);
+            QCOMPARE(run.helpAnchors, (std::vector<std::string>{anchor, anchor}));
             window->close();
         }
-        Click(Button(run.dialogs.OpenAbout(), QDialogButtonBox::Help));
-        QCOMPARE(run.helpAnchors.back(), std::string("about"));
     }
 };
 

@@ -53,7 +53,7 @@ EnterDateDialog::EnterDateDialog(const HelpFunction& help, QWidget* parent)
     connect(m_calendar, &QCalendarWidget::activated, this, &QDialog::accept);
     auto* column = new QVBoxLayout(this);
     column->addWidget(m_calendar);
-    column->addWidget(MakeButtonRow(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel, "datetime", help));
+    column->addWidget(MakeButtonRow(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel, "enterdate", help));
 }
 
 void EnterDateDialog::SetDate(int year, int month, int day) {
@@ -96,7 +96,7 @@ EnterTimeDialog::EnterTimeDialog(const HelpFunction& help, QWidget* parent)
     lists->setColumnStretch(5, 1);
     auto* column = new QVBoxLayout(this);
     column->addLayout(lists);
-    column->addWidget(MakeButtonRow(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel, "datetime", help));
+    column->addWidget(MakeButtonRow(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel, "enterdate", help));
     resize(sizeHint().width(), 320);
 }
 
@@ -140,7 +140,7 @@ DurationsDialog::DurationsDialog(Session& session, const HelpFunction& help, QWi
         form->addRow(QString::fromUtf8(kDurationRows[i].label), m_fields[i]);
     }
     QDialogButtonBox* buttons =
-        MakeButtonRow(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel, "datetime", help);
+        MakeButtonRow(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel, "durations", help);
     QPushButton* defaults = buttons->addButton(QStringLiteral("Default"), QDialogButtonBox::ResetRole);
     connect(defaults, &QPushButton::clicked, this, [this] {
         const Engine& e = m_session.engine();

@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QShortcut>
 #include <QValidator>
 #include <string>
 
@@ -21,6 +22,9 @@ QDialogButtonBox* MakeButtonRow(QDialog* dialog, QDialogButtonBox::StandardButto
                      [help, anchor = std::string(anchor)] {
                          if (help) help(anchor);
                      });
+    // F1 in the window does what its Help button does.
+    auto* f1 = new QShortcut(QKeySequence(Qt::Key_F1), dialog);
+    QObject::connect(f1, &QShortcut::activated, row, &QDialogButtonBox::helpRequested);
     return row;
 }
 

@@ -23,8 +23,8 @@ inline QString ToQString(std::string_view text) {
     return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-// The dialog's button row: `buttons` plus a Help button opening `anchor`. OK accepts and Cancel
-// rejects the dialog unless the caller connects them otherwise.
+// The dialog's button row: `buttons` plus a Help button opening `anchor`, which F1 in the dialog
+// presses too. OK accepts and Cancel rejects the dialog unless the caller connects them otherwise.
 QDialogButtonBox* MakeButtonRow(QDialog* dialog, QDialogButtonBox::StandardButtons buttons,
                                 std::string_view anchor, const HelpFunction& help);
 

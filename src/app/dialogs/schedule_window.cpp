@@ -38,7 +38,7 @@ ScheduleWindow::ScheduleWindow(const Engine& engine, const HelpFunction& help, Q
     m_cutShort = new QLabel(this);
     m_cutShort->setWordWrap(true);
     m_cutShort->hide();
-    QDialogButtonBox* buttons = MakeButtonRow(this, QDialogButtonBox::Close, "amortization", help);
+    QDialogButtonBox* buttons = MakeButtonRow(this, QDialogButtonBox::Close, "schedule", help);
     // Return closes the window; it never asks for a file.
     buttons->button(QDialogButtonBox::Close)->setDefault(true);
     QPushButton* exportCsv = buttons->addButton(QStringLiteral("Export CSV..."), QDialogButtonBox::ActionRole);

@@ -63,6 +63,7 @@ StackView::StackView(Session& session, const HelpFunction& help, QWidget* parent
     setModal(false);
     m_lines->setSelectionMode(QAbstractItemView::NoSelection);
     m_lines->setItemDelegate(new LevelDelegate(m_lines));
+    m_lines->setFocusPolicy(Qt::NoFocus);
     m_lines->setSpacing(1);
     auto* keys = new QHBoxLayout;
     for (const FunctionId id : kStackKeys) {
