@@ -162,7 +162,7 @@ constexpr std::string_view kUsage =
     "\n"
     "Tokens:\n"
     "  #N                     a tap of the key with code N (0..65535), exactly that key\n"
-    "  12  -1.5e-3  .5        a number, typed as keys\n"
+    "  12  -1.5e-3  1,234.5   a number, typed as keys (1.234,5 with Comma Radix on)\n"
     "  NAME                   the key of that name or alias, any case (enter, +, sqrt, x^2, pv;\n"
     "                         see --list-keys)\n"
     "  keys:TEXT              each character of TEXT as a key (keys:2+3*5=)\n"
