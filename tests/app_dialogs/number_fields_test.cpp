@@ -141,8 +141,17 @@ private slots:
                     QVERIFY2(open && view->problem()->isVisibleTo(view), qPrintable(where));
                     QVERIFY2(!view->problem()->text().isEmpty(), qPrintable(where));
                     QVERIFY2(field.stored(run.engine) == before || std::isnan(before), qPrintable(where));
-                    QTest::keyClick(edit, Qt::Key_Escape);
-                    QCoreApplication::processEvents();
+                    if (&input == &kInputs[0] + 1) {
+                        // Closing the view gives the refused edit up; reopened, it shows the register.
+                        view->close();
+                        QCoreApplication::processEvents();
+                        run.dialogs.Open(field.view);
+                        QVERIFY2(!table->indexWidget(table->model()->index(field.row, field.column)), qPrintable(where));
+                        QVERIFY2(!view->problem()->isVisibleTo(view), qPrintable(where));
+                    } else {
+                        QTest::keyClick(edit, Qt::Key_Escape);
+                        QCoreApplication::processEvents();
+                    }
                 }
                 view->close();
             }

@@ -252,6 +252,15 @@ void RegisterView::Edited(int row, int column) {
     if (stored) emit changed();
 }
 
+// A refused edit left open is given up when the view closes: the next opening shows the registers.
+void RegisterView::hideEvent(QHideEvent* event) {
+    for (QLineEdit* editor : m_table->viewport()->findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly)) {
+        Q_EMIT m_table->itemDelegate()->closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
+    }
+    m_problem->hide();
+    QDialog::hideEvent(event);
+}
+
 void RegisterView::Solve(FunctionId key) {
     m_session.Solve(key);
     Refresh();

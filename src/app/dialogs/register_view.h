@@ -34,6 +34,9 @@ Q_SIGNALS:
     // The Amortization view's "Schedule..." button.
     void scheduleRequested();
 
+protected:
+    void hideEvent(QHideEvent* event) override;
+
 private:
     // What a row shows and where an edit of it goes.
     enum class Source { Register, AmortStart, AmortEnd, Result, CashFlow };
