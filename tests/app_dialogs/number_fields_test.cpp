@@ -51,6 +51,7 @@ const Input kInputs[] = {
     {"nan", false, kRefused},
     {"inf", false, kRefused},
     {"", false, kRefused},
+    {"1e300", false, 1e300},
     {"1e400", false, kRefused},   // beyond a double
     {"1e-400", false, kRefused},  // would be stored as 0
     {"--5", false, kRefused},
@@ -66,7 +67,7 @@ bool Takes(FieldKind kind, double v) {
         case FieldKind::Value: return true;
         case FieldKind::Positive: return v > 0;
         case FieldKind::Payment: return whole && v >= 1 && v <= 32767;
-        case FieldKind::GroupCount: return whole && v >= 1;
+        case FieldKind::GroupCount: return whole && v >= 1 && v <= 2147483647.0;  // a 32-bit count
     }
     return false;
 }

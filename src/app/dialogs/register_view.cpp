@@ -230,18 +230,19 @@ void RegisterView::Edited(int row, int column) {
         ReadNumberField(m_session.engine(), m_table->item(row, column)->text(), KindAt(row, column));
     bool stored = false;
     if (const auto number = reading.value) {
-        const int whole = static_cast<int>(*number);  // Payment and GroupCount readings are whole
+        // Payment and GroupCount readings are whole numbers within an int.
+        const auto whole = [&] { return static_cast<int>(*number); };
         // The other end of a range never set (0) counts as payment 1, as the amortization key takes it.
         const int start = std::max<int>(1, m_session.engine().state.amortStart);
         const int end = std::max<int>(1, m_session.engine().state.amortEnd);
         switch (edited.source) {
             case Source::Register: stored = m_session.StoreRegister(edited.number, *number); break;
-            case Source::AmortStart: stored = m_session.SetAmortizationRange(whole, end); break;
-            case Source::AmortEnd: stored = m_session.SetAmortizationRange(start, whole); break;
+            case Source::AmortStart: stored = m_session.SetAmortizationRange(whole(), end); break;
+            case Source::AmortEnd: stored = m_session.SetAmortizationRange(start, whole()); break;
             case Source::Result: break;
             case Source::CashFlow:
                 stored = column == kValueColumn ? m_session.StoreCashFlow(edited.number, *number, edited.groupCount)
-                                                : m_session.StoreCashFlow(edited.number, edited.value, whole);
+                                                : m_session.StoreCashFlow(edited.number, edited.value, whole());
                 break;
         }
     }
