@@ -130,15 +130,19 @@ int ShootMessages(const QString& directory, Session& session) {
     int failures = 0;
     for (const MessageShot& shot : kMessageShots) {
         bool shown = false;
-        QTimer::singleShot(0, [&] {
+        // A timer of this loop's own: should no box come, it dies here instead of firing later.
+        QTimer answer;
+        answer.setSingleShot(true);
+        QObject::connect(&answer, &QTimer::timeout, [&] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             if (!box) return;
             shown = true;
             if (!Save(box, directory, QString::fromLatin1(shot.name))) ++failures;
-            QAbstractButton* answer = box->button(QMessageBox::Cancel) ? box->button(QMessageBox::Cancel)
+            QAbstractButton* button = box->button(QMessageBox::Cancel) ? box->button(QMessageBox::Cancel)
                                                                         : box->button(QMessageBox::Ok);
-            if (answer) answer->click();
+            if (button) button->click();
         });
+        answer.start(0);
         shot.raise(shot.freshCalculator ? fresh.session : session);
         if (!shown) {
             std::fprintf(stderr, "brinto: no message box for %s\n", shot.name);
