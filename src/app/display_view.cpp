@@ -9,6 +9,7 @@
 #include "display/labels.h"
 #include "engine/engine.h"
 #include "engine/numeric/integer_format.h"
+#include "engine/register_keys.h"
 #include "session/key_grid.h"
 #include "session/key_legends.h"
 
@@ -65,6 +66,16 @@ QStringList DisplayView::Annunciators() const {
     if (e.EntryBase() != 0) on << Utf8(LabelText(DefaultIntegerFormatTag(e.prefs)));
     if (e.state.status & status::Hyperbolic) on << QStringLiteral("HYP");
     if (e.state.engineFlags & flags::Recording) on << Utf8(LabelText(fid::TagMemory));
+    // A prefix key waiting for its register or digit count: "STO _", "STO+ 1_", "FIX _".
+    if (const auto waiting = PendingRegisterOf(e)) {
+        QString text = LegendText(waiting->prefix);
+        if (waiting->op != kNoKey) text += LegendText(waiting->op);
+        text += QLatin1Char(' ');
+        if (waiting->firstDigit >= 0) text += QString::number(waiting->firstDigit);
+        on << text + QLatin1Char('_');
+    } else if (e.state.pendingFormat != kNoKey) {
+        on << LegendText(e.state.pendingFormat) + QStringLiteral(" _");
+    }
     return on;
 }
 

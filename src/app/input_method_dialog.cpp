@@ -4,7 +4,12 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QShortcut>
 #include <QVBoxLayout>
+#include <algorithm>
+
+#include "app/dialogs/help_viewer.h"
 
 namespace brinto {
 
@@ -22,7 +27,7 @@ const char* const InputMethodDialog::kText =
 InputMethodDialog::InputMethodDialog(QWidget* parent) : QDialog(parent) {
     setWindowTitle(QStringLiteral("Input Method"));
     auto* layout = new QVBoxLayout(this);
-    auto* label = new QLabel(QStringLiteral("Input:"), this);
+    auto* label = new QLabel(QStringLiteral("&Input:"), this);
     layout->addWidget(label);
     m_list = new QListWidget(this);
     m_list->addItems({QStringLiteral("Simple"), QStringLiteral("Precedence"), QStringLiteral("RPN")});
@@ -31,26 +36,52 @@ InputMethodDialog::InputMethodDialog(QWidget* parent) : QDialog(parent) {
     // Three rows, no more: the text below matters as much as the list.
     m_list->setFixedHeight(m_list->sizeHintForRow(0) * 3 + 2 * m_list->frameWidth() + 2);
     layout->addWidget(m_list);
-    auto* text = new QLabel(QString::fromUtf8(kText), this);
+    // The text scrolls rather than being cut when the window is small.
+    auto* text = new QLabel(QString::fromUtf8(kText));
     text->setWordWrap(true);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     text->setAlignment(Qt::AlignTop | Qt::AlignLeft);
-    layout->addWidget(text, 1);
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok, this);
+    text->setContentsMargins(4, 4, 4, 4);
+    m_scroll = new QScrollArea(this);
+    m_scroll->setWidget(text);
+    m_scroll->setWidgetResizable(true);
+    m_scroll->setFrameShape(QFrame::NoFrame);
+    m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    layout->addWidget(m_scroll, 1);
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Help, this);
     QPushButton* preferences = buttons->addButton(QStringLiteral("Preferences"), QDialogButtonBox::ActionRole);
+    preferences->setAutoDefault(false);
     buttons->button(QDialogButtonBox::Ok)->setDefault(true);
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
+    auto* f1 = new QShortcut(QKeySequence(Qt::Key_F1), this);
+    connect(f1, &QShortcut::activated, buttons, &QDialogButtonBox::helpRequested);
+    connect(buttons, &QDialogButtonBox::helpRequested, this, [this] {
+        // A window of the dialog's own, so that the modal question does not block it.
+        if (!m_help) {
+            m_help = new dialogs::HelpViewer(this);
+            m_help->setWindowFlag(Qt::Window);
+            m_help->resize(560, 480);
+        }
+        m_help->ShowAnchor("comparison");
+        m_help->show();
+        m_help->raise();
+    });
     connect(preferences, &QPushButton::clicked, this, [this] {
         m_preferences = true;
         accept();
     });
     // Return in the list accepts the selection.
     connect(m_list, &QListWidget::itemActivated, this, &QDialog::accept);
-    resize(320, 440);
+    // Opens tall enough to show the whole text (on a screen that has the room; else it scrolls).
+    constexpr int kWidth = 420;
+    const int textHeight = text->heightForWidth(kWidth - 2 * layout->contentsMargins().left());
+    resize(kWidth, std::min(680, sizeHint().height() - m_scroll->sizeHint().height() + textHeight));
 }
 
 InputMethod InputMethodDialog::Chosen() const {
+    // Escape or the window's close button leaves the method the calculator starts with.
+    if (result() != QDialog::Accepted) return InputMethod::Simple;
     switch (m_list->currentRow()) {
         case 1: return InputMethod::Precedence;
         case 2: return InputMethod::Rpn;

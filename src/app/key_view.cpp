@@ -6,6 +6,7 @@
 #include <QToolTip>
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 #include "session/key_legends.h"
 
@@ -17,15 +18,27 @@ QString Utf8(std::string_view s) { return QString::fromUtf8(s.data(), static_cas
 
 QRectF ToRectF(const Rect& r) { return QRectF(r.x, r.y, r.width, r.height); }
 
-// Draws `text` centred in `area` at `pixels`, smaller when it would not fit the width.
-void DrawLegend(QPainter& painter, const QString& text, const QRectF& area, int pixels, bool bold) {
-    QFont font = painter.font();
+// The font of a legend of `pixels`. A text too wide for the area is first drawn narrower, down
+// to 70 % of its width, which keeps its height; only then smaller.
+QFont LegendFont(QFont font, const QString& text, const QRectF& area, int pixels, bool bold) {
+    constexpr int kNarrowest = 70;
     font.setBold(bold);
     font.setPixelSize(std::max(1, pixels));
     const double room = area.width() * 0.92;
-    const double wide = QFontMetricsF(font).horizontalAdvance(text);
-    if (wide > room && wide > 0) font.setPixelSize(std::max(1, static_cast<int>(pixels * room / wide)));
-    painter.setFont(font);
+    double wide = QFontMetricsF(font).horizontalAdvance(text);
+    if (wide <= room || wide <= 0) return font;
+    font.setStretch(std::max(kNarrowest, static_cast<int>(std::floor(100 * room / wide))));
+    wide = QFontMetricsF(font).horizontalAdvance(text);
+    if (wide > room) font.setPixelSize(std::max(1, static_cast<int>(pixels * room / wide)));
+    return font;
+}
+
+// Digits and the four operators with "=" and ENTER are the keys read most: drawn bold.
+bool IsBoldLegend(FunctionId id) { return KeyClassOf(id) == KeyClass::Number || (id >= fid::Enter && id <= fid::Equals); }
+
+// Draws `text` centred in `area` at `pixels`, smaller when it would not fit the width.
+void DrawLegend(QPainter& painter, const QString& text, const QRectF& area, int pixels, bool bold) {
+    painter.setFont(LegendFont(painter.font(), text, area, pixels, bold));
     painter.drawText(area, Qt::AlignCenter, text);
 }
 
@@ -68,9 +81,9 @@ void KeyView::SetLook(const KeyLook& look) {
 
 int KeyView::Rows() const { return (KeyCount() + m_columns - 1) / m_columns; }
 
-int KeyView::TitleHeight() const {
+int KeyView::TitleHeight(int width) const {
     if (m_look.title.isEmpty()) return 0;
-    return static_cast<int>(std::lround(16 * GridScale(width())));
+    return static_cast<int>(std::lround(16 * GridScale(width)));
 }
 
 int KeyView::Inset() const {
@@ -117,6 +130,28 @@ void KeyView::paintEvent(QPaintEvent*) {
     for (int i = 0; i < KeyCount(); ++i) DrawKey(painter, i);
 }
 
+int KeyView::SmallestLegendCapitals() const {
+    int smallest = std::numeric_limits<int>::max();
+    for (int i = 0; i < KeyCount(); ++i) {
+        const LegendPlacement place = PlaceLegends(m_look.arrangement, m_look.shifted, KeyRect(m_grid, i));
+        const KeyCell& key = Key(i);
+        const double depth = std::round(m_look.shadow * GridScale(width()));
+        const auto measure = [&](FunctionId id, const Rect& area, int pixels, bool bold) {
+            const QString text = LegendText(id);
+            if (text.isEmpty()) return;
+            const QFont font = LegendFont(this->font(), text, ToRectF(area).adjusted(0, 0, -depth, 0), pixels, bold);
+            smallest = std::min(smallest, QFontMetrics(font).capHeight());
+        };
+        const FunctionId large = place.large == Legend::Shifted ? key.shifted : key.unshifted;
+        measure(large, place.largeArea, place.largePixels, IsBoldLegend(large));
+        if (place.small) {
+            const FunctionId small = *place.small == Legend::Shifted ? key.shifted : key.unshifted;
+            if (small != large) measure(small, place.smallArea, place.smallPixels, false);
+        }
+    }
+    return smallest;
+}
+
 void KeyView::DrawKey(QPainter& painter, int index) {
     const Rect keyRect = KeyRect(m_grid, index);
     if (keyRect.width <= 0 || keyRect.height <= 0) return;
@@ -151,10 +186,7 @@ void KeyView::DrawKey(QPainter& painter, int index) {
         return ToRectF(r).translated(shift).adjusted(0, 0, -depth, r.height ? -depth / 2 : 0);
     };
     painter.setPen(text);
-    // Digits and the four operators with "=" and ENTER are the keys read most: drawn bold.
-    const bool bold = KeyClassOf(large) == KeyClass::Number ||
-                      (large >= fid::Enter && large <= fid::Equals);
-    DrawLegend(painter, LegendText(large), area(place.largeArea), place.largePixels, bold);
+    DrawLegend(painter, LegendText(large), area(place.largeArea), place.largePixels, IsBoldLegend(large));
     if (place.small) {
         const FunctionId small = *place.small == Legend::Shifted ? key.shifted : key.unshifted;
         if (small != large) {

@@ -47,8 +47,12 @@ public:
     const KeyCell& Key(int index) const { return m_keys[static_cast<size_t>(index)]; }
     int Columns() const { return m_columns; }
     int Rows() const;
-    // The height of the name strip above the keys at this width (0 without a name).
-    int TitleHeight() const;
+    // The height of the name strip above the keys (0 without a name) at the view's width, or at
+    // `width`, the one it is about to be given: the layout must not depend on the width it had.
+    int TitleHeight() const { return TitleHeight(width()); }
+    int TitleHeight(int width) const;
+    // The height of the capitals of the smallest legend drawn, in pixels.
+    int SmallestLegendCapitals() const;
     // The key's rectangle in widget coordinates.
     QRect CellRect(int index) const;
     int KeyAt(QPoint point) const;

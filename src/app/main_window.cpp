@@ -1,5 +1,6 @@
 #include "app/main_window.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QButtonGroup>
@@ -11,12 +12,11 @@
 #include <QMessageBox>
 #include <QTimer>
 #include <QToolBar>
-#include <QToolButton>
 #include <QTreeWidget>
-#include <QHBoxLayout>
 #include <QIcon>
 
 #include "app/accessibility.h"
+#include "app/quick_switch.h"
 #include "app/dialogs/colour_dialogs.h"
 #include "app/dialogs/dialogs.h"
 #include "app/tape_panel.h"
@@ -29,7 +29,8 @@ namespace brinto {
 
 namespace {
 
-constexpr int kStripHeight = 26;
+// The display's height when the keys need the rest: the annunciators and X.
+constexpr int kSmallestDisplay = 56;
 
 bool IsBasic(const Engine& e) { return e.state.viewFlags & view::ModeMask; }
 
@@ -57,7 +58,9 @@ MainWindow::MainWindow(Session& session, QWidget* parent) : QMainWindow(parent),
         setWindowIcon(icon);
         if (QApplication::windowIcon().isNull()) QApplication::setWindowIcon(icon);
     });
-    setMinimumSize(240, 320);
+    // The handheld's 240 pixels across; 360 down so that every key keeps legends of 11 pixels
+    // (capitals of 8) with the menus, the Quick Switch strip and the annunciators and X.
+    setMinimumSize(240, 360);
     resize(360, 480);
 
     InstallAccessibility();
@@ -84,26 +87,9 @@ MainWindow::MainWindow(Session& session, QWidget* parent) : QMainWindow(parent),
     m_toolBar->addWidget(m_selector);
     connect(m_selector, &QComboBox::activated, this, [this](int index) { m_session.SelectKeyboard(index); });
 
-    m_strip = new QWidget(m_pane);
-    auto* stripLayout = new QHBoxLayout(m_strip);
-    stripLayout->setContentsMargins(0, 0, 0, 0);
-    stripLayout->setSpacing(1);
-    m_stripButtons = new QButtonGroup(m_strip);
-    m_stripButtons->setExclusive(true);
-    for (int i = 0; i < kKeyboardCount; ++i) {
-        auto* button = new QToolButton(m_strip);
-        button->setText(m_selector->itemText(i));
-        button->setCheckable(true);
-        button->setFocusPolicy(Qt::NoFocus);
-        button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
-        button->setToolButtonStyle(Qt::ToolButtonTextOnly);
-        QFont f = button->font();
-        f.setPixelSize(10);
-        button->setFont(f);
-        stripLayout->addWidget(button);
-        m_stripButtons->addButton(button, i);
-    }
-    connect(m_stripButtons, &QButtonGroup::idClicked, this, [this](int index) { m_session.SelectKeyboard(index); });
+    m_strip = new QuickSwitchStrip(m_pane);
+    m_stripButtons = m_strip->buttons();
+    connect(m_strip, &QuickSwitchStrip::chosen, this, [this](int index) { m_session.SelectKeyboard(index); });
 
     BuildMenus();
     ApplyTheme();
@@ -215,6 +201,8 @@ void MainWindow::Refresh() {
     const bool quick = p.QuickSwitch();
     m_strip->setVisible(quick && !basic);
     m_toolBar->setVisible(!quick);
+    // The Basic view has no keyboards to choose from.
+    m_selector->setEnabled(!basic);
     if (m_selector->currentIndex() != keyboard) m_selector->setCurrentIndex(keyboard);
     if (QAbstractButton* button = m_stripButtons->button(keyboard); button && !button->isChecked()) {
         button->setChecked(true);
@@ -228,8 +216,10 @@ void MainWindow::LayoutViews() {
     const bool basic = IsBasic(e);
     QRect area = m_pane->rect();
     if (m_strip->isVisibleTo(m_pane)) {
-        m_strip->setGeometry(area.left(), area.bottom() - kStripHeight + 1, area.width(), kStripHeight);
-        area.setBottom(area.bottom() - kStripHeight);
+        const int stripHeight = m_strip->PreferredHeight(area.width());
+        m_strip->FitTo(area.width());
+        m_strip->setGeometry(area.left(), area.bottom() - stripHeight + 1, area.width(), stripHeight);
+        area.setBottom(area.bottom() - stripHeight);
     }
     // The keys take the height their shape asks for, and the display the rest: more of it in the
     // Basic view, where there are fewer keys.
@@ -238,7 +228,12 @@ void MainWindow::LayoutViews() {
                                                KeySizeSetOf(KeySizeOf(p, m_themes)), BordersOf(p, m_themes).keyboardFrame);
     // Every line the display shows must fit; the keys then give up height, down to half the area.
     const int room = std::max(area.height() - m_display->PreferredHeight(area.width()), area.height() / 2);
-    const int keyHeight = std::min({wanted + keys->TitleHeight(), room, static_cast<int>(area.height() * (basic ? 0.62 : 0.8))});
+    const int title = keys->TitleHeight(area.width());
+    int keyHeight = std::min({wanted + title, room, static_cast<int>(area.height() * (basic ? 0.62 : 0.8))});
+    // On a small window the keys keep legends of 8 pixels, and the display gives up lines for them.
+    const int legible = KeyboardHeightFor(LegibleKeyHeight(), area.width(), std::max(1, keys->Rows()),
+                                          KeySizeSetOf(KeySizeOf(p, m_themes)), BordersOf(p, m_themes).keyboardFrame);
+    keyHeight = std::max(keyHeight, std::min(legible + title, area.height() - kSmallestDisplay));
     m_display->setGeometry(area.left(), area.top(), area.width(), area.height() - keyHeight);
     keys->setGeometry(area.left(), area.bottom() - keyHeight + 1, area.width(), keyHeight);
 }

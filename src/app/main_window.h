@@ -6,6 +6,7 @@
 
 #include "app/display_view.h"
 #include "app/key_view.h"
+#include "app/quick_switch.h"
 #include "session/host.h"
 #include "session/screen_colours.h"
 #include "session/theme.h"
@@ -17,6 +18,7 @@ class QLabel;
 class QToolBar;
 
 namespace brinto {
+
 
 class Session;
 class SessionStore;
@@ -72,7 +74,7 @@ public:
     KeyView* keyboardView() { return m_keys; }
     KeyView* basicView() { return m_basic; }
     QComboBox* selector() { return m_selector; }
-    QWidget* quickSwitch() { return m_strip; }
+    QuickSwitchStrip* quickSwitch() { return m_strip; }
     QButtonGroup* quickSwitchButtons() { return m_stripButtons; }
 
 protected:
@@ -98,7 +100,7 @@ private:
     KeyView* m_basic = nullptr;
     QToolBar* m_toolBar = nullptr;
     QComboBox* m_selector = nullptr;
-    QWidget* m_strip = nullptr;
+    QuickSwitchStrip* m_strip = nullptr;
     QButtonGroup* m_stripButtons = nullptr;
     ThemeSet m_themes;
     ScreenColours m_colours{};

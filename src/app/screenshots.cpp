@@ -3,7 +3,10 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QAbstractButton>
+#include <QMessageBox>
 #include <QTabWidget>
+#include <QTimer>
 #include <cstdio>
 #include <functional>
 
@@ -36,6 +39,28 @@ const std::pair<const char*, View> kViewShots[] = {
     {"constants", View::Constants}, {"tvm", View::Tvm},
     {"amortization", View::Amortization}, {"cash-flows", View::CashFlow},
     {"statistical-registers", View::Statistical}};
+
+// The program's message boxes, each raised as the user raises it, on a calculator of its own
+// where that matters (nothing to undo, no macro, no cash flows).
+struct MessageShot {
+    const char* name;
+    std::function<void(Session&)> raise;
+    bool freshCalculator;
+};
+const MessageShot kMessageShots[] = {
+    {"message-no-function", [](Session& s) { s.Tap(kNoKey); }, false},
+    {"message-clear-all", [](Session& s) { s.Tap(fid::ClearAll); }, false},
+    {"message-nothing-to-redo", [](Session& s) { s.Redo(); }, false},
+    {"message-nothing-to-undo", [](Session& s) { s.Undo(); }, true},
+    {"message-no-macro", [](Session& s) { s.Tap(fid::MacroPlay); }, true},
+    {"message-macro-length-exceeded",
+     [](Session& s) {
+         // Keys into a recording until it is full: the message ends the loop.
+         s.Tap(fid::MacroRecord);
+         for (int i = 0; i < 10000 && (s.engine().state.engineFlags & flags::Recording); ++i) s.Tap(fid::Swap);
+     },
+     true},
+};
 
 // The same moment on every run, so the date pictures do not change by themselves.
 class ScreenshotHost : public WindowHost {
@@ -91,6 +116,51 @@ void FillSamples(Session& session) {
     type("1024");
 }
 
+bool Save(QWidget* widget, const QString& directory, const QString& name) {
+    const QString path = QDir(directory).filePath(name + QStringLiteral(".png"));
+    if (widget->grab().save(path)) return true;
+    std::fprintf(stderr, "brinto: cannot write %s\n", qPrintable(path));
+    return false;
+}
+
+// Each message box is drawn while it waits for its answer, then answered: OK, except that
+// "Clear All" is cancelled, so the sample values stay.
+int ShootMessages(const QString& directory, Session& session) {
+    ScreenshotHost freshHost;
+    Calculator fresh(freshHost);
+    fresh.Start(AppOptions::InMemory());
+    MainWindow freshWindow(fresh.session);
+    freshHost.window = &freshWindow;
+    int failures = 0;
+    for (const MessageShot& shot : kMessageShots) {
+        bool shown = false;
+        // A timer of this loop's own: should no box come, it dies here instead of firing later.
+        QTimer answer;
+        answer.setSingleShot(true);
+        QObject::connect(&answer, &QTimer::timeout, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box) return;
+            shown = true;
+            if (!Save(box, directory, QString::fromLatin1(shot.name))) ++failures;
+            QAbstractButton* button = box->button(QMessageBox::Cancel) ? box->button(QMessageBox::Cancel)
+                                                                        : box->button(QMessageBox::Ok);
+            if (button) button->click();
+        });
+        answer.start(0);
+        shot.raise(shot.freshCalculator ? fresh.session : session);
+        if (!shown) {
+            std::fprintf(stderr, "brinto: no message box for %s\n", shot.name);
+            ++failures;
+        }
+    }
+    // The one message a view raises instead of opening: on the fresh calculator, with no cash flows.
+    QWidget* noCashFlows = freshWindow.Dialogs().Open(View::CashFlow);
+    QApplication::processEvents();
+    if (!Save(noCashFlows, directory, QStringLiteral("message-no-cash-flow"))) ++failures;
+    noCashFlows->close();
+    return failures;
+}
+
 }  // namespace
 
 const QStringList& ScreenshotNames() {
@@ -103,8 +173,10 @@ const QStringList& ScreenshotNames() {
         for (const auto& [name, view] : kViewShots) list << QString::fromLatin1(name);
         list << QStringLiteral("amortization-schedule") << QStringLiteral("cash-flow-diagram");
         list << QStringLiteral("input-method") << QStringLiteral("enter-date") << QStringLiteral("enter-time")
-             << QStringLiteral("about") << QStringLiteral("customize-colors") << QStringLiteral("color-chooser")
-             << QStringLiteral("help") << QStringLiteral("history");
+             << QStringLiteral("durations") << QStringLiteral("about") << QStringLiteral("customize-colors")
+             << QStringLiteral("color-chooser") << QStringLiteral("help");
+        for (const MessageShot& shot : kMessageShots) list << QString::fromLatin1(shot.name);
+        list << QStringLiteral("message-no-cash-flow") << QStringLiteral("history");
         return list;
     }();
     return names;
@@ -192,6 +264,9 @@ int WriteScreenshots(const QString& directory) {
         shoot(shown, QString::fromLatin1(name));
         close(shown);
     }
+    QWidget* durations = windows.OpenDurations();
+    shoot(durations, QStringLiteral("durations"));
+    close(durations);
     dialogs::CustomizeColours* colours = windows.OpenColours();
     shoot(colours, QStringLiteral("customize-colors"));
     QWidget* chooser = colours->Choose(0);
@@ -202,6 +277,7 @@ int WriteScreenshots(const QString& directory) {
     help->resize(640, 480);
     shoot(help, QStringLiteral("help"));
     close(help);
+    failures += ShootMessages(directory, session);
     // The history tape of the sample keys, beside the calculator in a wide window.
     window.UseStore(&calculator.store);
     calculator.store.Save();

@@ -174,8 +174,8 @@ constexpr std::string_view kUsage =
     "\n"
     "Tokens:\n"
     "  #N                     a tap of the key with code N (0..65535), exactly that key\n"
-    "  12  -1.5e-3  .5        a number, typed as keys; in RPN a number after a number pushes the\n"
-    "                         first, in Simple and Precedence it is refused\n"
+    "  12  -1.5e-3  1,234.5   a number, typed as keys (1.234,5 with Comma Radix on); in RPN a number\n"
+    "                         after a number pushes the first, in Simple and Precedence it is refused\n"
     "  2+3*5  sqrt(2)  (1+2)*3^2\n"
     "                         a formula, worked out with precedence by typing the keys of the input\n"
     "                         method in force; functions are the keys (sqrt, ln, sin, sq, mod(7,3)),\n"
@@ -338,12 +338,12 @@ std::string UnknownToken(std::string_view word, int number, const std::string& p
 
 // Checks every word of one line before any runs; on a bad one names it in `error`.
 template <typename Words>
-bool CheckTokens(const Words& words, std::string_view line, std::string& error) {
+bool CheckTokens(const Words& words, std::string_view line, NumberSyntax syntax, std::string& error) {
     bool ok = true;
     int number = 0;
     words([&](std::string_view word, std::size_t offset) {
         ++number;
-        if (ParseToken(word)) return true;
+        if (ParseToken(word, syntax)) return true;
         error = UnknownToken(word, number, Positions(line).At(offset), kPromptWords);
         ok = false;
         return false;
@@ -366,7 +366,10 @@ bool TypeFormula(Session& session, std::string_view text) {
             continue;
         }
         if (e.IsRpn() && e.EntryOpen()) accepted = session.TapKey(fid::Enter) && accepted;
-        TypeNumber(step.number, [&](FunctionId id) { accepted = session.TapKey(id) && accepted; });
+        // A formula's numbers always take the point: its commas part a function's arguments.
+        const auto parts = SplitNumber(step.number, NumberSyntax{'.', '\0'});
+        if (!parts) return false;
+        TypeNumber(*parts, [&](FunctionId id) { accepted = session.TapKey(id) && accepted; });
     }
     return accepted;
 }
@@ -378,7 +381,9 @@ bool RunToken(Session& session, const Token& t, int& digitsTaken) {
         case TokenKind::ExactKey: return session.Tap(t.id);
         case TokenKind::Number: {
             bool accepted = true;
-            TypeNumber(t.text, [&](FunctionId id) {
+            const auto parts = SplitNumber(t.text, SyntaxOf(session.engine().prefs));
+            if (!parts) return false;
+            TypeNumber(*parts, [&](FunctionId id) {
                 const bool took = session.TapKey(id);
                 if (took && IsDigitKey(id)) ++digitsTaken;
                 accepted = took && accepted;
@@ -472,7 +477,7 @@ bool RunTokens(Session& session, const Words& words, std::string_view text, std:
     Left left = Left::Other;
     std::optional<std::string_view> to;  // the "to" before this token
     words([&](std::string_view word, std::size_t offset) {
-        const auto token = ParseToken(word);
+        const auto token = ParseToken(word, SyntaxOf(session.engine().prefs));
         const auto stop = [&](const std::string& why) {
             error = (why.empty() ? UnknownToken(word, index + 1, positions.At(offset))
                                  : "token " + std::to_string(index + 1) + positions.At(offset) + ": " + why);
@@ -646,7 +651,7 @@ void Interactive(Session& session, CliHost& host, LineSource& lines, std::ostrea
         }
         const auto words = [&](auto&& each) { ForEachWord(*line, each); };
         std::string error;
-        if (!CheckTokens(words, *line, error)) {
+        if (!CheckTokens(words, *line, SyntaxOf(session.engine().prefs), error)) {
             err << error << '\n';
             continue;
         }

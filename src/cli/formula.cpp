@@ -262,7 +262,9 @@ private:
 bool LooksLikeFormula(std::string_view text) {
     for (std::size_t i = 0; i < text.size(); ++i) {
         const char c = text[i];
-        if (c == '(' || c == ')' || c == ',') return true;
+        // A comma parts a function's arguments, so it makes a formula only within parentheses:
+        // "6,5" alone is a number written with the other radix, not a formula.
+        if (c == '(' || c == ')') return true;
         if (IsOperator(c) && i > 0 && i + 1 < text.size()) return true;
     }
     return false;

@@ -20,7 +20,7 @@
 
 namespace brinto {
 
-// A token is taken for a formula when it holds a parenthesis, a comma or an operator between two
+// A token is taken for a formula when it holds a parenthesis or an operator between two
 // operands. Such a token that is also a key name ("1/x", "y^x", "(") stays the key.
 bool LooksLikeFormula(std::string_view text);
 

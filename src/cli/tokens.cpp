@@ -41,30 +41,6 @@ std::span<const CommandInfo> Commands() {
     return kCommands;
 }
 
-bool IsNumberToken(std::string_view t) {
-    std::size_t i = (!t.empty() && t[0] == '-') ? 1 : 0;
-    bool digits = false, point = false;
-    for (; i < t.size(); ++i) {
-        if (IsDigit(t[i])) {
-            digits = true;
-        } else if (t[i] == '.' && !point) {
-            point = true;
-        } else {
-            break;
-        }
-    }
-    if (!digits) return false;
-    if (i == t.size()) return true;
-    if (t[i] != 'e' && t[i] != 'E') return false;
-    ++i;
-    if (i < t.size() && (t[i] == '-' || t[i] == '+')) ++i;
-    if (i == t.size()) return false;
-    for (; i < t.size(); ++i) {
-        if (!IsDigit(t[i])) return false;
-    }
-    return true;
-}
-
 std::span<const NumberedForm> NumberedForms() {
     static constexpr NumberedForm kForms[] = {{"#", TokenKind::ExactKey, 0, 65535},
                                               {"kb:", TokenKind::Keyboard, 0, kKeyboardCount - 1},
@@ -73,7 +49,7 @@ std::span<const NumberedForm> NumberedForms() {
     return kForms;
 }
 
-std::optional<Token> ParseToken(std::string_view text) {
+std::optional<Token> ParseToken(std::string_view text, NumberSyntax syntax) {
     if (text.empty()) return std::nullopt;
     for (const NumberedForm& f : NumberedForms()) {
         if (!StartsWith(text, f.prefix)) continue;
@@ -82,7 +58,7 @@ std::optional<Token> ParseToken(std::string_view text) {
         if (f.kind == TokenKind::ExactKey) return Token{f.kind, FunctionIdFrom(static_cast<u32>(*n)), {}, 0};
         return Token{f.kind, kNoKey, {}, *n};
     }
-    if (IsNumberToken(text)) return Token{TokenKind::Number, kNoKey, text, 0};
+    if (SplitNumber(text, syntax)) return Token{TokenKind::Number, kNoKey, text, 0};
     if (StartsWith(text, "keys:")) return Token{TokenKind::Characters, kNoKey, text.substr(5), 0};
     if (StartsWith(text, "paste:")) return Token{TokenKind::Paste, kNoKey, text.substr(6), 0};
     for (const CommandInfo& c : Commands()) {

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "engine/function_ids.h"
+#include "session/number_reader.h"
 
 namespace brinto {
 
@@ -37,33 +38,25 @@ struct NumberedForm {
 };
 std::span<const NumberedForm> NumberedForms();
 
-// Nothing when the token is not one brinto-cli knows.
-std::optional<Token> ParseToken(std::string_view text);
+// Nothing when the token is not one brinto-cli knows. A number is read as every number field
+// reads it, with the radix and grouping of `syntax` ("12", ".5", "-3", "1,234.5", "-1.5e-3").
+std::optional<Token> ParseToken(std::string_view text, NumberSyntax syntax = {});
 
 // The unit key whose face is `text` ("mi", "ft", "in", "m", "lb"), ignoring case, when no other
 // key has that face.
 std::optional<FunctionId> UnitKeyByFace(std::string_view text);
 
-// A decimal number such as "12", ".5", "-3" or "-1.5e-3".
-bool IsNumberToken(std::string_view text);
-
-// Types a number token as keys: the mantissa digits and point, change sign if the mantissa is
+// Types a number as keys: the mantissa digits and point, change sign if the mantissa is
 // negative, then the exponent key if an exponent follows, change sign if the exponent is negative,
 // and the exponent digits.
 template <typename Tap>
-void TypeNumber(std::string_view t, Tap&& tap) {
-    const bool negative = !t.empty() && t[0] == '-';
-    std::size_t i = negative ? 1 : 0;
-    for (; i < t.size() && t[i] != 'e' && t[i] != 'E'; ++i) tap(t[i] == '.' ? fid::Point : DigitKey(t[i] - '0'));
-    if (negative) tap(fid::ChangeSign);
-    if (i == t.size()) return;
+void TypeNumber(const NumberParts& n, Tap&& tap) {
+    for (const char c : n.mantissa) tap(c == '.' ? fid::Point : DigitKey(c - '0'));
+    if (n.negative) tap(fid::ChangeSign);
+    if (!n.hasExponent) return;
     tap(fid::Exponent);
-    ++i;
-    if (t[i] == '-' || t[i] == '+') {
-        if (t[i] == '-') tap(fid::ChangeSign);
-        ++i;
-    }
-    for (; i < t.size(); ++i) tap(DigitKey(t[i] - '0'));
+    if (n.exponentNegative) tap(fid::ChangeSign);
+    for (const char c : n.exponent) tap(DigitKey(c - '0'));
 }
 
 }  // namespace brinto

@@ -154,6 +154,12 @@ void RegisterOperation(Engine& e, FunctionId base, FunctionId op, int r) {
     e.dirty.registers = true;
 }
 
+std::optional<PendingRegister> PendingRegisterOf(const Engine& e) {
+    const u32 pending = e.state.pendingArgument;
+    if (pending == kNoPendingArgument) return std::nullopt;
+    return PendingRegister{KeyOf(pending), OperatorOf(pending), FirstDigitOf(pending)};
+}
+
 bool HandleRegisterKey(Engine& e, FunctionId id) {
     CalcState& s = e.state;
     if (s.pendingArgument == kNoPendingArgument) {

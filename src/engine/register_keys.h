@@ -1,5 +1,7 @@
 #pragma once
 // Store, recall and exchange with a numbered register.
+#include <optional>
+
 #include "engine/engine.h"
 
 namespace brinto {
@@ -13,5 +15,14 @@ ValueTag RegisterLabel(const Engine& e, int registerNumber);
 
 // The register that a financial, statistical or date key names after a register prefix, or -1.
 int RegisterOfKey(FunctionId id);
+
+// A register prefix (STO, RCL, exchange, ...) waiting for its register: the prefix key, the
+// arithmetic key typed after it (kNoKey for none) and the first of two digits (-1 for none).
+struct PendingRegister {
+    FunctionId prefix;
+    FunctionId op;
+    int firstDigit;
+};
+std::optional<PendingRegister> PendingRegisterOf(const Engine& e);
 
 }  // namespace brinto

@@ -82,11 +82,12 @@ PaymentSplit AmortizePayment(const AmortizationTerms& t, double balance, bool fi
     return {shown, principal, add(balance + interest, t.payment)};
 }
 
-void Amortize(Engine& e, Continuation continuation) {
-    CalcState& s = e.state;
-    const bool next = ClampRange(s, e.registers.values[reg::N],
-                                 continuation == Continuation::NextBlock && s.amortStart >= 1 && s.amortBalance > 0.0);
-    const AmortizationTerms terms = TermsInForce(e);
+namespace {
+
+// Start..End (cut to 1..N) from payment 1, or a block continued from the balance reached, into
+// the amortization fields of `s`.
+void AmortizeInto(CalcState& s, const AmortizationTerms& terms, double periods, bool continueBlock) {
+    const bool next = ClampRange(s, periods, continueBlock && s.amortStart >= 1 && s.amortBalance > 0.0);
     if (!next) s.amortBalance = terms.presentValue;
     double interest = 0.0, principal = 0.0;
     // From payment 1 the payments before Start only move the balance; a block continued from a
@@ -104,7 +105,19 @@ void Amortize(Engine& e, Continuation continuation) {
     // gives what rounding every partial sum would.
     s.amortInterest = RoundToPlaces(interest, terms.places);
     s.amortPrincipal = RoundToPlaces(principal, terms.places);
+}
+
+}  // namespace
+
+void Amortize(Engine& e, Continuation continuation) {
+    AmortizeInto(e.state, TermsInForce(e), e.registers.values[reg::N], continuation == Continuation::NextBlock);
     ShowResults(e);
+}
+
+AmortizationResults AmortizeStoredRange(const Engine& e) {
+    CalcState s = e.state;
+    AmortizeInto(s, TermsInForce(e), e.registers.values[reg::N], false);
+    return {s.amortStart, s.amortEnd, s.amortInterest, s.amortPrincipal, s.amortBalance};
 }
 
 void AmortizeKey(Engine& e) {

@@ -39,6 +39,17 @@ enum class Continuation { FromStart, NextBlock };
 // balance already reached, and shows the results.
 void Amortize(Engine& e, Continuation continuation);
 
+// What the amortization key gives for the stored Start and End (cut to 1..N as it cuts them),
+// from payment 1, changing nothing: the Amortization view shows these beside the range it shows.
+struct AmortizationResults {
+    int start;
+    int end;
+    double interest;
+    double principal;
+    double balance;
+};
+AmortizationResults AmortizeStoredRange(const Engine& e);
+
 // AMORT: Start in Y and End in X when they are being typed, else the stored range.
 void AmortizeKey(Engine& e);
 

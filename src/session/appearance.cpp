@@ -35,7 +35,7 @@ constexpr double kZoomedHeight = 0.55;   // the one legend of Zoomed keys
 constexpr double kLegendWidth = 0.34;    // no legend taller than this part of the key's width
 constexpr double kZoomedWidth = 0.40;
 constexpr double kSmallRatio = 0.6;      // small legend over large one
-constexpr int kSmallestLegend = 8;
+constexpr int kSmallestLegend = 11;      // pixels: capitals about 8 pixels tall
 
 int Fit(double wanted, int room) {
     return std::clamp(static_cast<int>(std::lround(wanted)), std::min(kSmallestLegend, room), room);
@@ -58,6 +58,8 @@ LegendArrangement LegendArrangementOf(const Preferences& prefs, const ThemeSet& 
     default: return LegendArrangement::Static;
     }
 }
+
+int LegibleKeyHeight() { return static_cast<int>(std::ceil(kSmallestLegend / kSmallBand)); }
 
 LegendPlacement PlaceLegends(LegendArrangement arrangement, bool shifted, Rect key) {
     LegendPlacement p;

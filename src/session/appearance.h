@@ -40,6 +40,9 @@ struct LegendPlacement {
     int largePixels = 0, smallPixels = 0;
 };
 LegendPlacement PlaceLegends(LegendArrangement arrangement, bool shifted, Rect key);
+// The lowest key whose small legend is still 8 pixels tall and whole: a smaller window gives the
+// keys at least this much height, taken from the display.
+int LegibleKeyHeight();
 
 // "Color:": how the keys are coloured (screen_colours.h has the slots).
 enum class KeyColouring {

@@ -92,6 +92,12 @@ int PreferredKeyboardHeight(int width, int columns, int rows, const KeySizeSet& 
     return rows * keyHeight + (rows - 1) * sp.vGap + 2 * sp.marginY;
 }
 
+int KeyboardHeightFor(int keyHeight, int width, int rows, const KeySizeSet& set, Framed framed) {
+    if (rows <= 0) return 0;
+    const Spacing sp = SpacingFor(width, set, framed);
+    return rows * keyHeight + (rows - 1) * sp.vGap + 2 * sp.marginY;
+}
+
 TapArea DisplayTapZone(int width, int x) {
     if (x * 3 < width) return TapArea::Left;
     if (x * 3 < width * 2) return TapArea::Center;

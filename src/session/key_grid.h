@@ -63,6 +63,8 @@ std::optional<int> HitTest(const KeyGrid& grid, int x, int y);
 // 1.6 times their width), so that a taller window gives its spare height to the display.
 int PreferredKeyboardHeight(int width, int columns, int rows, const KeySizeSet& set,
                             Framed framed);
+// The height a keyboard view of this width needs for keys `keyHeight` pixels high.
+int KeyboardHeightFor(int keyHeight, int width, int rows, const KeySizeSet& set, Framed framed);
 
 // The display's tap areas are its left, centre and right thirds; a point left of the display
 // counts as left, one right of it as right.

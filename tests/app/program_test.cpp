@@ -71,8 +71,10 @@ TEST(Program, ScreenshotDrawsEveryWindow) {
         "main-conversion-1", "main-conversion-2", "main-date-time", "main-user", "main-basic",
         "preferences-general", "preferences-display", "preferences-keyboard", "customize-keyboard", "stack",
         "user-registers", "constants", "tvm", "amortization", "cash-flows", "statistical-registers",
-        "amortization-schedule", "cash-flow-diagram",
-        "input-method", "enter-date", "enter-time", "about", "customize-colors", "color-chooser", "help", "history"};
+        "input-method", "enter-date", "enter-time", "durations", "amortization-schedule", "cash-flow-diagram",
+        "about", "customize-colors", "color-chooser", "help", "history", "message-no-function", "message-clear-all",
+        "message-nothing-to-redo", "message-nothing-to-undo", "message-no-macro", "message-macro-length-exceeded",
+        "message-no-cash-flow"};
     for (const char* name : names) {
         const QImage image(QString::fromStdString((dir / "shots" / (std::string(name) + ".png")).string()));
         ASSERT_FALSE(image.isNull()) << name;

@@ -143,10 +143,12 @@ TEST(Window, KeyboardsSwitchByArrowsDropDownAndStrip) {
     // The strip belongs to the Advanced view; Up and Down do nothing in the Basic view.
     desk.Press(Qt::Key_Right);
     EXPECT_FALSE(desk.window.quickSwitch()->isVisible());
+    EXPECT_FALSE(desk.window.selector()->isEnabled());
     desk.Press(Qt::Key_Down);
     EXPECT_EQ(desk.engine().Keyboard(), 7);
     desk.Press(Qt::Key_Left);
     EXPECT_TRUE(desk.window.quickSwitch()->isVisible());
+    EXPECT_TRUE(desk.window.selector()->isEnabled());
     desk.session().SelectKeyboard(kUserKeyboard + 1);  // no such keyboard: ignored
     EXPECT_EQ(desk.engine().Keyboard(), 7);
 }

@@ -23,30 +23,40 @@ namespace brinto::test {
 class ColourTests : public QObject {
     Q_OBJECT
 private slots:
-    // Opened from the Display page; a colour chosen for a key class is kept on OK, dropped on
-    // Cancel, and "Default" removes every custom colour.
+    // Opened from the Display page; a colour chosen for a key class is kept when both its OK and
+    // the sheet's OK are pressed, dropped on either Cancel, and "Default" removes every custom colour.
     void CustomColoursFromThePreferences() {
         Place place;
         Run run(place);
         QSignalSpy changes(&run.dialogs, &dialogs::DialogHost::coloursChanged);
-        QWidget* sheet = run.dialogs.Open(dialogs::View::Preferences);
-        Click(ButtonCalled(sheet, QStringLiteral("Colors...")));
         dialogs::CustomizeColours* colours = nullptr;
-        for (QWidget* w : QApplication::topLevelWidgets()) {
-            if (auto* c = dynamic_cast<dialogs::CustomizeColours*>(w); c && c->isVisible()) colours = c;
-        }
-        QVERIFY(colours && colours->isVisible());
-        dialogs::ColourChooser* chooser = colours->Choose(2);  // "Number:" text
-        const Rgb given = chooser->Chosen();
-        QTest::keyClick(chooser->slider(0), Qt::Key_Right);  // one step of 17, or none at 255
-        QCOMPARE(chooser->number(0)->text().toInt(), std::min(given.r + 17, 255));
-        Click(ButtonCalled(chooser, QStringLiteral("Reset")));
-        QCOMPARE(chooser->Chosen(), given);
-        chooser->slider(0)->setValue(0);
-        chooser->slider(1)->setValue(0);
-        chooser->slider(2)->setValue(0);
-        Click(Button(chooser, QDialogButtonBox::Ok));
-        Click(Button(colours, QDialogButtonBox::Ok));
+        const auto chooseBlackNumbers = [&](QWidget* sheet) {
+            Click(ButtonCalled(sheet, QStringLiteral("Colors...")));
+            for (QWidget* w : QApplication::topLevelWidgets()) {
+                if (auto* c = dynamic_cast<dialogs::CustomizeColours*>(w); c && c->isVisible()) colours = c;
+            }
+            QVERIFY(colours && colours->isVisible());
+            dialogs::ColourChooser* chooser = colours->Choose(2);  // "Number:" text
+            const Rgb given = chooser->Chosen();
+            QTest::keyClick(chooser->slider(0), Qt::Key_Right);  // one step of 17, or none at 255
+            QCOMPARE(chooser->number(0)->text().toInt(), std::min(given.r + 17, 255));
+            Click(ButtonCalled(chooser, QStringLiteral("Reset")));
+            QCOMPARE(chooser->Chosen(), given);
+            chooser->slider(0)->setValue(0);
+            chooser->slider(1)->setValue(0);
+            chooser->slider(2)->setValue(0);
+            Click(Button(chooser, QDialogButtonBox::Ok));
+            Click(Button(colours, QDialogButtonBox::Ok));
+        };
+        QWidget* sheet = run.dialogs.Open(dialogs::View::Preferences);
+        chooseBlackNumbers(sheet);
+        Click(Button(sheet, QDialogButtonBox::Cancel));
+        QCOMPARE(changes.count(), 0);
+        QVERIFY(!run.dialogs.customColours().text[static_cast<int>(KeyClass::Number)]);
+        sheet = run.dialogs.Open(dialogs::View::Preferences);
+        chooseBlackNumbers(sheet);
+        QCOMPARE(changes.count(), 0);
+        Click(Button(sheet, QDialogButtonBox::Ok));
         QCOMPARE(changes.count(), 1);
         QVERIFY(run.dialogs.customColours().text[static_cast<int>(KeyClass::Number)] == Rgb{});
         QVERIFY(!run.dialogs.customColours().background[static_cast<int>(KeyClass::Number)]);
@@ -110,6 +120,16 @@ private slots:
         table->scrollToBottom();
         QCOMPARE(schedule->chart()->lastShown(), 24);
         QVERIFY(schedule->chart()->firstShown() > 1);
+        QVERIFY(!schedule->cutShortNote()->isVisibleTo(schedule));
+        // Amounts as the display writes them; a loan longer than the keys reach says so.
+        r[reg::N] = 40000;
+        r[reg::PV] = 1e7;
+        schedule->Refresh();
+        QCOMPARE(table->item(0, 4)->text().count(QLatin1Char(',')), 2);  // 9,99x,xxx.xx
+        QVERIFY(schedule->cutShortNote()->isVisibleTo(schedule));
+        QVERIFY(schedule->cutShortNote()->text().contains(QStringLiteral("40,000")));
+        QTest::keyClick(schedule, Qt::Key_Return);  // closes; never asks for a file
+        QVERIFY(!schedule->isVisible());
     }
 
     // The Cash Flow Entries view draws an arrow group per entry, and names NPV and IRR/YR.

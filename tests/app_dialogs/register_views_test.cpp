@@ -3,8 +3,12 @@
 #include <QMessageBox>
 #include <QTableWidget>
 #include <cmath>
+#include <functional>
 
+#include "app/dialogs/colour_dialogs.h"
+#include "app/dialogs/date_time_dialogs.h"
 #include "app/dialogs/register_view.h"
+#include "app/dialogs/schedule_window.h"
 #include "app_dialogs/dialog_test_support.h"
 #include "app_dialogs/test_classes.h"
 #include "display/display_text.h"
@@ -120,21 +124,37 @@ private slots:
         QCOMPARE(run.engine.registers.aux[1], 6u);
     }
 
-    // Start and End as last set, the results read-only; the statistical sums in their order.
+    // Start and End as last set; the results read-only and always those of the range shown, as
+    // the amortization key gives them; Return closes the view. The statistical sums in order.
     void AmortizationAndStatisticsRows() {
         Place place;
         Run run(place);
-        run.engine.state.amortStart = 13;
-        run.engine.state.amortEnd = 24;
-        run.engine.state.amortBalance = 250.25;
+        double* r = run.engine.registers.values;
+        r[reg::N] = 360;
+        r[reg::IYr] = 6;
+        r[reg::PV] = 100000;
+        r[reg::PMT] = -599.55;
+        run.engine.state.amortStart = 1;
+        run.engine.state.amortEnd = 12;
+        run.session.Tap(fid::Amortize);  // the results of 1-12 are stored
         QWidget* view = run.dialogs.Open(dialogs::View::Amortization);
         QCOMPARE(Labels(view), (QStringList{"P/YR", "N", "I/YR", "PV", "PMT", "Start", "End", "Int", "Prin", "Bal"}));
-        QCOMPARE(Cell(view, 5, 1), AsDisplayed(run.engine, 13));
-        QCOMPARE(Cell(view, 9, 1), AsDisplayed(run.engine, 250.25));
+        QCOMPARE(Cell(view, 5, 1), AsDisplayed(run.engine, 1));
         QVERIFY(!(Table(view)->item(9, 1)->flags() & Qt::ItemIsEditable));
-        Edit(view, 6, 1, QStringLiteral("36"));
-        QCOMPARE(run.engine.state.amortEnd, i16{36});
+        Edit(view, 5, 1, QStringLiteral("13"));
+        Edit(view, 6, 1, QStringLiteral("24"));
         QCOMPARE(run.engine.state.amortStart, i16{13});
+        QCOMPARE(run.engine.state.amortEnd, i16{24});
+        const QStringList shown{Cell(view, 7, 1), Cell(view, 8, 1), Cell(view, 9, 1)};
+        run.session.Tap(fid::Amortize);  // what the key gives for 13-24: Int, Prin, Bal
+        QCOMPARE(shown, (QStringList{AsDisplayed(run.engine, run.engine.X()), AsDisplayed(run.engine, run.engine.Y()),
+                                     AsDisplayed(run.engine, run.engine.Level(2).value)}));
+        QVERIFY(run.engine.Level(2).value < 100000 - 1228);  // beyond the first year's balance
+        Edit(view, 3, 1, QStringLiteral("50000"));  // a register of the loan changes them too
+        run.session.Tap(fid::Amortize);
+        QCOMPARE(Cell(view, 9, 1), AsDisplayed(run.engine, run.engine.Level(2).value));
+        QTest::keyClick(view, Qt::Key_Return);
+        QVERIFY(!view->isVisible());
 
         run.Type("3");
         run.session.Tap(fid::SigmaPlus);
@@ -160,24 +180,45 @@ private slots:
         QCOMPARE(run.engine.state.lastView, u16(dialogs::View::UserRegisters));
     }
 
-    // Each window's Help opens its own anchor.
+    // Each window's Help, and F1 in it, open its own anchor.
     void HelpOpensEachAnchor() {
         Place place;
         Run run(place);
-        const std::pair<dialogs::View, const char*> views[] = {
-            {dialogs::View::Tvm, "tvm"},           {dialogs::View::Amortization, "amortization"},
-            {dialogs::View::Statistical, "statistical"}, {dialogs::View::UserRegisters, "userregisters"},
-            {dialogs::View::Stack, "rpnstack"},   {dialogs::View::Constants, "constants"},
-            {dialogs::View::Preferences, "prefs"}, {dialogs::View::Keyboard, "keyboard"},
+        run.Type("1");
+        run.session.Tap(fid::CashFlow);
+        run.session.Tap(fid::CashFlow);
+        using Opener = std::function<QWidget*()>;
+        const auto view = [&run](dialogs::View v) -> Opener { return [&run, v] { return run.dialogs.Open(v); }; };
+        const std::pair<Opener, const char*> windows[] = {
+            {view(dialogs::View::Tvm), "tvm"},
+            {view(dialogs::View::Amortization), "amortization"},
+            {view(dialogs::View::Statistical), "statistical"},
+            {view(dialogs::View::UserRegisters), "userregisters"},
+            {view(dialogs::View::CashFlow), "cashflow"},
+            {view(dialogs::View::Stack), "rpnstack"},
+            {view(dialogs::View::Constants), "constants"},
+            {view(dialogs::View::Preferences), "prefs"},
+            {view(dialogs::View::Keyboard), "keyboard"},
+            {[&run] { return run.dialogs.OpenAbout(); }, "about"},
+            {[&run] { return run.dialogs.OpenEnterDate(); }, "enterdate"},
+            {[&run] { return run.dialogs.OpenEnterTime(); }, "enterdate"},
+            {[&run] { return run.dialogs.OpenDurations(); }, "durations"},
+            {[&run] { return run.dialogs.OpenSchedule(); }, "schedule"},
+            {[&run] { return run.dialogs.OpenColours(); }, "colors"},
+            {[&run] { return run.dialogs.OpenColours()->Choose(0); }, "colors"},
         };
-        for (const auto& [view, anchor] : views) {
-            QWidget* window = run.dialogs.Open(view);
+        for (const auto& [open, anchor] : windows) {
+            QWidget* window = open();
+            QVERIFY2(window, anchor);
+            run.helpAnchors.clear();
             Click(Button(window, QDialogButtonBox::Help));
-            QCOMPARE(run.helpAnchors.back(), std::string(anchor));
+            QCOMPARE(run.helpAnchors, std::vector<std::string>{anchor});
+            window->activateWindow();
+            QVERIFY(QTest::qWaitForWindowActive(window));
+            QTest::keyClick(window, Qt::Key_F1);
+            QCOMPARE(run.helpAnchors, (std::vector<std::string>{anchor, anchor}));
             window->close();
         }
-        Click(Button(run.dialogs.OpenAbout(), QDialogButtonBox::Help));
-        QCOMPARE(run.helpAnchors.back(), std::string("about"));
     }
 };
 

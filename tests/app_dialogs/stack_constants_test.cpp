@@ -44,6 +44,11 @@ private slots:
         QListWidget* lines = view->lines();
         QCOMPARE(lines->count(), run.engine.StackDepth());
         QCOMPARE(lines->item(lines->count() - 1)->text(), Line(run.engine, 0));
+        // X at the bottom of the pane, however few the levels; the four lowest named.
+        const QRect x = lines->visualItemRect(lines->item(lines->count() - 1));
+        QVERIFY(lines->viewport()->height() - x.bottom() <= 2 * lines->spacing() + 2);
+        QCOMPARE(lines->item(lines->count() - 1)->data(Qt::UserRole).toString(), QStringLiteral("X"));
+        QCOMPARE(lines->item(lines->count() - 4)->data(Qt::UserRole).toString(), QStringLiteral("T"));
         QCOMPARE(lines->item(lines->count() - 3)->text(), Line(run.engine, 2));
         Click(StackKey(view, fid::Swap));
         QCOMPARE(run.engine.X(), 2.0);

@@ -122,7 +122,8 @@ TEST(Guide, GeneratedSectionsAndAnchorsAreCurrent) {
     }
     // The anchors that the help commands of the program's windows open.
     for (const char* anchor : {"Main_Contents", "about", "amortization", "cashflow", "constants", "keyboard",
-                               "prefs", "rpnstack", "statistical", "tvm", "userregisters"}) {
+                               "prefs", "rpnstack", "statistical", "tvm", "userregisters", "comparison",
+                               "enterdate", "durations", "schedule", "colors"}) {
         EXPECT_NE(guide.find(std::string("<a name=\"") + anchor + "\""), std::string::npos) << anchor;
     }
     EXPECT_NE(guide.find(">Comparison of Input Methods<"), std::string::npos);

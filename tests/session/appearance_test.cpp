@@ -83,11 +83,11 @@ TEST(Appearance, LegendsShareTheKey) {
         Rect largeArea;
         int largePixels, smallPixels;
     };
-    const Rect key{10, 20, 55, 33};  // a Medium key in the default window
+    const Rect key{10, 20, 55, 33};  // a Medium key in the default window: small legends of 11 pixels
     const Case cases[] = {
-        {"staticShifted", LegendArrangement::Static, true, Legend::Main, Legend::Shifted, {10, 32, 55, 21}, 15, 9},
-        {"swapped", LegendArrangement::Swapped, false, Legend::Main, Legend::Shifted, {10, 32, 55, 21}, 15, 9},
-        {"swappedShifted", LegendArrangement::Swapped, true, Legend::Shifted, Legend::Main, {10, 32, 55, 21}, 15, 9},
+        {"staticShifted", LegendArrangement::Static, true, Legend::Main, Legend::Shifted, {10, 32, 55, 21}, 15, 11},
+        {"swapped", LegendArrangement::Swapped, false, Legend::Main, Legend::Shifted, {10, 32, 55, 21}, 15, 11},
+        {"swappedShifted", LegendArrangement::Swapped, true, Legend::Shifted, Legend::Main, {10, 32, 55, 21}, 15, 11},
         {"zoomedShifted", LegendArrangement::Zoomed, true, Legend::Shifted, std::nullopt, key, 18, 0},
     };
     for (const Case& c : cases) {

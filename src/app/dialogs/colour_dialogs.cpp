@@ -72,7 +72,7 @@ CustomColours UnpackColours(std::span<const std::byte> bytes) {
     return colours;
 }
 
-ColourChooser::ColourChooser(Rgb given, QWidget* parent)
+ColourChooser::ColourChooser(Rgb given, const HelpFunction& help, QWidget* parent)
     : QDialog(parent), m_given(given), m_shown(given), m_sample(new Sample(&m_given, &m_shown, this)) {
     setWindowTitle(QStringLiteral("Color Chooser"));
     auto* grid = new QGridLayout;
@@ -97,11 +97,9 @@ ColourChooser::ColourChooser(Rgb given, QWidget* parent)
         connect(slider, &QSlider::valueChanged, this, [this] { SlidersMoved(); });
         ++row;
     }
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    QDialogButtonBox* buttons = MakeButtonRow(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel, "colors", help);
     QPushButton* reset = buttons->addButton(QStringLiteral("Reset"), QDialogButtonBox::ResetRole);
     connect(reset, &QPushButton::clicked, this, [this] { Reset(); });
-    connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     auto* column = new QVBoxLayout(this);
     column->addWidget(m_sample);
     column->addLayout(grid);
@@ -130,7 +128,7 @@ void ColourChooser::Reset() {
     }
 }
 
-CustomizeColours::CustomizeColours(const HelpFunction& help, QWidget* parent) : QDialog(parent) {
+CustomizeColours::CustomizeColours(const HelpFunction& help, QWidget* parent) : QDialog(parent), m_help(help) {
     setWindowTitle(QStringLiteral("Customize Colors"));
     auto* grid = new QGridLayout;
     grid->addWidget(new QLabel(QStringLiteral("Text"), this), 0, 1, Qt::AlignHCenter);
@@ -148,7 +146,7 @@ CustomizeColours::CustomizeColours(const HelpFunction& help, QWidget* parent) : 
         }
         ++k;
     }
-    QDialogButtonBox* buttons = MakeButtonRow(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel, "prefs", help);
+    QDialogButtonBox* buttons = MakeButtonRow(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel, "colors", help);
     QPushButton* defaults = buttons->addButton(QStringLiteral("Default"), QDialogButtonBox::ResetRole);
     connect(defaults, &QPushButton::clicked, this, [this] {
         m_custom = CustomColours{};
@@ -181,7 +179,7 @@ void CustomizeColours::Paint() {
 }
 
 ColourChooser* CustomizeColours::Choose(int i) {
-    auto* chooser = new ColourChooser(Shown(i), this);
+    auto* chooser = new ColourChooser(Shown(i), m_help, this);
     chooser->setAttribute(Qt::WA_DeleteOnClose);
     connect(chooser, &QDialog::accepted, this, [this, chooser, i] {
         const auto k = static_cast<std::size_t>(i / 2);

@@ -28,7 +28,7 @@ CustomColours UnpackColours(std::span<const std::byte> bytes);
 // right half the colour as set. "Reset" returns to the colour given.
 class ColourChooser : public QDialog {
 public:
-    ColourChooser(Rgb given, QWidget* parent);
+    ColourChooser(Rgb given, const HelpFunction& help, QWidget* parent);
     Rgb Chosen() const;
     QSlider* slider(int i) const { return m_sliders[static_cast<std::size_t>(i)]; }
     QLabel* number(int i) const { return m_numbers[static_cast<std::size_t>(i)]; }
@@ -59,6 +59,7 @@ private:
     Rgb Shown(int i) const;
     void Paint();
 
+    HelpFunction m_help;
     ScreenColours m_theme{};
     CustomColours m_custom;
     std::array<QPushButton*, 2 * kKeyClasses> m_buttons{};

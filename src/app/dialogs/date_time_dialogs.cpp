@@ -3,6 +3,8 @@
 #include <QButtonGroup>
 #include <QCalendarWidget>
 #include <QFormLayout>
+#include <QGridLayout>
+#include <QStyle>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -29,9 +31,9 @@ struct DurationRow {
     const char* label;
 };
 constexpr std::array kDurationRows = {
-    DurationRow{reg::DaysPerYear, "dpy"},  DurationRow{reg::DaysPerMonth, "dpm"},
-    DurationRow{reg::DaysPerWeek, "dpw"},  DurationRow{reg::HoursPerDay, "hpd"},
-    DurationRow{reg::FramesPerSecond, "fps"},
+    DurationRow{reg::DaysPerYear, "Days per year (dpy):"},   DurationRow{reg::DaysPerMonth, "Days per month (dpm):"},
+    DurationRow{reg::DaysPerWeek, "Days per week (dpw):"},   DurationRow{reg::HoursPerDay, "Hours per day (hpd):"},
+    DurationRow{reg::FramesPerSecond, "Frames per second (fps):"},
 };
 
 }  // namespace
@@ -51,7 +53,7 @@ EnterDateDialog::EnterDateDialog(const HelpFunction& help, QWidget* parent)
     connect(m_calendar, &QCalendarWidget::activated, this, &QDialog::accept);
     auto* column = new QVBoxLayout(this);
     column->addWidget(m_calendar);
-    column->addWidget(MakeButtonRow(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel, "Main_Contents", help));
+    column->addWidget(MakeButtonRow(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel, "enterdate", help));
 }
 
 void EnterDateDialog::SetDate(int year, int month, int day) {
@@ -62,8 +64,26 @@ EnterTimeDialog::EnterTimeDialog(const HelpFunction& help, QWidget* parent)
     : QDialog(parent), m_hours(NumberList(1, 12)), m_tens(NumberList(0, 5)), m_units(NumberList(0, 9)),
       m_halfDay(new QButtonGroup(this)) {
     setWindowTitle(QStringLiteral("Enter Time"));
-    auto* lists = new QHBoxLayout;
-    for (QListWidget* list : {m_hours, m_tens, m_units}) lists->addWidget(list);
+    // Three narrow lists read as "hour : minute", each just wide enough for its numbers.
+    const int listWidth = fontMetrics().horizontalAdvance(QStringLiteral("000")) +
+                          style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 4 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
+    auto* lists = new QGridLayout;
+    const auto addList = [&](QListWidget* list, int column, const char* caption) {
+        list->setFixedWidth(listWidth);
+        auto* label = new QLabel(QString::fromUtf8(caption), this);
+        label->setBuddy(list);
+        lists->addWidget(label, 0, column);
+        lists->addWidget(list, 1, column);
+    };
+    addList(m_hours, 0, "&Hour:");
+    auto* colon = new QLabel(QStringLiteral(":"), this);
+    QFont large = colon->font();
+    large.setBold(true);
+    large.setPointSizeF(large.pointSizeF() * 1.5);
+    colon->setFont(large);
+    lists->addWidget(colon, 1, 1, Qt::AlignCenter);
+    addList(m_tens, 2, "&Minute:");
+    addList(m_units, 3, "");
     auto* halfDay = new QVBoxLayout;
     int id = 0;
     for (const char* caption : {"AM", "PM"}) {
@@ -72,37 +92,55 @@ EnterTimeDialog::EnterTimeDialog(const HelpFunction& help, QWidget* parent)
         halfDay->addWidget(button);
     }
     halfDay->addStretch(1);
-    lists->addLayout(halfDay);
+    lists->addLayout(halfDay, 1, 4);
+    lists->setColumnStretch(5, 1);
     auto* column = new QVBoxLayout(this);
     column->addLayout(lists);
-    column->addWidget(MakeButtonRow(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel, "Main_Contents", help));
+    column->addWidget(MakeButtonRow(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel, "enterdate", help));
+    resize(sizeHint().width(), 320);
 }
 
 void EnterTimeDialog::SetTime(int hour, int minute) {
-    m_hours->setCurrentRow(HourRow(hour));
-    if (HourRow(hour) < 0) m_hours->clearSelection();
-    m_tens->setCurrentRow(minute / 10);
-    m_units->setCurrentRow(minute % 10);
+    const auto choose = [](QListWidget* list, int row) {
+        list->clearSelection();
+        list->setCurrentRow(row);
+        if (row < 0) list->clearSelection();
+    };
+    choose(m_hours, HourRow(hour));
+    choose(m_tens, minute / 10);
+    choose(m_units, minute % 10);
     m_halfDay->button(hour < 12 ? 0 : 1)->setChecked(true);
 }
 
-int EnterTimeDialog::Hour() const { return HourOf(m_hours->currentRow(), m_halfDay->checkedId() == 1); }
+namespace {
+
+// The row chosen in a list, -1 when none is. The selection counts, not the current row: a list
+// that takes the focus makes its first row current without choosing it.
+int ChosenRow(const QListWidget* list) {
+    const QList<QListWidgetItem*> chosen = list->selectedItems();
+    return chosen.isEmpty() ? -1 : list->row(chosen.front());
+}
+
+}  // namespace
+
+int EnterTimeDialog::Hour() const { return HourOf(ChosenRow(m_hours), m_halfDay->checkedId() == 1); }
 
 int EnterTimeDialog::Minute() const {
-    return std::max(0, m_tens->currentRow()) * 10 + std::max(0, m_units->currentRow());
+    return std::max(0, ChosenRow(m_tens)) * 10 + std::max(0, ChosenRow(m_units));
 }
 
 DurationsDialog::DurationsDialog(Session& session, const HelpFunction& help, QWidget* parent)
-    : QDialog(parent), m_session(session) {
+    : QDialog(parent), m_session(session), m_problem(MakeProblemLine(this)) {
     setWindowTitle(QStringLiteral("Durations"));
     auto* form = new QFormLayout;
     for (std::size_t i = 0; i < kDurationRows.size(); ++i) {
         m_fields[i] = new QLineEdit(this);
         m_fields[i]->setAlignment(Qt::AlignRight);
+        WatchNumberField(m_fields[i], session.engine(), FieldKind::Positive, m_problem);
         form->addRow(QString::fromUtf8(kDurationRows[i].label), m_fields[i]);
     }
     QDialogButtonBox* buttons =
-        MakeButtonRow(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel, "Main_Contents", help);
+        MakeButtonRow(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel, "durations", help);
     QPushButton* defaults = buttons->addButton(QStringLiteral("Default"), QDialogButtonBox::ResetRole);
     connect(defaults, &QPushButton::clicked, this, [this] {
         const Engine& e = m_session.engine();
@@ -110,6 +148,7 @@ DurationsDialog::DurationsDialog(Session& session, const HelpFunction& help, QWi
     });
     auto* column = new QVBoxLayout(this);
     column->addLayout(form);
+    column->addWidget(m_problem);
     column->addWidget(buttons);
     Load();
 }
@@ -121,13 +160,20 @@ void DurationsDialog::Load() {
     }
 }
 
-// A field that is not a positive number keeps its setting; the rest are stored as one step.
+// All five are stored as one step, or none: a refused field keeps the dialog open on it, saying why.
 void DurationsDialog::accept() {
     const Engine& e = m_session.engine();
     std::array<double, 5> settings{};
     for (std::size_t i = 0; i < m_fields.size(); ++i) {
-        const auto value = ReadNumber(e, m_fields[i]->text());
-        settings[i] = value && *value > 0 ? *value : e.DurationSetting(kDurationRows[i].number);
+        const FieldReading reading = ReadNumberField(e, m_fields[i]->text(), FieldKind::Positive);
+        if (!reading.value) {
+            m_problem->setText(ToQString(reading.problem));
+            m_problem->show();
+            m_fields[i]->setFocus();
+            m_fields[i]->selectAll();
+            return;
+        }
+        settings[i] = *reading.value;
     }
     if (m_session.StoreRegisters(reg::DaysPerYear, settings)) emit changed();
     QDialog::accept();

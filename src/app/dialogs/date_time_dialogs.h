@@ -9,6 +9,7 @@
 
 class QButtonGroup;
 class QCalendarWidget;
+class QLabel;
 class QLineEdit;
 class QListWidget;
 
@@ -63,6 +64,7 @@ Q_SIGNALS:
 private:
     Session& m_session;
     std::array<QLineEdit*, 5> m_fields{};
+    QLabel* m_problem;
 };
 
 }  // namespace brinto::dialogs

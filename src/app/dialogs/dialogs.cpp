@@ -6,6 +6,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMessageBox>
+#include <QScreen>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -71,6 +72,7 @@ DialogHost::~DialogHost() {
 }
 
 QDialog* DialogHost::Show(QDialog* dialog) {
+    Place(dialog);
     if (dialog == m_stack) {
         dialog->show();  // modeless: the calculator stays usable beside it
     } else {
@@ -79,6 +81,28 @@ QDialog* DialogHost::Show(QDialog* dialog) {
     dialog->raise();
     dialog->activateWindow();
     return dialog;
+}
+
+// The Stack view opens beside the calculator (right of it, else left of it, where the screen has
+// room), so that both are seen at once; every other window opens centred on the calculator.
+void DialogHost::Place(QWidget* window) const {
+    if (!m_parent) return;
+    if (!window->testAttribute(Qt::WA_Resized)) window->adjustSize();
+    QWidget* main = m_parent->window();
+    const QRect calculator = main->frameGeometry();
+    const QSize size = window->frameGeometry().size();
+    QPoint where(calculator.center().x() - size.width() / 2, calculator.center().y() - size.height() / 2);
+    if (window == m_stack) {
+        const QScreen* screen = main->screen();
+        const QRect room = screen ? screen->availableGeometry() : QRect();
+        constexpr int kGap = 8;
+        where = QPoint(calculator.right() + kGap, calculator.top());
+        if (room.isValid() && where.x() + size.width() > room.right()) {
+            where.setX(calculator.left() - kGap - size.width());
+            if (where.x() < room.left()) where.setX(room.right() - size.width());
+        }
+    }
+    window->move(where);
 }
 
 QWidget* DialogHost::Open(int view) {
@@ -129,8 +153,12 @@ PreferencesDialog* DialogHost::PreferencesSheet() {
     m_preferences = new PreferencesDialog(m_session, m_help, m_parent);
     connect(m_preferences, &QDialog::accepted, this, [this] {
         m_session.SetPreferences(m_preferences->Edited());
+        if (m_sheetColours) KeepColours(*m_sheetColours);
+        m_sheetColours.reset();
         emit changed();
     });
+    // Colours chosen from the sheet belong to it: its Cancel drops them with the rest.
+    connect(m_preferences, &QDialog::rejected, this, [this] { m_sheetColours.reset(); });
     connect(m_preferences, &QDialog::finished, this, &DialogHost::preferencesClosed);
     connect(m_preferences, &PreferencesDialog::colorsRequested, this, &DialogHost::OpenColours);
     return m_preferences;
@@ -209,18 +237,26 @@ CustomizeColours* DialogHost::OpenColours() {
     if (!m_colours) {
         m_colours = new CustomizeColours(m_help, m_parent);
         connect(m_colours, &QDialog::accepted, this, [this] {
-            m_customColours = m_colours->Edited();
-            if (m_store) m_store->SetFrontEndSetting(kCustomColoursSetting, PackColours(m_customColours));
-            emit coloursChanged(m_customColours);
+            if (m_preferences && m_preferences->isVisible()) {
+                m_sheetColours = m_colours->Edited();
+            } else {
+                KeepColours(m_colours->Edited());
+            }
         });
     }
     // The colours of the theme chosen on the sheet, as the key classes show them without custom ones.
     const Preferences& prefs = m_session.engine().prefs;
     ThemeSet themes;
     themes.ApplyTheme(themes.SelectTheme(prefs.Theme()));
-    m_colours->Load(MakeScreenColours(themes, prefs, DefaultDisplayStyle(themes)), m_customColours);
+    m_colours->Load(MakeScreenColours(themes, prefs, DefaultDisplayStyle(themes)), m_sheetColours.value_or(m_customColours));
     Show(m_colours);
     return m_colours;
+}
+
+void DialogHost::KeepColours(const CustomColours& colours) {
+    m_customColours = colours;
+    if (m_store) m_store->SetFrontEndSetting(kCustomColoursSetting, PackColours(m_customColours));
+    emit coloursChanged(m_customColours);
 }
 
 ScheduleWindow* DialogHost::OpenSchedule() {

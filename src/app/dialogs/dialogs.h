@@ -55,7 +55,7 @@ public:
     EnterTimeDialog* OpenEnterTime();
     DurationsDialog* OpenDurations();
     // "Customize Colors", on the colours in force; its OK keeps the custom colours and emits
-    // coloursChanged.
+    // coloursChanged, or, opened from the "Preferences" sheet, leaves them to the sheet's OK.
     CustomizeColours* OpenColours();
     ScheduleWindow* OpenSchedule();
     // The theme's colours, for the charts of the windows open now and of those opened later.
@@ -74,9 +74,11 @@ Q_SIGNALS:
 
 private:
     QDialog* Show(QDialog* dialog);
+    void Place(QWidget* window) const;
     PreferencesDialog* PreferencesSheet();
     RegisterView* Registers(View view);
     QMessageBox* NoCashFlows();
+    void KeepColours(const CustomColours& colours);
 
     Session& m_session;
     SessionStore* m_store;
@@ -96,6 +98,7 @@ private:
     QMessageBox* m_noCashFlows = nullptr;
     CustomColours m_customColours;
     std::optional<ScreenColours> m_screenColours;
+    std::optional<CustomColours> m_sheetColours;  // chosen while the sheet is open, not yet kept
     QPointer<HelpViewer> m_helpViewer;
 };
 

@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
@@ -30,6 +31,19 @@ QComboBox* DigitChoices() {
     auto* list = Choices("digits", {"All"});
     for (int n = 0; n <= 12; ++n) list->addItem(QString::number(n));
     return list;
+}
+
+// `b` named by a caption of its own, for a list whose entries ("4", "All") say nothing alone.
+QHBoxLayout* BesideNamed(QWidget* a, const char* caption, QWidget* b, const char* tip) {
+    auto* row = new QHBoxLayout;
+    row->addWidget(a, 1);
+    auto* label = new QLabel(QString::fromUtf8(caption));
+    label->setBuddy(b);
+    row->addWidget(label);
+    row->addWidget(b);
+    b->setToolTip(QString::fromUtf8(tip));
+    label->setToolTip(b->toolTip());
+    return row;
 }
 
 QHBoxLayout* Beside(QWidget* a, QWidget* b) {
@@ -81,8 +95,10 @@ QWidget* PreferencesDialog::GeneralPage() {
     m_backspaceDrops = new QCheckBox(QStringLiteral("Backspace Drops"));
     m_commaRadix = new QCheckBox(QStringLiteral("Comma Radix"));
     auto* form = new QFormLayout;
-    form->addRow(QStringLiteral("Format:"), Beside(m_format, m_digits));
-    form->addRow(QStringLiteral("Input:"), Beside(m_input, m_depth));
+    form->addRow(QStringLiteral("Format:"),
+                 BesideNamed(m_format, "Digits:", m_digits, "How many digits the number format shows; All: every digit"));
+    form->addRow(QStringLiteral("Input:"),
+                 BesideNamed(m_input, "Stack:", m_depth, "How many levels the operating stack has"));
     form->addRow(QStringLiteral("Integer:"), m_integer);
     form->addRow(QStringLiteral("Shift:"), m_shift);
     form->addRow(QStringLiteral("Action:"), m_action);

@@ -1,9 +1,14 @@
 #include "app/dialogs/register_view.h"
 
+#include <QEvent>
 #include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QTableWidget>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -11,6 +16,7 @@
 #include "display/labels.h"
 #include "engine/function_ids.h"
 #include "engine/value_tags.h"
+#include "finance/amortization.h"
 
 namespace brinto::dialogs {
 namespace {
@@ -50,6 +56,51 @@ QString Label(ValueTag code) { return ToQString(LabelText(code)); }
 
 }  // namespace
 
+// Edits a row in place as a number field: a refused text keeps its editor open, also when the
+// focus leaves it, until it is corrected or Escape gives it up.
+class RegisterView::FieldDelegate : public QStyledItemDelegate {
+public:
+    explicit FieldDelegate(RegisterView* view) : QStyledItemDelegate(view), m_view(view) {}
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const override {
+        auto* edit = new QLineEdit(parent);
+        edit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        WatchNumberField(edit, m_view->m_session.engine(), m_view->KindAt(index.row(), index.column()),
+                         m_view->m_problem);
+        return edit;
+    }
+    // Moving to another cell commits and closes the editor whatever it holds: a refused text then
+    // stores nothing, and the line under the table keeps saying so.
+    void setModelData(QWidget* editor, QAbstractItemModel* model, const QModelIndex& index) const override {
+        auto* edit = qobject_cast<QLineEdit*>(editor);
+        if (!edit || edit->hasAcceptableInput()) {
+            QStyledItemDelegate::setModelData(editor, model, index);
+            return;
+        }
+        const FieldReading reading = ReadNumberField(m_view->m_session.engine(), edit->text(), m_view->KindAt(index.row(), index.column()));
+        const QString label = m_view->m_table->item(index.row(), kLabelColumn)->text();
+        m_view->m_problem->setText(QStringLiteral("%1: %2 unchanged").arg(ToQString(reading.problem), label));
+        m_view->m_problem->show();
+        m_refusedOnClose = true;
+    }
+    void destroyEditor(QWidget* editor, const QModelIndex& index) const override {
+        if (!m_refusedOnClose) m_view->m_problem->hide();
+        m_refusedOnClose = false;
+        QStyledItemDelegate::destroyEditor(editor, index);
+    }
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override {
+        auto* edit = qobject_cast<QLineEdit*>(object);
+        if (edit && event->type() == QEvent::FocusOut && !edit->hasAcceptableInput()) return false;
+        return QStyledItemDelegate::eventFilter(object, event);
+    }
+
+private:
+    RegisterView* m_view;
+    mutable bool m_refusedOnClose = false;
+};
+
 int CashFlowRows(const Engine& e) {
     int rows = 0;
     while (rows < kUserRegisters && e.registers.aux[rows] >= 1) ++rows;
@@ -57,7 +108,8 @@ int CashFlowRows(const Engine& e) {
 }
 
 RegisterView::RegisterView(Session& session, RegisterList list, const HelpFunction& help, QWidget* parent)
-    : QDialog(parent), m_session(session), m_list(list), m_table(new QTableWidget(this)) {
+    : QDialog(parent), m_session(session), m_list(list), m_table(new QTableWidget(this)),
+      m_problem(MakeProblemLine(this)) {
     const ListInfo& info = kLists[static_cast<std::size_t>(list)];
     setWindowTitle(QString::fromUtf8(info.title));
     m_table->setColumnCount(list == RegisterList::Statistical || list == RegisterList::Amortization ? 2 : 3);
@@ -67,15 +119,20 @@ RegisterView::RegisterView(Session& session, RegisterList list, const HelpFuncti
     }
     m_table->verticalHeader()->setVisible(false);
     m_table->horizontalHeader()->setSectionResizeMode(kValueColumn, QHeaderView::Stretch);
+    m_table->setItemDelegate(new FieldDelegate(this));
     auto* column = new QVBoxLayout(this);
     if (list == RegisterList::CashFlow) {
         m_diagram = new CashFlowDiagramView(this);
         column->addWidget(m_diagram, 1);
     }
     column->addWidget(m_table, 1);
+    column->addWidget(m_problem);
     QDialogButtonBox* buttons = MakeButtonRow(this, QDialogButtonBox::Close, info.anchor, help);
+    // Return closes the view; it never opens the schedule.
+    buttons->button(QDialogButtonBox::Close)->setDefault(true);
     if (list == RegisterList::Amortization) {
         QPushButton* schedule = buttons->addButton(QStringLiteral("Schedule..."), QDialogButtonBox::ActionRole);
+        schedule->setAutoDefault(false);
         connect(schedule, &QPushButton::clicked, this, &RegisterView::scheduleRequested);
     }
     column->addWidget(buttons);
@@ -110,9 +167,11 @@ std::vector<RegisterView::Row> RegisterView::Rows() const {
             const CalcState& s = e.state;
             rows.push_back({Label(label::Start), double(s.amortStart), Source::AmortStart, 0, kNoKey, 0});
             rows.push_back({Label(label::End), double(s.amortEnd), Source::AmortEnd, 0, kNoKey, 0});
-            rows.push_back({Label(label::Interest), s.amortInterest, Source::Result, 0, kNoKey, 0});
-            rows.push_back({Label(label::Principal), s.amortPrincipal, Source::Result, 0, kNoKey, 0});
-            rows.push_back({Label(label::Balance), s.amortBalance, Source::Result, 0, kNoKey, 0});
+            // The results of the range shown, as the amortization key would give them now.
+            const AmortizationResults results = AmortizeStoredRange(e);
+            rows.push_back({Label(label::Interest), results.interest, Source::Result, 0, kNoKey, 0});
+            rows.push_back({Label(label::Principal), results.principal, Source::Result, 0, kNoKey, 0});
+            rows.push_back({Label(label::Balance), results.balance, Source::Result, 0, kNoKey, 0});
             break;
         }
         case RegisterList::Statistical: registers(kStatisticalRows, kStatisticalRows.size()); break;
@@ -155,6 +214,7 @@ void RegisterView::Refresh() {
             m_table->setItem(i, kExtraColumn, tag);
         } else if (row.solveKey != kNoKey && !m_table->cellWidget(i, kExtraColumn)) {
             auto* solve = new QPushButton(QStringLiteral("Solve"));
+            solve->setAutoDefault(false);
             const FunctionId key = row.solveKey;
             connect(solve, &QPushButton::clicked, this, [this, key] { Solve(key); });
             m_table->setCellWidget(i, kExtraColumn, solve);
@@ -171,30 +231,55 @@ void RegisterView::Refresh() {
     }
 }
 
+FieldKind RegisterView::KindAt(int row, int column) const {
+    if (row < 0 || row >= static_cast<int>(m_rows.size())) return FieldKind::Value;
+    switch (m_rows[static_cast<std::size_t>(row)].source) {
+        case Source::AmortStart:
+        case Source::AmortEnd: return FieldKind::Payment;
+        case Source::CashFlow: return column == kValueColumn ? FieldKind::Value : FieldKind::GroupCount;
+        case Source::Register:
+        case Source::Result: return FieldKind::Value;
+    }
+    return FieldKind::Value;
+}
+
 void RegisterView::Edited(int row, int column) {
     if (m_filling || row < 0 || row >= static_cast<int>(m_rows.size())) return;
     const Row& edited = m_rows[static_cast<std::size_t>(row)];
-    const auto number = ReadNumber(m_session.engine(), m_table->item(row, column)->text());
+    const FieldReading reading =
+        ReadNumberField(m_session.engine(), m_table->item(row, column)->text(), KindAt(row, column));
     bool stored = false;
-    if (number) {
+    if (const auto number = reading.value) {
+        // Payment and GroupCount readings are whole numbers within an int.
+        const auto whole = [&] { return static_cast<int>(*number); };
+        // The other end of a range never set (0) counts as payment 1, as the amortization key takes it.
+        const int start = std::max<int>(1, m_session.engine().state.amortStart);
+        const int end = std::max<int>(1, m_session.engine().state.amortEnd);
         switch (edited.source) {
             case Source::Register: stored = m_session.StoreRegister(edited.number, *number); break;
-            case Source::AmortStart:
-                stored = m_session.SetAmortizationRange(static_cast<int>(*number), m_session.engine().state.amortEnd);
-                break;
-            case Source::AmortEnd:
-                stored = m_session.SetAmortizationRange(m_session.engine().state.amortStart, static_cast<int>(*number));
-                break;
+            case Source::AmortStart: stored = m_session.SetAmortizationRange(whole(), end); break;
+            case Source::AmortEnd: stored = m_session.SetAmortizationRange(start, whole()); break;
             case Source::Result: break;
             case Source::CashFlow:
-                stored = column == kValueColumn
-                             ? m_session.StoreCashFlow(edited.number, *number, edited.groupCount)
-                             : m_session.StoreCashFlow(edited.number, edited.value, static_cast<int>(*number));
+                stored = column == kValueColumn ? m_session.StoreCashFlow(edited.number, *number, edited.groupCount)
+                                                : m_session.StoreCashFlow(edited.number, edited.value, whole());
                 break;
         }
     }
-    Refresh();  // a refused edit shows the register's value again
+    Refresh();
+    // Only text set from outside an editor gets here refused; it is said, not dropped silently.
+    m_problem->setText(reading.value ? QString() : ToQString(reading.problem));
+    m_problem->setVisible(!reading.value);
     if (stored) emit changed();
+}
+
+// A refused edit left open is given up when the view closes: the next opening shows the registers.
+void RegisterView::hideEvent(QHideEvent* event) {
+    for (QLineEdit* editor : m_table->viewport()->findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly)) {
+        Q_EMIT m_table->itemDelegate()->closeEditor(editor, QAbstractItemDelegate::RevertModelCache);
+    }
+    m_problem->hide();
+    QDialog::hideEvent(event);
 }
 
 void RegisterView::Solve(FunctionId key) {

@@ -11,6 +11,7 @@
 #include "app/dialogs/dialog_support.h"
 #include "session/session.h"
 
+class QLabel;
 class QTableWidget;
 
 namespace brinto::dialogs {
@@ -31,12 +32,17 @@ public:
     // The cash-flow diagram; nullptr in the other views.
     CashFlowDiagramView* diagram() const { return m_diagram; }
     void SetChartColours(const ChartColours& colours);
+    // The line that says why an edited value is refused.
+    QLabel* problem() const { return m_problem; }
 
 Q_SIGNALS:
     // The calculator changed: the main window repaints.
     void changed();
     // The Amortization view's "Schedule..." button.
     void scheduleRequested();
+
+protected:
+    void hideEvent(QHideEvent* event) override;
 
 private:
     // What a row shows and where an edit of it goes.
@@ -49,7 +55,9 @@ private:
         FunctionId solveKey; // kNoKey: no "Solve"
         int groupCount;      // cash flows only
     };
+    class FieldDelegate;
     std::vector<Row> Rows() const;
+    FieldKind KindAt(int row, int column) const;
     void Edited(int row, int column);
     void Solve(FunctionId key);
 
@@ -57,6 +65,7 @@ private:
     RegisterList m_list;
     QTableWidget* m_table;
     CashFlowDiagramView* m_diagram = nullptr;
+    QLabel* m_problem;
     std::vector<Row> m_rows;
     bool m_filling = false;
 };

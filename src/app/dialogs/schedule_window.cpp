@@ -3,12 +3,16 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QHeaderView>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QTableWidget>
 #include <QVBoxLayout>
+#include <cmath>
 #include <string>
+
+#include "engine/register_bank.h"
 
 namespace brinto::dialogs {
 namespace {
@@ -29,14 +33,23 @@ ScheduleWindow::ScheduleWindow(const Engine& engine, const HelpFunction& help, Q
     m_table->setHorizontalHeaderLabels({QStringLiteral("Year"), QStringLiteral("Payment"), QStringLiteral("Int"),
                                         QStringLiteral("Prin"), QStringLiteral("Bal")});
     m_table->verticalHeader()->setVisible(false);
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    QDialogButtonBox* buttons = MakeButtonRow(this, QDialogButtonBox::Close, "amortization", help);
+    // Whole amounts, never elided: the columns take their widths, and the table scrolls across.
+    m_table->setTextElideMode(Qt::ElideNone);
+    m_table->horizontalHeader()->setStretchLastSection(true);
+    m_cutShort = new QLabel(this);
+    m_cutShort->setWordWrap(true);
+    m_cutShort->hide();
+    QDialogButtonBox* buttons = MakeButtonRow(this, QDialogButtonBox::Close, "schedule", help);
+    // Return closes the window; it never asks for a file.
+    buttons->button(QDialogButtonBox::Close)->setDefault(true);
     QPushButton* exportCsv = buttons->addButton(QStringLiteral("Export CSV..."), QDialogButtonBox::ActionRole);
+    exportCsv->setAutoDefault(false);
     connect(exportCsv, &QPushButton::clicked, this, [this] { AskAndExport(); });
     connect(m_table->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { FollowRows(); });
     auto* column = new QVBoxLayout(this);
     column->addWidget(m_chart, 2);
     column->addWidget(m_table, 3);
+    column->addWidget(m_cutShort);
     column->addWidget(buttons);
     resize(560, 640);
 }
@@ -65,21 +78,46 @@ void ScheduleWindow::resizeEvent(QResizeEvent* event) {
     FollowRows();
 }
 
-// The table shows the amounts as the CSV has them: one text per line, split at the commas.
+// The amounts as the display writes them (grouped, in the radix in force); each year's totals
+// after its last payment, as in the CSV.
 void ScheduleWindow::Refresh() {
     m_schedule = MakeAmortizationSchedule(m_engine);
-    const QStringList lines = QString::fromStdString(ScheduleCsv(m_schedule)).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    m_table->setRowCount(static_cast<int>(lines.size()) - 1);
+    const auto amount = [this](double value) { return Cell(DisplayNumber(m_engine, value)); };
+    const auto year = m_schedule.years.begin();
+    m_table->setRowCount(static_cast<int>(m_schedule.payments.size() + m_schedule.years.size()));
     m_rowPayments.clear();
-    for (int row = 1; row < lines.size(); ++row) {
-        const QStringList fields = lines[row].split(QLatin1Char(','));
-        for (int column = 0; column < fields.size() && column < 5; ++column) {
-            m_table->setItem(row - 1, column, Cell(fields[column]));
+    int row = 0;
+    auto totals = year;
+    for (const ScheduleRow& payment : m_schedule.payments) {
+        while (totals != m_schedule.years.end() && totals->lastPayment < payment.payment) ++totals;
+        const int yearNumber = totals != m_schedule.years.end() ? totals->year : 0;
+        m_table->setItem(row, 0, Cell(QString::number(yearNumber)));
+        m_table->setItem(row, 1, Cell(QString::number(payment.payment)));
+        m_table->setItem(row, 2, amount(payment.interest));
+        m_table->setItem(row, 3, amount(payment.principal));
+        m_table->setItem(row, 4, amount(payment.balance));
+        m_rowPayments.push_back(payment.payment);
+        ++row;
+        if (totals != m_schedule.years.end() && totals->lastPayment == payment.payment) {
+            m_table->setItem(row, 0, Cell(QString::number(totals->year)));
+            m_table->setItem(row, 1, Cell(QStringLiteral("Total")));
+            m_table->setItem(row, 2, amount(totals->interest));
+            m_table->setItem(row, 3, amount(totals->principal));
+            m_table->setItem(row, 4, amount(totals->balance));
+            m_rowPayments.push_back(payment.payment);  // a year's total follows its last payment
+            ++row;
         }
-        bool number = false;
-        const int payment = fields.size() > 1 ? fields[1].toInt(&number) : 0;
-        m_rowPayments.push_back(number ? payment : m_rowPayments.empty() ? 0 : m_rowPayments.back());
     }
+    m_table->setRowCount(row);
+    m_table->resizeColumnsToContents();
+    // A loan longer than the amortization keys reach is listed up to their last payment, and says so.
+    const double periods = m_engine.registers.values[reg::N];
+    const bool cutShort = periods >= kMostSchedulePayments + 1.0;
+    m_cutShort->setText(cutShort ? QStringLiteral("Listed up to payment %1 of %2: the amortization keys reach no further.")
+                                       .arg(DisplayNumber(m_engine, kMostSchedulePayments),
+                                            DisplayNumber(m_engine, std::trunc(periods)))
+                                 : QString());
+    m_cutShort->setVisible(cutShort);
     m_chart->SetChart(MakeScheduleChart(m_schedule, m_engine.registers.values[reg::PV], m_engine.prefs.CommaRadix()));
     FollowRows();
 }

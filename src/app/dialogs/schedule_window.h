@@ -1,9 +1,9 @@
 #pragma once
 // "Amortization Schedule": every payment of the loan in the TVM registers with its interest,
-// principal and balance, and each year's totals after its last payment, under a chart of the
-// balance and of each period's interest and principal that shades the payments the table shows.
-// "Export CSV..." writes the same lines to a file. Building the schedule changes nothing in the
-// calculator.
+// principal and balance as the display writes amounts, and each year's totals after its last
+// payment, under a chart of the balance and of each period's interest and principal that shades
+// the payments the table shows. "Export CSV..." writes the same lines to a file, amounts as the
+// CSV writes them. Building the schedule changes nothing in the calculator.
 #include <QDialog>
 #include <QString>
 
@@ -13,6 +13,7 @@
 #include "app/dialogs/money_chart_views.h"
 #include "finance/amortization_schedule.h"
 
+class QLabel;
 class QTableWidget;
 
 namespace brinto::dialogs {
@@ -28,6 +29,8 @@ public:
     QTableWidget* table() const { return m_table; }
     ScheduleChartView* chart() const { return m_chart; }
     void SetChartColours(const ChartColours& colours);
+    // Says when the loan is longer than the list.
+    QLabel* cutShortNote() const { return m_cutShort; }
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -43,6 +46,7 @@ private:
     ScheduleChartView* m_chart;
     QTableWidget* m_table;
     std::vector<int> m_rowPayments;  // the payment of each table row (a year's total: its last)
+    QLabel* m_cutShort;
 };
 
 }  // namespace brinto::dialogs

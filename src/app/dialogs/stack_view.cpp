@@ -2,8 +2,11 @@
 
 #include <QHBoxLayout>
 #include <QListWidget>
+#include <QPainter>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <array>
 
 #include "display/display_text.h"
@@ -15,13 +18,52 @@ namespace {
 
 constexpr std::array kStackKeys = {fid::Rotate3, fid::Over, fid::Drop, fid::Swap};
 
+// The levels' names: X, Y, Z and T beside the four lowest levels.
+constexpr std::array kLevelNames = {"X", "Y", "Z", "T"};
+
+// Draws a level's name at the left of its line, its value at the right.
+class LevelDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        QStyledItemDelegate::paint(painter, option, index);
+        const QString name = index.data(Qt::UserRole).toString();
+        if (name.isEmpty()) return;
+        painter->save();
+        QFont bold = option.font;
+        bold.setBold(true);
+        painter->setFont(bold);
+        painter->setPen(option.palette.color(QPalette::PlaceholderText));
+        painter->drawText(option.rect.adjusted(6, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, name);
+        painter->restore();
+    }
+};
+
 }  // namespace
 
+// The lines sit at the bottom of the pane, X lowest, however few there are.
+class StackView::Lines : public QListWidget {
+public:
+    using QListWidget::QListWidget;
+    void Settle() {
+        const int rows = count() == 0 ? 0 : count() * (sizeHintForRow(0) + 2 * spacing());
+        setViewportMargins(0, std::max(0, height() - 2 * frameWidth() - rows), 0, 0);
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override {
+        QListWidget::resizeEvent(event);
+        Settle();
+    }
+};
+
 StackView::StackView(Session& session, const HelpFunction& help, QWidget* parent)
-    : QDialog(parent), m_session(session), m_lines(new QListWidget(this)) {
+    : QDialog(parent), m_session(session), m_lines(new Lines(this)) {
     setWindowTitle(QStringLiteral("Stack"));
     setModal(false);
     m_lines->setSelectionMode(QAbstractItemView::NoSelection);
+    m_lines->setItemDelegate(new LevelDelegate(m_lines));
+    m_lines->setFocusPolicy(Qt::NoFocus);
     m_lines->setSpacing(1);
     auto* keys = new QHBoxLayout;
     for (const FunctionId id : kStackKeys) {
@@ -41,6 +83,8 @@ StackView::StackView(Session& session, const HelpFunction& help, QWidget* parent
     Refresh();
 }
 
+QListWidget* StackView::lines() const { return m_lines; }
+
 void StackView::Refresh() {
     const Engine& e = m_session.engine();
     const int depth = e.StackDepth();
@@ -51,7 +95,9 @@ void StackView::Refresh() {
         if (!line.label.empty()) text += QStringLiteral("  ") + ToQString(line.label);
         auto* item = new QListWidgetItem(text, m_lines);
         item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        if (level < static_cast<int>(kLevelNames.size())) item->setData(Qt::UserRole, QString::fromLatin1(kLevelNames[level]));
     }
+    m_lines->Settle();
     m_lines->scrollToBottom();
 }
 
