@@ -53,9 +53,13 @@ void TapeWriter::AfterKey(const Engine& e, std::string_view face, bool accepted,
     }
     if (e.EntryOpen()) return;
     std::string keys;
-    if (m_waiting.empty() && !m_typed.empty()) keys = m_typed;
-    for (const std::string& waiting : m_waiting) keys += (keys.empty() ? "" : " ") + waiting;
-    keys += (keys.empty() ? "" : " ") + std::string(face);
+    const auto add = [&keys](std::string_view word) {
+        if (!keys.empty()) keys += ' ';
+        keys += word;
+    };
+    if (m_waiting.empty()) add(m_typed);
+    for (const std::string& waiting : m_waiting) add(waiting);
+    add(face);
     m_waiting.clear();
     Line(e, std::move(keys));
 }
