@@ -18,6 +18,7 @@ class QToolBar;
 
 namespace brinto {
 
+class KeyFinder;
 class Session;
 class SessionStore;
 namespace dialogs {
@@ -76,6 +77,7 @@ protected:
 
 private:
     void BuildMenus();
+    void OpenKeyFinder();
     void LayoutViews();
     void KeyTapped(const KeyView* view, int index);
     void DisplayTapped(TapArea area);
@@ -99,6 +101,7 @@ private:
     SessionStore* m_store = nullptr;
     dialogs::DialogHost* m_dialogs = nullptr;
     QLabel* m_saveFailure = nullptr;
+    KeyFinder* m_finder = nullptr;
 };
 
 }  // namespace brinto

@@ -47,6 +47,7 @@ DateFields DateTimeToOffer(const Engine& e, Offer offer) {
 EnterDateDialog::EnterDateDialog(const HelpFunction& help, QWidget* parent)
     : QDialog(parent), m_calendar(new QCalendarWidget(this)) {
     setWindowTitle(QStringLiteral("Enter Date"));
+    m_calendar->setAccessibleName(QStringLiteral("Date"));
     m_calendar->setDateRange(QDate(1904, 1, 1), QDate(2031, 12, 31));
     connect(m_calendar, &QCalendarWidget::activated, this, &QDialog::accept);
     auto* column = new QVBoxLayout(this);
@@ -62,6 +63,9 @@ EnterTimeDialog::EnterTimeDialog(const HelpFunction& help, QWidget* parent)
     : QDialog(parent), m_hours(NumberList(1, 12)), m_tens(NumberList(0, 5)), m_units(NumberList(0, 9)),
       m_halfDay(new QButtonGroup(this)) {
     setWindowTitle(QStringLiteral("Enter Time"));
+    m_hours->setAccessibleName(QStringLiteral("Hour"));
+    m_tens->setAccessibleName(QStringLiteral("Tens of minutes"));
+    m_units->setAccessibleName(QStringLiteral("Minutes"));
     auto* lists = new QHBoxLayout;
     for (QListWidget* list : {m_hours, m_tens, m_units}) lists->addWidget(list);
     auto* halfDay = new QVBoxLayout;

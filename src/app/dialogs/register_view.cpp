@@ -60,6 +60,9 @@ RegisterView::RegisterView(Session& session, RegisterList list, const HelpFuncti
     : QDialog(parent), m_session(session), m_list(list), m_table(new QTableWidget(this)) {
     const ListInfo& info = kLists[static_cast<std::size_t>(list)];
     setWindowTitle(QString::fromUtf8(info.title));
+    m_table->setAccessibleName(QString::fromUtf8(info.title));
+    // Tab and Shift+Tab go on to the buttons; the arrows move between the cells.
+    m_table->setTabKeyNavigation(false);
     m_table->setColumnCount(list == RegisterList::Statistical || list == RegisterList::Amortization ? 2 : 3);
     m_table->horizontalHeader()->setVisible(list == RegisterList::CashFlow);
     if (list == RegisterList::CashFlow) {
@@ -155,6 +158,7 @@ void RegisterView::Refresh() {
             m_table->setItem(i, kExtraColumn, tag);
         } else if (row.solveKey != kNoKey && !m_table->cellWidget(i, kExtraColumn)) {
             auto* solve = new QPushButton(QStringLiteral("Solve"));
+            solve->setAccessibleName(QStringLiteral("Solve ") + row.label);
             const FunctionId key = row.solveKey;
             connect(solve, &QPushButton::clicked, this, [this, key] { Solve(key); });
             m_table->setCellWidget(i, kExtraColumn, solve);
