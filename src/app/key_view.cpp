@@ -166,7 +166,8 @@ void KeyView::keyPressEvent(QKeyEvent* event) {
 void KeyView::focusInEvent(QFocusEvent* event) {
     QWidget::focusInEvent(event);
     update();
-    NotifyFocus();
+    // After Qt has announced the view itself as focused, the key with the ring is announced.
+    QTimer::singleShot(0, this, [this] { NotifyFocus(); });
 }
 
 void KeyView::focusOutEvent(QFocusEvent* event) {

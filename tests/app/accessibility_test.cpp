@@ -197,6 +197,7 @@ TEST(Accessibility, KeyGridByTabArrowsAndSpace) {
     ASSERT_EQ(QApplication::focusWidget(), desk.window.display());
     EventRecorder recorder;
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCoreApplication::processEvents();
     ASSERT_EQ(QApplication::focusWidget(), keys);
     EXPECT_EQ(keys->FocusKey(), 0);
     EXPECT_EQ(view->focusChild(), view->child(0));
