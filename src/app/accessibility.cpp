@@ -111,11 +111,12 @@ private:
     mutable std::map<int, QAccessible::Id> m_children;
 };
 
-// The display as a read-only text: X with its label ("1,234.5 inches") is the text and the value,
-// the other levels shown and the annunciators are the description.
+// The display as a read-only text field: X with its label ("1,234.5 inches") is the text and the
+// value, the other levels shown and the annunciators are the description. A screen reader speaks
+// the changed value of the text field it is on, which it would not do for a label.
 class DisplayAccessible : public QAccessibleWidget, public QAccessibleTextInterface, public QAccessibleValueInterface {
 public:
-    explicit DisplayAccessible(DisplayView* view) : QAccessibleWidget(view, QAccessible::StaticText) {}
+    explicit DisplayAccessible(DisplayView* view) : QAccessibleWidget(view, QAccessible::EditableText) {}
 
     QString text(QAccessible::Text t) const override {
         switch (t) {

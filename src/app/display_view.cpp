@@ -112,6 +112,7 @@ void DisplayView::Announce() {
         SendAccessibilityEvent(text);
         QAccessibleValueChangeEvent value(this, XValue());
         SendAccessibilityEvent(value);
+
     } else if (details != m_announcedDetails) {
         QAccessibleEvent described(this, QAccessible::DescriptionChanged);
         SendAccessibilityEvent(described);
