@@ -169,6 +169,9 @@ private:
 
 QAccessibleInterface* Factory(const QString& className, QObject* object) {
     if (className == QLatin1String("brinto::KeyView")) return new KeyViewAccessible(static_cast<KeyView*>(object));
+    if (className == QLatin1String("QWidget") && object->objectName() == QLatin1String("resultNotice")) {
+        return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Notification);
+    }
     if (className == QLatin1String("brinto::DisplayView")) {
         return new DisplayAccessible(static_cast<DisplayView*>(object));
     }

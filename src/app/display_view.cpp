@@ -105,6 +105,20 @@ void DisplayView::ScheduleAnnouncement() {
     });
 }
 
+// A screen reader speaks the changes of the field it is on, so while the focus is elsewhere (on the
+// keys) X is also shown to it as a notification, which it speaks wherever the focus is.
+void DisplayView::Notify(const QString& x) {
+    if (hasFocus() || !window()->isActiveWindow()) return;
+    if (!m_notice) {
+        m_notice = new QWidget(this);
+        m_notice->setObjectName(QStringLiteral("resultNotice"));
+        m_notice->setGeometry(0, 0, 0, 0);
+    }
+    m_notice->hide();
+    m_notice->setAccessibleName(x);
+    m_notice->show();
+}
+
 void DisplayView::Announce() {
     const QString x = AccessibleX(), details = AccessibleDetails();
     if (x != m_announcedX) {
@@ -112,7 +126,7 @@ void DisplayView::Announce() {
         SendAccessibilityEvent(text);
         QAccessibleValueChangeEvent value(this, XValue());
         SendAccessibilityEvent(value);
-
+        Notify(x);
     } else if (details != m_announcedDetails) {
         QAccessibleEvent described(this, QAccessible::DescriptionChanged);
         SendAccessibilityEvent(described);

@@ -47,11 +47,13 @@ private:
     // and value), or else the other lines and annunciators; one announcement per key.
     void ScheduleAnnouncement();
     void Announce();
+    void Notify(const QString& x);
 
     const Engine& m_engine;
     QString m_announcedX, m_announcedDetails;
     bool m_announcing = false;
-    bool m_ringShown = false;  // the focus ring, once the focus was moved to the display by Tab
+    bool m_ringShown = false;
+    QWidget* m_notice = nullptr;  // X as a notification, made on first use  // the focus ring, once the focus was moved to the display by Tab
     ScreenColours m_colours{};
     DisplayLines m_lines;
     DisplayFonts m_fonts{};

@@ -71,7 +71,6 @@ public:
     // Whether the key's latch is on (false for keys that are no latch).
     bool LatchedOn(int index) const;
 
-
 Q_SIGNALS:
     void Tapped(int index);
 

@@ -67,7 +67,6 @@ MainWindow::MainWindow(Session& session, QWidget* parent) : QMainWindow(parent),
     m_keys = new KeyView(m_pane);
     m_basic = new KeyView(m_pane);
     connect(m_display, &DisplayView::Tapped, this, [this](TapArea area) { DisplayTapped(area); });
-
     connect(m_keys, &KeyView::Tapped, this, [this](int index) { KeyTapped(m_keys, index); });
     connect(m_basic, &KeyView::Tapped, this, [this](int index) { KeyTapped(m_basic, index); });
 

@@ -234,6 +234,12 @@ TEST(Accessibility, KeyGridByTabArrowsAndSpace) {
     for (int c = 0; c < seven % columns; ++c) QTest::keyClick(keys, Qt::Key_Right);
     ASSERT_EQ(keys->FocusKey(), seven);
     QTest::keyClick(keys, Qt::Key_Space);
+    QCoreApplication::processEvents();
+    // With the focus on the keys, the new X is shown to the screen reader as a notification.
+    const auto* notice = desk.window.display()->findChild<QWidget*>(QStringLiteral("resultNotice"));
+    ASSERT_NE(notice, nullptr);
+    EXPECT_EQ(notice->accessibleName(), QStringLiteral("7"));
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(const_cast<QWidget*>(notice))->role(), QAccessible::Notification);
     QTest::keyClick(keys, Qt::Key_Return);
     QTest::keyClicks(keys, QStringLiteral("+1="));
     EXPECT_EQ(desk.XLine(), "78.");
