@@ -83,6 +83,10 @@ RegisterView::RegisterView(Session& session, RegisterList list, const HelpFuncti
     }
     column->addWidget(buttons);
     connect(m_table, &QTableWidget::cellChanged, this, &RegisterView::Edited);
+    connect(m_table, &QTableWidget::cellActivated, this, [this](int row, int column) {
+        if (column != kExtraColumn || row < 0 || row >= static_cast<int>(m_rows.size())) return;
+        if (const FunctionId key = m_rows[static_cast<std::size_t>(row)].solveKey; key != kNoKey) Solve(key);
+    });
     if (m_diagram) {
         resize(440, 520);
     } else {
@@ -162,6 +166,11 @@ void RegisterView::Refresh() {
             const FunctionId key = row.solveKey;
             connect(solve, &QPushButton::clicked, this, [this, key] { Solve(key); });
             m_table->setCellWidget(i, kExtraColumn, solve);
+            // Screen readers see the table's cells, not the buttons on them: the cell under the
+            // button is named for it, and activating the cell (Return) solves as the button does.
+            auto* cell = new QTableWidgetItem(solve->accessibleName());
+            cell->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+            m_table->setItem(i, kExtraColumn, cell);
         }
     }
     m_table->resizeColumnToContents(kLabelColumn);
