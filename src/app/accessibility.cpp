@@ -1,10 +1,13 @@
 #include "app/accessibility.h"
 
 #include <QAccessibleWidget>
+#include <QPointer>
+#include <limits>
 #include <map>
 
 #include "app/display_view.h"
 #include "app/key_view.h"
+#include "session/keypad.h"
 
 namespace brinto {
 
@@ -27,6 +30,12 @@ public:
     QAccessible::State state() const override {
         QAccessible::State s;
         s.invisible = !m_view || !m_view->isVisible();
+        if (!isValid()) return s;
+        s.focusable = m_view->isEnabled();
+        s.focused = m_view->hasFocus() && m_view->FocusKey() == m_index;
+        s.checkable = IsLatchKey(m_view->ActiveId(m_index));
+        s.checked = s.checkable && m_view->LatchedOn(m_index);
+        s.pressed = s.checked;
         return s;
     }
     QRect rect() const override {
@@ -49,8 +58,13 @@ public:
     }
 
     QStringList actionNames() const override { return {pressAction()}; }
+    // The press happens once the screen reader has its answer: a key that opens a message box
+    // (or the "Clear All" question) would otherwise keep the screen reader waiting on the box.
     void doAction(const QString& name) override {
-        if (name == pressAction() && isValid()) m_view->Press(m_index);
+        if (name != pressAction() || !isValid()) return;
+        QMetaObject::invokeMethod(
+            m_view.data(), [view = m_view, index = m_index] { if (view && index < view->KeyCount()) view->Press(index); },
+            Qt::QueuedConnection);
     }
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
 
@@ -88,28 +102,76 @@ public:
     QString text(QAccessible::Text t) const override {
         return t == QAccessible::Name ? QStringLiteral("Keys") : QAccessibleWidget::text(t);
     }
+    QAccessibleInterface* focusChild() const override {
+        return View()->hasFocus() ? child(View()->FocusKey()) : nullptr;
+    }
 
 private:
     KeyView* View() const { return static_cast<KeyView*>(widget()); }
     mutable std::map<int, QAccessible::Id> m_children;
 };
 
-class DisplayAccessible : public QAccessibleWidget {
+// The display as a read-only text field: X with its label ("1,234.5 inches") is the text and the
+// value, the other levels shown and the annunciators are the description. A screen reader speaks
+// the changed value of the text field it is on, which it would not do for a label.
+class DisplayAccessible : public QAccessibleWidget, public QAccessibleTextInterface, public QAccessibleValueInterface {
 public:
-    explicit DisplayAccessible(DisplayView* view) : QAccessibleWidget(view, QAccessible::StaticText) {}
+    explicit DisplayAccessible(DisplayView* view) : QAccessibleWidget(view, QAccessible::EditableText) {}
+
     QString text(QAccessible::Text t) const override {
-        const auto* view = static_cast<const DisplayView*>(widget());
         switch (t) {
             case QAccessible::Name: return QStringLiteral("Display");
-            case QAccessible::Value:
-            case QAccessible::Description: return view->AccessibleText();
+            case QAccessible::Value: return View()->AccessibleX();
+            case QAccessible::Description: return View()->AccessibleDetails();
             default: return QAccessibleWidget::text(t);
         }
     }
+    QAccessible::State state() const override {
+        QAccessible::State s = QAccessibleWidget::state();
+        s.readOnly = true;
+        return s;
+    }
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        if (type == QAccessible::TextInterface) return static_cast<QAccessibleTextInterface*>(this);
+        if (type == QAccessible::ValueInterface) return static_cast<QAccessibleValueInterface*>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+
+    // Text: X with its label, one line that cannot be selected or changed.
+    QString text(int start, int end) const override { return View()->AccessibleX().mid(start, end - start); }
+    int characterCount() const override { return static_cast<int>(View()->AccessibleX().size()); }
+    int cursorPosition() const override { return 0; }
+    void setCursorPosition(int) override {}
+    void selection(int, int* start, int* end) const override { *start = *end = 0; }
+    int selectionCount() const override { return 0; }
+    void addSelection(int, int) override {}
+    void removeSelection(int) override {}
+    void setSelection(int, int, int) override {}
+    QRect characterRect(int) const override { return {}; }
+    int offsetAtPoint(const QPoint&) const override { return -1; }
+    void scrollToSubstring(int, int) override {}
+    QString attributes(int, int* start, int* end) const override {
+        *start = 0;
+        *end = characterCount();
+        return {};
+    }
+
+    // Value: X as a number (the error value is infinity).
+    QVariant currentValue() const override { return View()->XValue(); }
+    void setCurrentValue(const QVariant&) override {}
+    QVariant maximumValue() const override { return std::numeric_limits<double>::max(); }
+    QVariant minimumValue() const override { return std::numeric_limits<double>::lowest(); }
+    QVariant minimumStepSize() const override { return 0.0; }
+
+private:
+    DisplayView* View() const { return static_cast<DisplayView*>(widget()); }
 };
 
 QAccessibleInterface* Factory(const QString& className, QObject* object) {
     if (className == QLatin1String("brinto::KeyView")) return new KeyViewAccessible(static_cast<KeyView*>(object));
+    if (className == QLatin1String("QWidget") && object->objectName() == QLatin1String("resultNotice")) {
+        return new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Notification);
+    }
     if (className == QLatin1String("brinto::DisplayView")) {
         return new DisplayAccessible(static_cast<DisplayView*>(object));
     }
@@ -117,6 +179,20 @@ QAccessibleInterface* Factory(const QString& className, QObject* object) {
 }
 
 }  // namespace
+
+namespace {
+std::function<void(QAccessibleEvent&)>& Watcher() {
+    static std::function<void(QAccessibleEvent&)> watcher;
+    return watcher;
+}
+}  // namespace
+
+void SendAccessibilityEvent(QAccessibleEvent& event) {
+    if (Watcher()) Watcher()(event);
+    QAccessible::updateAccessibility(&event);
+}
+
+void WatchAccessibilityEvents(std::function<void(QAccessibleEvent&)> watcher) { Watcher() = std::move(watcher); }
 
 void InstallAccessibility() {
     static const bool installed = [] {

@@ -1,6 +1,10 @@
 #include "app/display_view.h"
 
+#include "app/accessibility.h"
+
+#include <QAccessible>
 #include <QMouseEvent>
+#include <QTimer>
 #include <QPainter>
 #include <algorithm>
 
@@ -29,6 +33,9 @@ bool IsLongDate(const Engine& e, ValueTag tag) {
 
 DisplayView::DisplayView(const Engine& engine, QWidget* parent) : QWidget(parent), m_engine(engine) {
     setAttribute(Qt::WA_OpaquePaintEvent);
+    // The display holds the focus at the start, so that a screen reader follows X; it passes every
+    // key on to the window.
+    setFocusPolicy(Qt::StrongFocus);
 }
 
 void DisplayView::SetLook(const ScreenColours& colours, const ThemeSet& themes, const QString& keyboardName) {
@@ -38,6 +45,7 @@ void DisplayView::SetLook(const ScreenColours& colours, const ThemeSet& themes, 
     m_borders = BordersOf(m_engine.prefs, themes);
     m_keyboardName = keyboardName;
     update();
+    ScheduleAnnouncement();
 }
 
 int DisplayView::LinesShown() const { return IsBasic(m_engine) ? m_lines.basic : m_lines.advanced; }
@@ -79,13 +87,63 @@ QStringList DisplayView::Annunciators() const {
     return on;
 }
 
-QString DisplayView::AccessibleText() const {
+QString DisplayView::AccessibleX() const {
+    const DisplayLine x = DisplayLevel(m_engine, 0);
+    return Utf8(x.text) + (x.label.empty() ? QString() : QStringLiteral(" ") + Utf8(x.label));
+}
+
+QString DisplayView::AccessibleDetails() const {
+    static const char* const kLevelNames[] = {"X", "Y", "Z", "T"};
     QStringList parts;
-    for (int level = 0; level < LinesShown(); ++level) {
+    for (int level = 1; level < LinesShown(); ++level) {
         const DisplayLine line = DisplayLevel(m_engine, level);
-        parts << (Utf8(line.text) + (line.label.empty() ? QString() : QStringLiteral(" ") + Utf8(line.label)));
+        const QString name = level < 4 ? QString::fromLatin1(kLevelNames[level]) : QStringLiteral("Level %1").arg(level + 1);
+        parts << name + QStringLiteral(": ") + Utf8(line.text) +
+                     (line.label.empty() ? QString() : QStringLiteral(" ") + Utf8(line.label));
     }
+    parts << Annunciators().join(QStringLiteral(", "));
     return parts.join(QStringLiteral("; "));
+}
+
+double DisplayView::XValue() const { return m_engine.Level(0).value; }
+
+void DisplayView::ScheduleAnnouncement() {
+    if (m_announcing) return;
+    m_announcing = true;
+    QTimer::singleShot(0, this, [this] {
+        m_announcing = false;
+        Announce();
+    });
+}
+
+// A screen reader speaks the changes of the field it is on, so while the focus is elsewhere (on the
+// keys) X is also shown to it as a notification, which it speaks wherever the focus is.
+void DisplayView::Notify(const QString& x) {
+    if (hasFocus() || !window()->isActiveWindow()) return;
+    if (!m_notice) {
+        m_notice = new QWidget(this);
+        m_notice->setObjectName(QStringLiteral("resultNotice"));
+        m_notice->setGeometry(0, 0, 0, 0);
+    }
+    m_notice->hide();
+    m_notice->setAccessibleName(x);
+    m_notice->show();
+}
+
+void DisplayView::Announce() {
+    const QString x = AccessibleX(), details = AccessibleDetails();
+    if (x != m_announcedX) {
+        QAccessibleTextUpdateEvent text(this, 0, m_announcedX, x);
+        SendAccessibilityEvent(text);
+        QAccessibleValueChangeEvent value(this, XValue());
+        SendAccessibilityEvent(value);
+        Notify(x);
+    } else if (details != m_announcedDetails) {
+        QAccessibleEvent described(this, QAccessible::DescriptionChanged);
+        SendAccessibilityEvent(described);
+    }
+    m_announcedX = x;
+    m_announcedDetails = details;
 }
 
 // The five fonts scale with the view from the handheld's 240-pixel screen; "ClearType" lets the
@@ -125,6 +183,13 @@ void DisplayView::paintEvent(QPaintEvent*) {
     painter.setBrush(ToQColor(m_colours.displayBackground));
     const double radius = m_borders.displayFrame ? 4 * scale : 0;
     painter.drawRoundedRect(area.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    if (hasFocus() && m_ringShown) {
+        // The focus ring in the colour of the labels, which every theme keeps legible on the display.
+        const double pen = std::max(2.0, std::round(1.5 * scale));
+        painter.setBrush(Qt::NoBrush);
+        painter.setPen(QPen(ToQColor(m_colours.displayLabel), pen, Qt::DotLine));
+        painter.drawRoundedRect(area.adjusted(pen, pen, -pen, -pen), radius, radius);
+    }
 
     const QFont valueFont = MakeFont(m_fonts.value, width()), dateFont = MakeFont(m_fonts.date, width());
     const QFont stackFont = MakeFont(m_fonts.stack, width()), labelFont = MakeFont(m_fonts.label, width());
@@ -172,6 +237,19 @@ void DisplayView::paintEvent(QPaintEvent*) {
         painter.setPen(ToQColor(ValueTextColour(m_colours, entry.tag, entry.value)));
         painter.drawText(line, Qt::AlignRight | Qt::AlignVCenter, text);
     }
+}
+
+// The ring shows once the focus has moved by the keyboard, as it does on the keys; a window that
+// was only activated keeps what it showed.
+void DisplayView::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    if (event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason) m_ringShown = true;
+    update();
+}
+
+void DisplayView::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
+    update();
 }
 
 void DisplayView::mouseReleaseEvent(QMouseEvent* event) {

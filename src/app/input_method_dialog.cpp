@@ -30,6 +30,7 @@ InputMethodDialog::InputMethodDialog(QWidget* parent) : QDialog(parent) {
     auto* label = new QLabel(QStringLiteral("&Input:"), this);
     layout->addWidget(label);
     m_list = new QListWidget(this);
+    label->setBuddy(m_list);  // read as the list's name
     m_list->addItems({QStringLiteral("Simple"), QStringLiteral("Precedence"), QStringLiteral("RPN")});
     m_list->setCurrentRow(0);
     label->setBuddy(m_list);

@@ -1,6 +1,11 @@
 #include "app/key_view.h"
 
+#include "app/accessibility.h"
+
+#include <QAccessible>
 #include <QHelpEvent>
+#include <QKeyEvent>
+#include <QTimer>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QToolTip>
@@ -62,20 +67,124 @@ QString ToolTipText(FunctionId id) {
 KeyView::KeyView(QWidget* parent) : QWidget(parent) {
     setMouseTracking(true);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::TabFocus);
 }
 
 void KeyView::SetKeys(std::vector<KeyCell> keys, int columns) {
     if (keys == m_keys && columns == m_columns) return;
+    const bool sameShape = keys.size() == m_keys.size() && columns == m_columns;
     m_keys = std::move(keys);
     m_columns = std::max(1, columns);
     m_pressed = m_hover = -1;
+    m_focusKey = std::clamp(m_focusKey, 0, std::max(0, KeyCount() - 1));
     Relayout();
     update();
+    // New keys under the ring (another keyboard): the screen reader says which key it is now on.
+    if (sameShape) {
+        QAccessibleEvent renamed(this, QAccessible::NameChanged);
+        renamed.setChild(m_focusKey);
+        if (hasFocus() && m_focusKey < KeyCount()) SendAccessibilityEvent(renamed);
+    } else {
+        NotifyFocus();
+    }
 }
 
 void KeyView::SetLook(const KeyLook& look) {
+    const KeyLook before = m_look;
     m_look = look;
     Relayout();
+    update();
+    for (int i = 0; i < KeyCount(); ++i) {
+        const auto on = [i, this](const KeyLook& l) {
+            const FunctionId id = l.shifted ? Key(i).shifted : Key(i).unshifted;
+            return std::find(l.latchedOn.begin(), l.latchedOn.end(), id) != l.latchedOn.end();
+        };
+        if (on(before) != on(m_look)) {
+            QAccessible::State changed;
+            changed.checked = true;
+            QAccessibleStateChangeEvent event(this, changed);
+            event.setChild(i);
+            SendAccessibilityEvent(event);
+        }
+    }
+    // The shift latch gives the keys their second functions: the key with the focus is read anew.
+    if (before.shifted != m_look.shifted && hasFocus() && m_focusKey < KeyCount() &&
+        Key(m_focusKey).shifted != Key(m_focusKey).unshifted) {
+        QAccessibleEvent renamed(this, QAccessible::NameChanged);
+        renamed.setChild(m_focusKey);
+        SendAccessibilityEvent(renamed);
+    }
+}
+
+bool KeyView::LatchedOn(int index) const {
+    const FunctionId id = ActiveId(index);
+    return std::find(m_look.latchedOn.begin(), m_look.latchedOn.end(), id) != m_look.latchedOn.end();
+}
+
+void KeyView::SetFocusKey(int index) {
+    if (index < 0 || index >= KeyCount() || index == m_focusKey) return;
+    m_focusKey = index;
+    update();
+    NotifyFocus();
+}
+
+int KeyView::Neighbour(int columnSteps, int rowSteps) const {
+    const int rows = std::max(1, Rows());
+    const int column = m_focusKey % m_columns, row = m_focusKey / m_columns;
+    const int newColumn = (column + columnSteps + m_columns) % m_columns;
+    int newRow = (row + rowSteps + rows) % rows;
+    // A short last row: going down into a gap wraps to the top, going up into one lands on the row above.
+    if (newRow * m_columns + newColumn >= KeyCount()) newRow = rowSteps < 0 ? newRow - 1 : 0;
+    return std::clamp(newRow * m_columns + newColumn, 0, std::max(0, KeyCount() - 1));
+}
+
+void KeyView::NotifyFocus() const {
+    if (!hasFocus() || m_focusKey >= KeyCount()) return;
+    QAccessibleEvent event(const_cast<KeyView*>(this), QAccessible::Focus);
+    event.setChild(m_focusKey);
+    SendAccessibilityEvent(event);
+}
+
+void KeyView::keyPressEvent(QKeyEvent* event) {
+    const Qt::KeyboardModifiers mods = event->modifiers() & ~Qt::KeypadModifier;
+    if (mods != Qt::NoModifier || KeyCount() == 0) {
+        event->ignore();
+        return;
+    }
+    switch (event->key()) {
+        case Qt::Key_Left: SetFocusKey(Neighbour(-1, 0)); return;
+        case Qt::Key_Right: SetFocusKey(Neighbour(1, 0)); return;
+        case Qt::Key_Up: SetFocusKey(Neighbour(0, -1)); return;
+        case Qt::Key_Down: SetFocusKey(Neighbour(0, 1)); return;
+        case Qt::Key_Home: SetFocusKey(m_focusKey - m_focusKey % m_columns); return;
+        case Qt::Key_End: SetFocusKey(std::min(KeyCount() - 1, m_focusKey - m_focusKey % m_columns + m_columns - 1)); return;
+        case Qt::Key_Space:
+        case Qt::Key_Return:
+        case Qt::Key_Select: {
+            // The key shows pressed for a moment, as under a finger.
+            const int pressed = m_focusKey;
+            m_pressed = pressed;
+            repaint();
+            QTimer::singleShot(120, this, [this, pressed] {
+                if (m_pressed == pressed) m_pressed = -1;
+                update();
+            });
+            Q_EMIT Tapped(pressed);
+            return;
+        }
+        default: event->ignore(); return;  // the number keypad's Enter stays the Action button
+    }
+}
+
+void KeyView::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    update();
+    // After Qt has announced the view itself as focused, the key with the ring is announced.
+    QTimer::singleShot(0, this, [this] { NotifyFocus(); });
+}
+
+void KeyView::focusOutEvent(QFocusEvent* event) {
+    QWidget::focusOutEvent(event);
     update();
 }
 
@@ -128,6 +237,30 @@ void KeyView::paintEvent(QPaintEvent*) {
         DrawLegend(painter, m_look.title, QRectF(0, 0, width(), TitleHeight()), TitleHeight() * 3 / 4, true);
     }
     for (int i = 0; i < KeyCount(); ++i) DrawKey(painter, i);
+    if (hasFocus() && m_focusKey < KeyCount()) DrawFocusRing(painter);
+}
+
+// The ring is drawn inside the key in the colour of its legend, which every theme keeps legible
+// on the face, with a second ring in the face colour inside it so that it reads on any legend.
+void KeyView::DrawFocusRing(QPainter& painter) {
+    const Rect keyRect = KeyRect(m_grid, m_focusKey);
+    if (keyRect.width <= 0 || keyRect.height <= 0) return;
+    const KeyCell& key = Key(m_focusKey);
+    const LegendPlacement place = PlaceLegends(m_look.arrangement, m_look.shifted, keyRect);
+    const FunctionId large = place.large == Legend::Shifted ? key.shifted : key.unshifted;
+    const KeyColours& c = m_look.colours.Key(KeyClassOf(large == kNoKey ? key.unshifted : large));
+    const bool pressed = m_focusKey == m_pressed;
+    const double scale = GridScale(width());
+    const double depth = std::round(m_look.shadow * scale);
+    const double pen = std::max(2.0, std::round(1.5 * scale));
+    QRectF shape = ToRectF(keyRect).adjusted(0.5, 0.5, -0.5 - depth, -0.5 - depth);
+    if (pressed) shape.translate(depth, depth);
+    const double radius = std::max(0.0, m_look.corner * scale);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(ToQColor(pressed ? c.pressedText : c.text), pen));
+    painter.drawRoundedRect(shape.adjusted(pen / 2, pen / 2, -pen / 2, -pen / 2), radius, radius);
+    painter.setPen(QPen(ToQColor(pressed ? c.pressedFace : c.face), 1));
+    painter.drawRoundedRect(shape.adjusted(pen + 0.5, pen + 0.5, -pen - 0.5, -pen - 0.5), radius, radius);
 }
 
 int KeyView::SmallestLegendCapitals() const {

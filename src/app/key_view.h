@@ -2,6 +2,11 @@
 // A grid of drawn keys: the Advanced view's keyboard (the 12-key block over the shared keypad) or
 // the Basic view's keys. Faces are painted from the legend table in the theme's colours; a tap
 // is reported by the key's index and the window decides what it means.
+//
+// The view takes the focus by Tab only (a click does not take it, so Return after a click still
+// is the Action button). While it has the focus, the arrow keys move a focus ring from key to
+// key, wrapping at the edges, and Space or Return press the key with the ring; every other key
+// goes on to the window, so typed digits and operators work as anywhere else.
 #include <QWidget>
 #include <vector>
 
@@ -28,6 +33,7 @@ struct KeyLook {
     int corner = 3;  // likewise
     bool shifted = false;
     QString title;   // the keyboard's name above the keys; empty for none
+    std::vector<FunctionId> latchedOn;  // latch keys whose state is on (shift, HYP, DEG, ...)
 };
 
 QColor ToQColor(Rgb rgb);
@@ -63,6 +69,11 @@ public:
 
     // A tap on the key from outside the mouse: accessibility tools' press action.
     void Press(int index) { Q_EMIT Tapped(index); }
+    // The key the focus ring is on (also while the view has no focus: where Tab will put it).
+    int FocusKey() const { return m_focusKey; }
+    void SetFocusKey(int index);
+    // Whether the key's latch is on (false for keys that are no latch).
+    bool LatchedOn(int index) const;
 
 Q_SIGNALS:
     void Tapped(int index);
@@ -74,12 +85,20 @@ protected:
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void leaveEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     bool event(QEvent* event) override;
 
 private:
     int Inset() const;
     void Relayout();
     void DrawKey(QPainter& painter, int index);
+    void DrawFocusRing(QPainter& painter);
+    // The key `steps` columns and `rowSteps` rows away from the ring, wrapping within its row or column.
+    int Neighbour(int columnSteps, int rowSteps) const;
+    // Tells accessibility tools which key has the focus, or what changed on one key.
+    void NotifyFocus() const;
 
     std::vector<KeyCell> m_keys;
     int m_columns = 1;
@@ -87,6 +106,7 @@ private:
     KeyGrid m_grid;
     int m_pressed = -1;
     int m_hover = -1;
+    int m_focusKey = 0;
 };
 
 }  // namespace brinto

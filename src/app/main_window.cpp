@@ -12,11 +12,13 @@
 #include <QMessageBox>
 #include <QTimer>
 #include <QToolBar>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <QIcon>
 
 #include "app/accessibility.h"
 #include "app/quick_switch.h"
+#include "app/key_finder.h"
 #include "app/dialogs/colour_dialogs.h"
 #include "app/dialogs/dialogs.h"
 #include "app/tape_panel.h"
@@ -66,7 +68,6 @@ MainWindow::MainWindow(Session& session, QWidget* parent) : QMainWindow(parent),
     InstallAccessibility();
     m_pane = new QWidget(this);
     m_pane->installEventFilter(this);
-    m_pane->setFocusPolicy(Qt::StrongFocus);
     setCentralWidget(m_pane);
     m_display = new DisplayView(session.engine(), m_pane);
     m_keys = new KeyView(m_pane);
@@ -79,6 +80,9 @@ MainWindow::MainWindow(Session& session, QWidget* parent) : QMainWindow(parent),
     m_toolBar->setMovable(false);
     m_toolBar->setFloatable(false);
     m_toolBar->toggleViewAction()->setVisible(false);
+    if (auto* more = m_toolBar->findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"))) {
+        more->setAccessibleName(QStringLiteral("More"));
+    }
     addToolBar(Qt::TopToolBarArea, m_toolBar);
     m_selector = new QComboBox(m_toolBar);
     m_selector->setFocusPolicy(Qt::NoFocus);
@@ -93,60 +97,90 @@ MainWindow::MainWindow(Session& session, QWidget* parent) : QMainWindow(parent),
 
     BuildMenus();
     ApplyTheme();
-    m_pane->setFocus();
+    // Tab goes from the display to the keys on show and back.
+    setTabOrder(m_display, m_keys);
+    setTabOrder(m_keys, m_basic);
+    m_display->setFocus();
 }
 
+// Every menu and entry has a mnemonic (Alt+V opens View), and F10 opens the menu bar, so the
+// menus are reached from the keyboard under every style. Entries act once the menu has closed:
+// one chosen by a screen reader's action must not keep the screen reader waiting on the window
+// it opens.
 void MainWindow::BuildMenus() {
     const auto add = [this](QMenu* menu, const QString& text, auto&& what, QKeySequence key = {}) {
         QAction* action = menu->addAction(text);
         if (!key.isEmpty()) action->setShortcut(key);
-        connect(action, &QAction::triggered, this, what);
+        connect(action, &QAction::triggered, this, what, Qt::QueuedConnection);
         return action;
     };
     Session& s = m_session;
-    QMenu* viewMenu = menuBar()->addMenu(QStringLiteral("View"));
-    add(viewMenu, QStringLiteral("Basic"), [&s] { s.Basic(); });
-    add(viewMenu, QStringLiteral("Advanced"), [&s] { s.Advanced(); });
+    QMenu* viewMenu = menuBar()->addMenu(QStringLiteral("&View"));
+    add(viewMenu, QStringLiteral("&Basic"), [&s] { s.Basic(); });
+    add(viewMenu, QStringLiteral("&Advanced"), [&s] { s.Advanced(); });
     viewMenu->addSeparator();
     const std::pair<const char*, View> views[] = {
-        {"Stack...", View::Stack}, {"User Registers...", View::UserRegisters},
-        {"Constants...", View::Constants}, {"TVM...", View::Tvm},
-        {"Amortization...", View::Amortization}, {"Cash Flow...", View::CashFlow},
-        {"Statistical...", View::Statistical}};
+        {"&Stack...", View::Stack}, {"&User Registers...", View::UserRegisters},
+        {"&Constants...", View::Constants}, {"&TVM...", View::Tvm},
+        {"Amorti&zation...", View::Amortization}, {"Cash &Flow...", View::CashFlow},
+        {"Stat&istical...", View::Statistical}};
     for (const auto& [text, which] : views) {
         add(viewMenu, QString::fromLatin1(text), [this, which = which] { OpenView(which); });
     }
     // The Date & Time keyboard has no keys for these; they serve every keyboard from here.
     viewMenu->addSeparator();
-    add(viewMenu, QStringLiteral("Enter Date..."), [this] { Dialogs().OpenEnterDate(); }, QKeySequence(Qt::CTRL | Qt::Key_D));
-    add(viewMenu, QStringLiteral("Enter Time..."), [this] { Dialogs().OpenEnterTime(); }, QKeySequence(Qt::CTRL | Qt::Key_T));
-    add(viewMenu, QStringLiteral("Durations..."), [this] { Dialogs().OpenDurations(); }, QKeySequence(Qt::CTRL | Qt::Key_U));
+    add(viewMenu, QStringLiteral("Enter &Date..."), [this] { Dialogs().OpenEnterDate(); }, QKeySequence(Qt::CTRL | Qt::Key_D));
+    add(viewMenu, QStringLiteral("Enter Ti&me..."), [this] { Dialogs().OpenEnterTime(); }, QKeySequence(Qt::CTRL | Qt::Key_T));
+    add(viewMenu, QStringLiteral("Du&rations..."), [this] { Dialogs().OpenDurations(); }, QKeySequence(Qt::CTRL | Qt::Key_U));
     viewMenu->addSeparator();
-    m_tapeAction = add(viewMenu, QStringLiteral("History Tape"), [this](bool on) { ShowTape(on); },
+    m_tapeAction = add(viewMenu, QStringLiteral("&History Tape"), [this](bool on) { ShowTape(on); },
                        QKeySequence(Qt::CTRL | Qt::Key_H));
     m_tapeAction->setCheckable(true);
 
-    QMenu* editMenu = menuBar()->addMenu(QStringLiteral("Edit"));
-    add(editMenu, QStringLiteral("Undo"), [&s] { s.Undo(); }, QKeySequence(Qt::CTRL | Qt::Key_Z));
-    QAction* redo = add(editMenu, QStringLiteral("Redo"), [&s] { s.Redo(); });
+    QMenu* editMenu = menuBar()->addMenu(QStringLiteral("&Edit"));
+    add(editMenu, QStringLiteral("&Undo"), [&s] { s.Undo(); }, QKeySequence(Qt::CTRL | Qt::Key_Z));
+    QAction* redo = add(editMenu, QStringLiteral("&Redo"), [&s] { s.Redo(); });
     redo->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
     editMenu->addSeparator();
-    add(editMenu, QStringLiteral("Cut"), [&s] { s.Cut(); }, QKeySequence(Qt::CTRL | Qt::Key_X));
-    add(editMenu, QStringLiteral("Copy"), [&s] { s.Copy(); }, QKeySequence(Qt::CTRL | Qt::Key_C));
-    add(editMenu, QStringLiteral("Paste"), [&s] { s.Paste(); }, QKeySequence(Qt::CTRL | Qt::Key_V));
+    add(editMenu, QStringLiteral("Cu&t"), [&s] { s.Cut(); }, QKeySequence(Qt::CTRL | Qt::Key_X));
+    add(editMenu, QStringLiteral("&Copy"), [&s] { s.Copy(); }, QKeySequence(Qt::CTRL | Qt::Key_C));
+    add(editMenu, QStringLiteral("&Paste"), [&s] { s.Paste(); }, QKeySequence(Qt::CTRL | Qt::Key_V));
+    editMenu->addSeparator();
+    // Every key by its name, and the shift latch, for those who do not use the mouse.
+    add(editMenu, QStringLiteral("&Find Key..."), [this] { OpenKeyFinder(); }, QKeySequence(Qt::CTRL | Qt::Key_K));
+    add(editMenu, QStringLiteral("S&hift"), [this] {
+        m_session.TapKey(fid::Shift);
+        KeyDone();
+    }, QKeySequence(Qt::Key_F2));
 
-    QMenu* optionsMenu = menuBar()->addMenu(QStringLiteral("Options"));
-    add(optionsMenu, QStringLiteral("Preferences..."), [this] { OpenView(View::Preferences); });
-    add(optionsMenu, QStringLiteral("Keyboard..."), [this] { OpenView(View::Keyboard); });
+    QMenu* optionsMenu = menuBar()->addMenu(QStringLiteral("&Options"));
+    add(optionsMenu, QStringLiteral("&Preferences..."), [this] { OpenView(View::Preferences); });
+    add(optionsMenu, QStringLiteral("&Keyboard..."), [this] { OpenView(View::Keyboard); });
     optionsMenu->addSeparator();
-    add(optionsMenu, QStringLiteral("About Brinto..."), [this] { Dialogs().OpenAbout(); });
+    add(optionsMenu, QStringLiteral("&About Brinto..."), [this] { Dialogs().OpenAbout(); });
     optionsMenu->addSeparator();
-    add(optionsMenu, QStringLiteral("Quit"), [this] { close(); }, QKeySequence(Qt::CTRL | Qt::Key_Q));
+    add(optionsMenu, QStringLiteral("&Quit"), [this] { close(); }, QKeySequence(Qt::CTRL | Qt::Key_Q));
 
     auto* help = new QAction(this);
     help->setShortcut(QKeySequence(Qt::Key_F1));
     connect(help, &QAction::triggered, this, [this] { OpenHelp(QStringLiteral("Main_Contents")); });
     addAction(help);
+    auto* menus = new QAction(this);
+    menus->setShortcut(QKeySequence(Qt::Key_F10));
+    connect(menus, &QAction::triggered, this, [this] { menuBar()->setActiveAction(menuBar()->actions().value(0)); });
+    addAction(menus);
+}
+
+void MainWindow::OpenKeyFinder() {
+    if (!m_finder) {
+        m_finder = new KeyFinder(this);
+        connect(m_finder, &KeyFinder::keyChosen, this, [this](FunctionId id) {
+            m_session.TapKey(id);
+            KeyDone();
+        });
+    }
+    m_finder->Clear();
+    m_finder->open();
 }
 
 void MainWindow::ApplyTheme() {
@@ -191,6 +225,13 @@ void MainWindow::Refresh() {
     look.corner = m_themes.keyStyle()[key_style::Corner];
     look.shifted = e.state.status & status::FirstShift;
     look.title = namePlace == KeyboardNamePlace::AboveKeys && !basic ? name : QString();
+    for (const KeyView* view : {m_keys, m_basic}) {
+        for (int i = 0; i < view->KeyCount(); ++i) {
+            for (const FunctionId id : {view->Key(i).unshifted, view->Key(i).shifted}) {
+                if (IsLatchKey(id) && LatchOn(e, id)) look.latchedOn.push_back(id);
+            }
+        }
+    }
     m_keys->SetLook(look);
     look.title.clear();
     m_basic->SetLook(look);

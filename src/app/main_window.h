@@ -20,6 +20,7 @@ class QToolBar;
 namespace brinto {
 
 
+class KeyFinder;
 class Session;
 class SessionStore;
 class TapePanel;
@@ -85,6 +86,7 @@ protected:
 
 private:
     void BuildMenus();
+    void OpenKeyFinder();
     void LayoutViews();
     void KeyTapped(const KeyView* view, int index);
     void DisplayTapped(TapArea area);
@@ -110,6 +112,7 @@ private:
     QLabel* m_saveFailure = nullptr;
     TapePanel* m_tape = nullptr;
     QAction* m_tapeAction = nullptr;
+    KeyFinder* m_finder = nullptr;
 };
 
 }  // namespace brinto

@@ -39,7 +39,7 @@ constexpr std::array kLegends = {
     KeyLegend{fid::Multiply, "×", "Multiply", "* or X"},
     KeyLegend{fid::Divide, "÷", "Divide", "/"},
     KeyLegend{fid::Equals, "=", "Equals: complete the calculation", "= or Enter"},
-    KeyLegend{fid::Shift, "SHIFT", "Shift: the keys' second functions", ""},
+    KeyLegend{fid::Shift, "SHIFT", "Shift: the keys' second functions", "F2"},
     KeyLegend{fid::DisplayToggle, "DISP", "Show all digits, dates as numbers (toggle)", ""},
     KeyLegend{fid::ClearAll, "CLALL", "Clear all: stack, registers and macro", ""},
     KeyLegend{fid::ClearStack, "CLST", "Clear stack", "Delete"},

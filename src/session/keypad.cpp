@@ -1,5 +1,10 @@
 #include "session/keypad.h"
 
+#include <algorithm>
+#include <optional>
+
+#include "engine/engine.h"
+
 namespace brinto {
 
 namespace {
@@ -46,6 +51,53 @@ std::span<const KeypadRow> SharedKeypad() { return kSharedKeypad; }
 std::span<const BasicRow> BasicKeys(InputMethod method) {
     return method == InputMethod::Rpn ? std::span<const BasicRow>(kBasicRpn)
                                       : std::span<const BasicRow>(kBasicInfix);
+}
+
+}  // namespace brinto
+
+namespace brinto {
+
+namespace {
+
+// Each latch key with the state it shows.
+struct Latch {
+    FunctionId id;
+    bool (*on)(const Engine&);
+};
+
+bool ShiftOn(const Engine& e) { return e.state.status & status::FirstShift; }
+
+constexpr std::array kLatches = {
+    Latch{fid::Shift, ShiftOn},
+    Latch{fid::FirstShift, ShiftOn},
+    Latch{fid::SecondShift, [](const Engine& e) -> bool { return e.state.viewFlags & view::SecondShift; }},
+    Latch{fid::Hyperbolic, [](const Engine& e) -> bool { return e.state.status & status::Hyperbolic; }},
+    Latch{fid::BeginEnd, [](const Engine& e) -> bool { return e.state.engineFlags & flags::Begin; }},
+    Latch{fid::MacroRecord, [](const Engine& e) -> bool { return e.state.engineFlags & flags::Recording; }},
+    Latch{fid::Degrees, [](const Engine& e) { return e.Angle() == AngleUnit::Degrees; }},
+    Latch{fid::Radians, [](const Engine& e) { return e.Angle() == AngleUnit::Radians; }},
+    Latch{fid::Grads, [](const Engine& e) { return e.Angle() == AngleUnit::Grads; }},
+    Latch{fid::BaseBinary, [](const Engine& e) { return e.EntryBase() == status::BaseBinary; }},
+    Latch{fid::BaseOctal, [](const Engine& e) { return e.EntryBase() == status::BaseOctal; }},
+    Latch{fid::BaseDecimal, [](const Engine& e) { return e.EntryBase() == 0; }},
+    Latch{fid::BaseHex, [](const Engine& e) { return e.EntryBase() == status::BaseHex; }},
+    Latch{fid::MethodSimple, [](const Engine& e) { return e.Method() == InputMethod::Simple; }},
+    Latch{fid::MethodPrecedence, [](const Engine& e) { return e.Method() == InputMethod::Precedence; }},
+    Latch{fid::MethodRpn, [](const Engine& e) { return e.Method() == InputMethod::Rpn; }},
+};
+
+const Latch* FindLatch(FunctionId id) {
+    const auto it = std::find_if(kLatches.begin(), kLatches.end(), [id](const Latch& l) { return l.id == id; });
+    return it == kLatches.end() ? nullptr : &*it;
+}
+
+}  // namespace
+
+bool IsLatchKey(FunctionId id) { return FindLatch(id) != nullptr; }
+
+bool LatchOn(const Engine& engine, FunctionId id) {
+    const Latch* latch = FindLatch(id);
+    return latch && latch->on(engine);
 }
 
 }  // namespace brinto

@@ -13,6 +13,8 @@
 
 namespace brinto {
 
+class Engine;
+
 struct KeypadKey {
     FunctionId unshifted;
     FunctionId shifted;  // the same as unshifted where the key has no second function
@@ -30,5 +32,11 @@ std::span<const KeypadRow> SharedKeypad();
 // The Basic view's keys, top row first: digits, point, the four operators, change sign,
 // backspace, clear, percent, and "=" (ENTER under RPN) in the corner.
 std::span<const BasicRow> BasicKeys(InputMethod method);
+
+// Keys that turn a state on which stays until another key changes it: the shift latch, HYP,
+// BEG, macro recording, and the angle unit, entry base and input method that a key chooses.
+// Screen readers show them as toggles, checked while the state is on.
+bool IsLatchKey(FunctionId id);
+bool LatchOn(const Engine& engine, FunctionId id);
 
 }  // namespace brinto

@@ -20,7 +20,7 @@ std::string CommandOutput(const std::string& command) {
 QAction* MenuEntry(MainWindow& window, const char* entry) {
     for (QAction* menu : window.menuBar()->actions()) {
         for (QAction* a : menu->menu()->actions()) {
-            if (a->text() == QString::fromLatin1(entry)) return a;
+            if (QString(a->text()).remove(QLatin1Char('&')) == QString::fromLatin1(entry)) return a;
         }
     }
     return nullptr;

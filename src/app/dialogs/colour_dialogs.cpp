@@ -141,6 +141,8 @@ CustomizeColours::CustomizeColours(const HelpFunction& help, QWidget* parent) : 
             QPushButton*& button = m_buttons[static_cast<std::size_t>(i)];
             button = new QPushButton(this);
             button->setMinimumSize(56, 28);
+            button->setAccessibleName(QString::fromUtf8(caption).remove(QLatin1Char(':')) +
+                                      (column == 0 ? QStringLiteral(" text color") : QStringLiteral(" background color")));
             connect(button, &QPushButton::clicked, this, [this, i] { Choose(i); });
             grid->addWidget(button, k + 1, column + 1);
         }

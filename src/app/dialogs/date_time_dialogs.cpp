@@ -49,6 +49,7 @@ DateFields DateTimeToOffer(const Engine& e, Offer offer) {
 EnterDateDialog::EnterDateDialog(const HelpFunction& help, QWidget* parent)
     : QDialog(parent), m_calendar(new QCalendarWidget(this)) {
     setWindowTitle(QStringLiteral("Enter Date"));
+    m_calendar->setAccessibleName(QStringLiteral("Date"));
     m_calendar->setDateRange(QDate(1904, 1, 1), QDate(2031, 12, 31));
     connect(m_calendar, &QCalendarWidget::activated, this, &QDialog::accept);
     auto* column = new QVBoxLayout(this);
@@ -67,6 +68,9 @@ EnterTimeDialog::EnterTimeDialog(const HelpFunction& help, QWidget* parent)
     // Three narrow lists read as "hour : minute", each just wide enough for its numbers.
     const int listWidth = fontMetrics().horizontalAdvance(QStringLiteral("000")) +
                           style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 4 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
+    m_hours->setAccessibleName(QStringLiteral("Hour"));
+    m_tens->setAccessibleName(QStringLiteral("Tens of minutes"));
+    m_units->setAccessibleName(QStringLiteral("Minutes"));
     auto* lists = new QGridLayout;
     const auto addList = [&](QListWidget* list, int column, const char* caption) {
         list->setFixedWidth(listWidth);

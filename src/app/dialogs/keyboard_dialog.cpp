@@ -22,6 +22,10 @@ void ShowKey(QPushButton* button, FunctionId id) {
     const KeyLegend* legend = FindLegend(id);
     button->setText(legend ? ToQString(legend->legend) : QString());
     button->setToolTip(legend ? ToQString(legend->fullName) : QString());
+    // A screen reader says which key of the block it is and what it does, also when it is blank.
+    button->setAccessibleName(QStringLiteral("Key %1: %2")
+                                  .arg(button->property("keyNumber").toInt())
+                                  .arg(legend ? ToQString(legend->fullName) : QStringLiteral("no function")));
 }
 
 // A 2 x 6 grid of key buttons added to `into`; `tapped` receives the key number 0..11.
@@ -33,6 +37,7 @@ std::array<QPushButton*, kBlockKeys> KeyGrid(QWidget* owner, QVBoxLayout* into, 
     for (int k = 0; k < kBlockKeys; ++k) {
         keys[k] = new QPushButton(owner);
         keys[k]->setCheckable(checkable);
+        keys[k]->setProperty("keyNumber", k + 1);
         keys[k]->setMinimumHeight(28);
         grid->addWidget(keys[k], k / kColumns, k % kColumns);
         QObject::connect(keys[k], &QPushButton::clicked, owner, [tapped, k] { tapped(k); });
@@ -66,6 +71,7 @@ KeyboardDialog::KeyboardDialog(Session& session, const HelpFunction& help, QWidg
     availableRow->addWidget(m_availableShifted);
     column->addLayout(availableRow);
     m_keyboards = new QListWidget;
+    m_keyboards->setAccessibleName(QStringLiteral("Available keyboard"));
     for (int k = 0; k < kUserKeyboard; ++k) m_keyboards->addItem(ToQString(kKeyboardNames[k]));
     m_keyboards->setCurrentRow(0);
     m_keyboards->setMaximumHeight(90);

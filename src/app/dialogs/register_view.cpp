@@ -112,6 +112,9 @@ RegisterView::RegisterView(Session& session, RegisterList list, const HelpFuncti
       m_problem(MakeProblemLine(this)) {
     const ListInfo& info = kLists[static_cast<std::size_t>(list)];
     setWindowTitle(QString::fromUtf8(info.title));
+    m_table->setAccessibleName(QString::fromUtf8(info.title));
+    // Tab and Shift+Tab go on to the buttons; the arrows move between the cells.
+    m_table->setTabKeyNavigation(false);
     m_table->setColumnCount(list == RegisterList::Statistical || list == RegisterList::Amortization ? 2 : 3);
     m_table->horizontalHeader()->setVisible(list == RegisterList::CashFlow);
     if (list == RegisterList::CashFlow) {
@@ -137,6 +140,10 @@ RegisterView::RegisterView(Session& session, RegisterList list, const HelpFuncti
     }
     column->addWidget(buttons);
     connect(m_table, &QTableWidget::cellChanged, this, &RegisterView::Edited);
+    connect(m_table, &QTableWidget::cellActivated, this, [this](int row, int column) {
+        if (column != kExtraColumn || row < 0 || row >= static_cast<int>(m_rows.size())) return;
+        if (const FunctionId key = m_rows[static_cast<std::size_t>(row)].solveKey; key != kNoKey) Solve(key);
+    });
     if (m_diagram) {
         resize(440, 520);
     } else {
@@ -215,9 +222,15 @@ void RegisterView::Refresh() {
         } else if (row.solveKey != kNoKey && !m_table->cellWidget(i, kExtraColumn)) {
             auto* solve = new QPushButton(QStringLiteral("Solve"));
             solve->setAutoDefault(false);
+            solve->setAccessibleName(QStringLiteral("Solve ") + row.label);
             const FunctionId key = row.solveKey;
             connect(solve, &QPushButton::clicked, this, [this, key] { Solve(key); });
             m_table->setCellWidget(i, kExtraColumn, solve);
+            // Screen readers see the table's cells, not the buttons on them: the cell under the
+            // button is named for it, and activating the cell (Return) solves as the button does.
+            auto* cell = new QTableWidgetItem(solve->accessibleName());
+            cell->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+            m_table->setItem(i, kExtraColumn, cell);
         }
     }
     m_table->resizeColumnToContents(kLabelColumn);

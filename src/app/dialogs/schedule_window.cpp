@@ -30,6 +30,8 @@ ScheduleWindow::ScheduleWindow(const Engine& engine, const HelpFunction& help, Q
     : QDialog(parent), m_engine(engine), m_chart(new ScheduleChartView(this)), m_table(new QTableWidget(this)) {
     setWindowTitle(QStringLiteral("Amortization Schedule"));
     m_table->setColumnCount(5);
+    m_table->setAccessibleName(QStringLiteral("Payments"));
+    m_table->setTabKeyNavigation(false);  // Tab goes on to the buttons
     m_table->setHorizontalHeaderLabels({QStringLiteral("Year"), QStringLiteral("Payment"), QStringLiteral("Int"),
                                         QStringLiteral("Prin"), QStringLiteral("Bal")});
     m_table->verticalHeader()->setVisible(false);

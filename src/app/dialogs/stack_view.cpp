@@ -64,12 +64,14 @@ StackView::StackView(Session& session, const HelpFunction& help, QWidget* parent
     m_lines->setSelectionMode(QAbstractItemView::NoSelection);
     m_lines->setItemDelegate(new LevelDelegate(m_lines));
     m_lines->setFocusPolicy(Qt::NoFocus);
+    m_lines->setAccessibleName(QStringLiteral("Stack levels"));
     m_lines->setSpacing(1);
     auto* keys = new QHBoxLayout;
     for (const FunctionId id : kStackKeys) {
         const KeyLegend* legend = FindLegend(id);
         auto* button = new QPushButton(legend ? ToQString(legend->legend) : QString(), this);
         if (legend) button->setToolTip(ToQString(legend->fullName));
+        if (legend) button->setAccessibleName(ToQString(legend->fullName));
         button->setFixedHeight(30);
         button->setFocusPolicy(Qt::NoFocus);
         connect(button, &QPushButton::clicked, this, [this, id] { Press(id); });

@@ -1,0 +1,63 @@
+// The key finder takes brinto-cli's names and aliases, full names and faces, and offers keys
+// while a name is being typed.
+#include <gtest/gtest.h>
+
+#include "engine/engine.h"
+#include "session/key_finder.h"
+#include "session/keypad.h"
+
+namespace brinto {
+namespace {
+
+TEST(KeyFinder, NamesAliasesFullNamesAndFacesFindTheirKey) {
+    struct Case {
+        const char* typed;
+        std::optional<FunctionId> key;
+    };
+    const Case cases[] = {
+        {"sqrt", fid::SquareRoot},    {"x^2", fid::Square},        {"PV", fid::PV},
+        {"sin", fid::Sin},            {"Square root", fid::SquareRoot}, {"  square ROOT ", fid::SquareRoot},
+        {"√x", fid::SquareRoot},      {"+", fid::Add},             {"shift", fid::Shift},
+        {"", std::nullopt},           {"squ", std::nullopt},       {"no such key", std::nullopt},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.typed);
+        EXPECT_EQ(FindKey(c.typed), c.key);
+    }
+}
+
+TEST(KeyFinder, OffersExactThenStartingThenHoldingKeysOnce) {
+    // "sq": names starting with it (sq, sqrt, sqfeet...) before full names holding it.
+    const std::vector<KeyChoice> sq = OfferKeys("sq", 50);
+    ASSERT_GE(sq.size(), 3u);
+    EXPECT_EQ(sq[0].id, fid::Square);  // the exact name leads
+    EXPECT_EQ(sq[1].id, fid::SquareRoot);
+    for (std::size_t i = 0; i < sq.size(); ++i) {
+        for (std::size_t j = i + 1; j < sq.size(); ++j) EXPECT_NE(sq[i].id, sq[j].id);
+    }
+    // "root" is in no name but in full names: square root, cube root, x-th root.
+    const std::vector<KeyChoice> root = OfferKeys("root", 50);
+    const auto offered = [&](FunctionId id) {
+        return std::any_of(root.begin(), root.end(), [id](const KeyChoice& c) { return c.id == id; });
+    };
+    EXPECT_TRUE(offered(fid::SquareRoot));
+    EXPECT_TRUE(offered(fid::CubeRoot));
+    EXPECT_EQ(OfferKeys("s", 4).size(), 4u);
+    EXPECT_TRUE(OfferKeys("   ", 10).empty());
+    EXPECT_EQ(OfferKeys("sqrt", 1)[0].Caption(), "sqrt  √x  Square root");
+}
+
+TEST(KeyFinder, LatchKeysAreThoseThatShowAState) {
+    Engine e;
+    EXPECT_TRUE(IsLatchKey(fid::Shift));
+    EXPECT_FALSE(IsLatchKey(fid::Add));
+    EXPECT_TRUE(LatchOn(e, fid::Degrees));
+    EXPECT_FALSE(LatchOn(e, fid::Radians));
+    EXPECT_FALSE(LatchOn(e, fid::Shift));
+    e.state.status |= status::FirstShift;
+    EXPECT_TRUE(LatchOn(e, fid::Shift));
+    EXPECT_FALSE(LatchOn(e, fid::Add));
+}
+
+}  // namespace
+}  // namespace brinto
