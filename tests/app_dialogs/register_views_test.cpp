@@ -1,6 +1,7 @@
 // The register views: "Time Value of Money", "Amortization", "Statistical Registers",
 // "Cash Flow Entries" and "User Registers".
 #include <QMessageBox>
+#include <QLineEdit>
 #include <QTableWidget>
 #include <cmath>
 #include <functional>
@@ -70,6 +71,28 @@ private slots:
         }
         Run again(place);
         QCOMPARE(again.engine.registers.values[reg::PV], -1234.5);
+    }
+
+    // A value being typed survives a change that another program makes meanwhile; the view shows
+    // that change once the edit is over.
+    void AnEditOutlivesAChangeFromElsewhere() {
+        Place place;
+        Run run(place);
+        QWidget* view = run.dialogs.Open(dialogs::View::Tvm);
+        QTableWidget* table = Table(view);
+        table->setFocus();
+        table->setCurrentCell(3, 1);
+        table->editItem(table->item(3, 1));
+        auto* edit = table->findChild<QLineEdit*>();
+        QVERIFY(edit);
+        edit->setText(QStringLiteral("250"));
+        run.engine.registers.values[reg::N] = 48;  // as a take-over from another program leaves it
+        run.dialogs.Refresh();
+        QCOMPARE(edit->text(), QStringLiteral("250"));
+        QTest::keyClick(edit, Qt::Key_Return);
+        QCoreApplication::processEvents();
+        QCOMPARE(run.engine.registers.values[reg::PV], 250.0);
+        QTRY_COMPARE(Cell(view, 1, 1), AsDisplayed(run.engine, 48));
     }
 
     // "Solve" computes the register as its key does, also while a number is being typed.

@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QStyledItemDelegate>
 #include <QTableWidget>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <array>
@@ -64,6 +65,7 @@ public:
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex& index) const override {
         auto* edit = new QLineEdit(parent);
+        ++m_view->m_editors;
         edit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
         WatchNumberField(edit, m_view->m_session.engine(), m_view->KindAt(index.row(), index.column()),
                          m_view->m_problem);
@@ -84,6 +86,7 @@ public:
         m_refusedOnClose = true;
     }
     void destroyEditor(QWidget* editor, const QModelIndex& index) const override {
+        --m_view->m_editors;
         if (!m_refusedOnClose) m_view->m_problem->hide();
         m_refusedOnClose = false;
         QStyledItemDelegate::destroyEditor(editor, index);
@@ -123,6 +126,11 @@ RegisterView::RegisterView(Session& session, RegisterList list, const HelpFuncti
     m_table->verticalHeader()->setVisible(false);
     m_table->horizontalHeader()->setSectionResizeMode(kValueColumn, QHeaderView::Stretch);
     m_table->setItemDelegate(new FieldDelegate(this));
+    connect(m_table->itemDelegate(), &QAbstractItemDelegate::closeEditor, this, [this] {
+        if (!m_refreshAfterEdit) return;
+        m_refreshAfterEdit = false;
+        QTimer::singleShot(0, this, &RegisterView::Refresh);  // once the editor is gone
+    });
     auto* column = new QVBoxLayout(this);
     if (list == RegisterList::CashFlow) {
         m_diagram = new CashFlowDiagramView(this);
@@ -200,6 +208,12 @@ std::vector<RegisterView::Row> RegisterView::Rows() const {
 }
 
 void RegisterView::Refresh() {
+    // A value being typed is not overwritten, also not when another program changed the
+    // calculator meanwhile: the view follows once the edit is over.
+    if (m_editors > 0) {
+        m_refreshAfterEdit = true;
+        return;
+    }
     const Engine& e = m_session.engine();
     m_filling = true;
     m_rows = Rows();

@@ -68,6 +68,8 @@ private:
     QLabel* m_problem;
     std::vector<Row> m_rows;
     bool m_filling = false;
+    bool m_refreshAfterEdit = false;  // a refresh came while a value was being typed
+    int m_editors = 0;                // editors open on the table
 };
 
 // The number of rows "Cash Flow Entries" lists: the leading entries with a group count of at
