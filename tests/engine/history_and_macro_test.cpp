@@ -80,6 +80,7 @@ TEST(Macro, PlaybackInTheRecordedMethodUpToAnErrorOrTheEnd) {
         bool rpn = true;
     } cases[] = {
         {"too short to play", {fid::MacroRecord, fid::MacroStop, 8, fid::MacroPlay}, 8},
+        {"the shortest that plays", {fid::MacroRecord, fid::ChangeSign, fid::MacroStop, 8, fid::MacroPlay}, -8},
         {"recorded in RPN, played in Simple",  // squares X
          {fid::MacroRecord, fid::Enter, fid::Multiply, fid::MacroStop, fid::MethodSimple, 7, fid::MacroPlay}, 49,
          false},

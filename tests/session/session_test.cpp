@@ -211,6 +211,8 @@ TEST(Session, CopyCutAndPaste) {
     f.session.PasteText("x1f");  // the text counts from its first decimal digit
     EXPECT_EQ(f.engine.X(), 31.0);
     EXPECT_EQ(f.engine.XTag(), ValueTag::S32);  // the default format, s32
+    f.session.PasteText("9 apples");  // one digit is a number too
+    EXPECT_EQ(f.engine.X(), 9.0);
 }
 
 // The "Preferences" sheet's OK sends the input method's key exactly once, changed or not: a
