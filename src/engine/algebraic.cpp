@@ -89,7 +89,7 @@ bool HandleOperator(Engine& e, FunctionId op) {
     CalcState& s = e.state;
     const Level level = LevelOf(op);
     if (level == Level::None) {
-        s.engineFlags &= static_cast<u16>(~flags::OperatorLast);
+        ClearBits(s.engineFlags, flags::OperatorLast);
         return false;
     }
     if (e.IsRpn()) {
@@ -107,7 +107,7 @@ bool HandleOperator(Engine& e, FunctionId op) {
             // "2 Enter 3 +" works in the algebraic methods too.
             ApplyBinary(e, op);
             e.PopPending();
-            s.engineFlags &= static_cast<u16>(~flags::OperatorLast);
+            ClearBits(s.engineFlags, flags::OperatorLast);
             return true;
         }
         if (s.engineFlags & flags::OperatorLast) {

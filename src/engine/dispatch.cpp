@@ -37,7 +37,7 @@ bool PrefixPending(const CalcState& s) {
 }
 
 void SetBase(CalcState& s, u16 base) {
-    s.status = static_cast<u16>((s.status & ~status::BaseMask) | base);
+    ReplaceBits(s.status, status::BaseMask, base);
 }
 
 // What a built-in key did, for the steps after it.
@@ -115,7 +115,7 @@ void LastX(Engine& e) {
 }
 
 void SetMethod(Engine& e, u16 methodBits) {
-    e.state.engineFlags = static_cast<u16>((e.state.engineFlags & ~flags::MethodMask) | methodBits);
+    ReplaceBits(e.state.engineFlags, flags::MethodMask, methodBits);
     e.RequestRedraw();
 }
 
@@ -123,7 +123,7 @@ void ClearAll(Engine& e) {
     ClearAllRegisters(e);
     e.ClearStack();
     e.ResetMacro();
-    e.state.status &= static_cast<u16>(~status::Entry);
+    ClearBits(e.state.status, status::Entry);
     e.RequestRedraw();
 }
 
@@ -230,21 +230,21 @@ bool EndKey(Engine& e, FunctionId id, const Outcome& out) {
     }
     if (IsMacroKey(id) || IsShiftKey(id)) return accepted;
     if (out.actedAs <= fid::Backspace && !(s.status & status::KeepEntry) && !out.endsEntry) return accepted;
-    s.status &= static_cast<u16>(~(status::Entry | status::KeepEntry));
+    ClearBits(s.status, status::Entry | status::KeepEntry);
     if (out.actedAs == fid::Hyperbolic) {
         s.status ^= status::Hyperbolic;
         accepted = true;
     } else {
-        s.status &= static_cast<u16>(~status::Hyperbolic);
+        ClearBits(s.status, status::Hyperbolic);
     }
     if (!(s.status & status::KeepLift)) {
         if (s.status & status::NoLift) {
-            s.status &= static_cast<u16>(~(status::NoLift | status::LiftEnabled));
+            ClearBits(s.status, status::NoLift | status::LiftEnabled);
         } else {
             s.status |= status::LiftEnabled;
         }
     }
-    s.status &= static_cast<u16>(~status::KeepLift);
+    ClearBits(s.status, status::KeepLift);
     return accepted;
 }
 
@@ -275,18 +275,18 @@ void ShiftKey(Engine& e, int mode) {
     if (locking && latch && !held && (s.lastKey == fid::Shift || s.lastKey == ownKey)) {
         v |= view::ShiftHeld;  // a second press in a row holds the shift
     } else {
-        v &= static_cast<u16>(~view::ShiftHeld);
+        ClearBits(v, view::ShiftHeld);
         latchWord ^= latchBit;
     }
     if (latchWord & latchBit) {
         if (sticky) v |= view::ShiftHeld;
     } else {
-        v &= static_cast<u16>(~view::ShiftHeld);
+        ClearBits(v, view::ShiftHeld);
     }
     if (mode == 1) {
-        v &= static_cast<u16>(~view::SecondShift);
+        ClearBits(v, view::SecondShift);
     } else {
-        s.status &= static_cast<u16>(~status::FirstShift);
+        ClearBits(s.status, status::FirstShift);
     }
     e.RequestRedraw();
 }
@@ -358,7 +358,7 @@ bool Engine::Dispatch(FunctionId id) {
     for (const Family& family : kFamilies) {
         taken = family.handle(*this, id);
         if (!taken) continue;
-        if (family.endsOperatorRun) s.engineFlags &= static_cast<u16>(~flags::OperatorLast);
+        if (family.endsOperatorRun) ClearBits(s.engineFlags, flags::OperatorLast);
         break;
     }
     if (taken) {
@@ -372,8 +372,8 @@ bool Engine::Dispatch(FunctionId id) {
     bool accepted = EndKey(*this, id, out);
     if (accepted && !(s.viewFlags & view::ShiftHeld) && !shiftKey) {
         if ((s.status & status::FirstShift) || (s.viewFlags & view::SecondShift)) RequestRedraw();
-        s.status &= static_cast<u16>(~status::FirstShift);
-        s.viewFlags &= static_cast<u16>(~view::SecondShift);
+        ClearBits(s.status, status::FirstShift);
+        ClearBits(s.viewFlags, view::SecondShift);
     }
     if ((s.engineFlags & flags::Recording) && !(s.engineFlags & flags::Playing) && !IsMacroKey(id)) {
         if (!MacroRecordKey(*this, id)) accepted = false;

@@ -161,7 +161,7 @@ void Engine::ClearStack() {
     state.lastXAux = kNoAux;
     state.repeatOperator = kNoKey;
     state.parenDepth = 0;
-    state.engineFlags &= static_cast<u16>(~flags::OperatorLast);
+    ClearBits(state.engineFlags, flags::OperatorLast);
     state.engineFlags |= flags::Cleared | flags::Redraw;
 }
 

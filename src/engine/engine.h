@@ -103,12 +103,12 @@ public:
     bool IntegerEntryAllowed() const;
 
     // Ends the number being typed; its value is already in X.
-    void FinishEntry() { state.status &= static_cast<u16>(~(status::Entry | status::Exponent | status::KeepEntry)); }
+    void FinishEntry() { ClearBits(state.status, status::Entry | status::Exponent | status::KeepEntry); }
     void DisableLift() { state.status |= status::NoLift; }
     // Lift on for the next entry, as after a recalled value.
     void EnableLift() {
         state.status |= status::LiftEnabled;
-        state.status &= static_cast<u16>(~(status::NoLift | status::KeepLift));
+        ClearBits(state.status, status::NoLift | status::KeepLift);
     }
     void KeepLiftState() { state.status |= status::KeepLift; }
     void RequestRedraw() { state.engineFlags |= flags::Redraw; }

@@ -71,7 +71,7 @@ void History::Commit(const EngineRecords& live) {
 
 namespace {
 void RestoreShift(EngineRecords& live, bool keepShift) {
-    if (!keepShift) live.state.status &= static_cast<u16>(~0x0040);
+    if (!keepShift) ClearBits(live.state.status, 0x0040);
 }
 }  // namespace
 

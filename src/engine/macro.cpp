@@ -8,7 +8,7 @@ void RunMacro(Engine& e) {
     CalcState& s = e.state;
     if (s.macroPosition > e.macro.macroLength) return;
     s.engineFlags |= flags::Playing | flags::UndoSuspended;
-    s.engineFlags &= static_cast<u16>(~flags::Paused);
+    ClearBits(s.engineFlags, flags::Paused);
     while (!(s.engineFlags & flags::Paused) && s.macroPosition < e.macro.macroLength &&
            s.macroPosition < kMacroSlots) {
         const FunctionId key = e.macro.macroKeys[s.macroPosition++];
@@ -16,7 +16,7 @@ void RunMacro(Engine& e) {
         if (IsErrorValue(e.X())) MacroStop(e);
         if (!(s.engineFlags & flags::Playing)) break;
     }
-    s.engineFlags &= static_cast<u16>(~flags::UndoSuspended);
+    ClearBits(s.engineFlags, flags::UndoSuspended);
 }
 
 }  // namespace
@@ -42,11 +42,11 @@ void MacroStartRecording(Engine& e) {
     u16& f = e.state.engineFlags;
     if (!(f & flags::Recording)) {
         f |= flags::Recording;
-        f &= static_cast<u16>(~(flags::Playing | flags::Paused | flags::UndoSuspended));
+        ClearBits(f, flags::Playing | flags::Paused | flags::UndoSuspended);
         e.macro.macroLength = 0;
         MacroRecordKey(e, e.MethodKey());
     } else if (f & flags::Paused) {
-        f &= static_cast<u16>(~flags::Paused);
+        ClearBits(f, flags::Paused);
     }
 }
 
@@ -55,7 +55,7 @@ void MacroPlay(Engine& e) {
     if (s.engineFlags & flags::Recording) MacroStop(e);
     if (s.engineFlags & flags::Playing) {
         if (s.engineFlags & flags::Paused) {
-            s.engineFlags &= static_cast<u16>(~flags::Paused);
+            ClearBits(s.engineFlags, flags::Paused);
             RunMacro(e);
         }
         return;
@@ -69,7 +69,7 @@ void MacroPlay(Engine& e) {
 void MacroPause(Engine& e) {
     CalcState& s = e.state;
     if (s.engineFlags & flags::Paused) {
-        s.engineFlags &= static_cast<u16>(~flags::Paused);
+        ClearBits(s.engineFlags, flags::Paused);
         if (s.engineFlags & flags::Playing) RunMacro(e);
         return;
     }
@@ -80,14 +80,14 @@ void MacroPause(Engine& e) {
 void MacroStop(Engine& e) {
     CalcState& s = e.state;
     if (s.engineFlags & flags::Recording) {
-        s.engineFlags &= static_cast<u16>(~flags::Recording);  // first, so a full macro cannot recurse
+        ClearBits(s.engineFlags, flags::Recording);  // first, so a full macro cannot recurse
         MacroRecordKey(e, fid::MacroStop);
     }
     if (s.engineFlags & flags::Playing) {
-        s.engineFlags &= static_cast<u16>(~flags::Playing);
+        ClearBits(s.engineFlags, flags::Playing);
         e.Dispatch(s.macroSavedMethod);
     }
-    s.engineFlags &= static_cast<u16>(~(flags::Paused | flags::UndoSuspended));
+    ClearBits(s.engineFlags, flags::Paused | flags::UndoSuspended);
 }
 
 }  // namespace brinto

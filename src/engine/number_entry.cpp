@@ -81,7 +81,7 @@ bool EditEntry(Engine& e, FunctionId id) {
     CalcState& s = e.state;
     if (!(s.status & status::Entry)) {
         if (s.status & status::LiftEnabled) e.Lift();
-        s.status &= static_cast<u16>(~status::Exponent);
+        ClearBits(s.status, status::Exponent);
         s.status |= status::Entry;
         s.entryText[0] = '\0';
         s.entryDigits = 0;
@@ -122,10 +122,10 @@ bool EditEntry(Engine& e, FunctionId id) {
             const char last = s.entryText[n - 1];
             // A hexadecimal letter does not lower the count; this asymmetry is kept on purpose.
             if (last >= '0' && last <= '9' && count > 0) --count;
-            if (last == 'e') s.status &= static_cast<u16>(~status::Exponent);
+            if (last == 'e') ClearBits(s.status, status::Exponent);
             s.entryText[n - 1] = '\0';
         }
-        if (s.entryText[0] == '\0') s.status &= static_cast<u16>(~status::Entry);
+        if (s.entryText[0] == '\0') ClearBits(s.status, status::Entry);
     } else if (id == fid::ChangeSign || id == fid::IntegerNegate) {
         char* place = std::strchr(s.entryText, 'e');
         place = place ? place + 1 : s.entryText;

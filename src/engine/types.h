@@ -24,4 +24,11 @@ inline constexpr u16 kNoAux = 0xFFFF;  // aux code of a value that has none
 inline constexpr double kErrorValue = std::numeric_limits<double>::infinity();
 inline bool IsErrorValue(double v) { return v == kErrorValue; }
 
+// The bit words of the records (status, view and engine flags, preference words) change a few
+// bits at a time: these say which, without the casts that 16-bit arithmetic needs.
+constexpr void SetBits(u16& word, u16 bits) { word = static_cast<u16>(word | bits); }
+constexpr void ClearBits(u16& word, u16 bits) { word = static_cast<u16>(word & ~bits); }
+// The field under `mask` becomes `bits` (already in place within the mask).
+constexpr void ReplaceBits(u16& word, u16 mask, u16 bits) { word = static_cast<u16>((word & ~mask) | (bits & mask)); }
+
 }  // namespace brinto

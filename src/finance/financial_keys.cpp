@@ -97,7 +97,7 @@ void StoreOrSolve(Engine& e, const RegisterKey& key) {
         e.SetX(key.compute(e));
     }
     e.registers.values[key.registerNumber] = e.X();
-    if (key.percent == Percent::IsMargin) e.state.status &= static_cast<u16>(~status::Markup);
+    if (key.percent == Percent::IsMargin) ClearBits(e.state.status, status::Markup);
     if (key.percent == Percent::IsMarkup) e.state.status |= status::Markup;
     e.SetXTag(key.registerNumber == reg::N ? PeriodsLabel(Register(e, reg::PYr)) : key.label);
     if (key.balance == Balance::Restart) e.state.amortBalance = 0.0;

@@ -22,7 +22,7 @@ bool RecallConstant(Engine& e, int index, u16 topRow) {
     // value is kept (the next number typed lifts it), and a preceding operator no longer counts
     // as the last key.
     s.status = static_cast<u16>((s.status | status::LiftEnabled) & ~(status::NoLift | status::KeepLift));
-    s.engineFlags &= static_cast<u16>(~flags::OperatorLast);
+    ClearBits(s.engineFlags, flags::OperatorLast);
     e.dirty.state = true;
     e.RequestRedraw();
     return true;

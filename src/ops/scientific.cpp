@@ -199,7 +199,7 @@ void RoundToDisplayKey(Engine& e) {
     if (FormatDecimal(result, e.prefs.Format(), e.prefs.DigitField(), text) == 0) {
         if (const auto parsed = ParseDecimal(text.View())) result = *parsed;
     }
-    e.state.status &= static_cast<u16>(~status::FullDisplay);
+    ClearBits(e.state.status, status::FullDisplay);
     StoreResult(e, result, tag);
 }
 

@@ -319,7 +319,7 @@ void Session::ChooseInputMethod(InputMethod method) {
     m_engine.prefs.SetMethod(method);
     const u16 bits = method == InputMethod::Rpn ? flags::Rpn : method == InputMethod::Precedence ? flags::Precedence : 0;
     CalcState& s = m_engine.state;
-    s.engineFlags = static_cast<u16>((s.engineFlags & ~flags::MethodMask) | bits);
+    ReplaceBits(s.engineFlags, flags::MethodMask, bits);
     m_engine.dirty.preferences = true;
     m_engine.dirty.state = true;
     m_engine.RequestRedraw();
@@ -332,7 +332,7 @@ void Session::SetPreferences(const Preferences& prefs) {
     m_engine.prefs.words[0] = kPreferencesVersion;
     m_engine.dirty.preferences = true;
     // The full-display toggle is dropped, so the display lays itself out afresh.
-    m_engine.state.status &= static_cast<u16>(~status::FullDisplay);
+    ClearBits(m_engine.state.status, status::FullDisplay);
     m_engine.dirty.state = true;
     Execute(m_engine.prefs.Method() == InputMethod::Rpn          ? fid::MethodRpn
             : m_engine.prefs.Method() == InputMethod::Precedence ? fid::MethodPrecedence
@@ -450,7 +450,7 @@ bool Session::TapViewKey(FunctionId id) {
     const Command command(*this);
     const bool accepted = Tap(id);
     if (id != fid::Shift && id != fid::DisplayToggle && (m_engine.state.status & status::FullDisplay)) {
-        m_engine.state.status &= static_cast<u16>(~status::FullDisplay);
+        ClearBits(m_engine.state.status, status::FullDisplay);
         m_engine.dirty.state = true;
         m_engine.RequestRedraw();
         m_host.Repaint();
@@ -480,7 +480,7 @@ void Session::SelectKeyboard(int index) {
     const Command command(*this);
     if (index < 0 || index >= kKeyboardCount) return;
     CalcState& s = m_engine.state;
-    s.status = static_cast<u16>((s.status & ~status::KeyboardMask) | index);
+    ReplaceBits(s.status, status::KeyboardMask, index);
     m_engine.dirty.state = true;
     m_host.Repaint();
 }
@@ -495,7 +495,7 @@ void Session::Basic() {
 
 void Session::Advanced() {
     const Command command(*this);
-    m_engine.state.viewFlags &= static_cast<u16>(~view::ModeMask);
+    ClearBits(m_engine.state.viewFlags, view::ModeMask);
     m_engine.dirty.state = true;
     m_host.Repaint();
 }

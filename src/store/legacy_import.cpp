@@ -61,7 +61,7 @@ LegacyPreferences UpgradeLegacyPreferencesStep(LegacyPreferences p) {
     switch (p.version) {
         case 1:
             if (p.a & 0x2000) p.c = static_cast<u16>((p.c & 0xFFC7) | 4);
-            p.a &= static_cast<u16>(~0x2000);
+            ClearBits(p.a, 0x2000);
             p.b = static_cast<u16>((p.b & ~0x20) | 0x50);
             break;
         case 2:
@@ -72,7 +72,7 @@ LegacyPreferences UpgradeLegacyPreferencesStep(LegacyPreferences p) {
             break;
         case 3:
             p.c = ShiftTapFields(p.c);
-            p.a &= static_cast<u16>(~0x1000);
+            ClearBits(p.a, 0x1000);
             break;
         case 4: break;
         case 5:

@@ -206,30 +206,23 @@ TEST_F(CliPersistence, AWindowAndBrintoCliRunsAreOneCalculator) {
     EXPECT_TRUE(window.troubles.empty());
 }
 
-// Runs in parallel take turns: two loops of brinto-cli and a window adding to one register lose
-// no update.
-TEST_F(CliPersistence, ParallelRunsAndAWindowLoseNoUpdate) {
+// Runs in parallel take turns: two loops of brinto-cli adding to one register lose no update.
+// (A window typing at the same time would share the number being typed with them: the keys of
+// every program go to one calculator, so only whole runs can be counted on.)
+TEST_F(CliPersistence, ParallelRunsLoseNoUpdate) {
     Cli({"--db", Db(), "rpn", "0", "sto", "0", "5"});
-    constexpr int kRuns = 40;
-    std::string loop = "for i in $(seq " + std::to_string(kRuns) + "); do '" BRINTO_CLI_PATH "' --db '" + Db() +
-                       "' 1 sto + 0 5 >/dev/null || echo failed; done";
+    constexpr int kRuns = 60;
+    const std::string loop = "for i in $(seq " + std::to_string(kRuns) + "); do '" BRINTO_CLI_PATH "' --db '" +
+                             Db() + "' 1 sto + 0 5 >/dev/null || echo failed; done";
     const std::string command = "(" + loop + ") & (" + loop + ") & wait";
     FILE* loops = popen(command.c_str(), "r");
     ASSERT_NE(loops, nullptr);
-    {
-        WindowLike window(Db());
-        for (int i = 0; i < kRuns; ++i) {
-            window.Type("1");
-            window.session.TapKey(fid::Store);
-            window.Type("+05");
-        }
-    }
     std::string printed;
     char buffer[256];
     while (fgets(buffer, sizeof buffer, loops)) printed += buffer;
     EXPECT_EQ(pclose(loops), 0);
     EXPECT_EQ(printed, "");
-    EXPECT_EQ(Cli({"--db", Db(), "rcl", "0", "5"}).out, std::to_string(3 * kRuns) + ".  CFj\n");
+    EXPECT_EQ(Cli({"--db", Db(), "rcl", "0", "5"}).out, std::to_string(2 * kRuns) + ".  CFj\n");
 }
 
 // The tape is one for every program on the file: a window's lines and brinto-cli's follow each
