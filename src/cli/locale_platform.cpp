@@ -1,7 +1,10 @@
 #include "cli/locale_platform.h"
 
+#include <iconv.h>
 #include <langinfo.h>
+#include <locale.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <ctime>
@@ -23,11 +26,34 @@ std::tm ToTm(const DateFields& d) {
     return t;
 }
 
+// The calculator's texts are UTF-8; strftime spells names in the character set of the time
+// locale, which an older setup may have as an 8-bit one ("fr_FR.ISO-8859-1"). Text that cannot
+// be converted stays as it is: the report marks what it cannot read.
+std::string ToUtf8(std::string text) {
+    if (std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; })) return text;
+    const locale_t time = newlocale(LC_CTYPE_MASK, setlocale(LC_TIME, nullptr), locale_t{});
+    if (time == locale_t{}) return text;
+    const std::string codeset = nl_langinfo_l(CODESET, time);
+    freelocale(time);
+    if (codeset == "UTF-8") return text;
+    const iconv_t convert = iconv_open("UTF-8", codeset.c_str());
+    if (convert == reinterpret_cast<iconv_t>(-1)) return text;
+    std::string out(text.size() * 4, '\0');
+    char* in = text.data();
+    char* to = out.data();
+    std::size_t inLeft = text.size(), outLeft = out.size();
+    const bool converted = iconv(convert, &in, &inLeft, &to, &outLeft) != static_cast<std::size_t>(-1);
+    iconv_close(convert);
+    if (!converted) return text;
+    out.resize(out.size() - outLeft);
+    return out;
+}
+
 std::string Format(const char* pattern, const DateFields& d) {
     const std::tm t = ToTm(d);
     char text[128];
     const std::size_t n = std::strftime(text, sizeof text, pattern, &t);
-    return std::string(text, n);
+    return ToUtf8(std::string(text, n));
 }
 
 // Days since 1970-01-01 of a civil date (proleptic Gregorian).
