@@ -9,6 +9,8 @@
 #include <cstdio>
 #include <ctime>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace brinto {
 
@@ -73,9 +75,43 @@ DateFields LocalePlatform::Now() const {
                       local.tm_min, local.tm_sec, local.tm_wday};
 }
 
+// The C library has no long date format of its own, but its date-and-time format (date(1)'s) puts
+// weekday, day, month and year in the locale's order: "%a %-d. %b %H:%M:%S %Z %Y" in German. Its
+// date fields are kept, spelt out, in that order and with their punctuation ("%A %-d. %B %Y"); the
+// month-day-year order keeps the English form with its commas.
+std::string LongDatePattern() {
+    const std::string full = nl_langinfo(_DATE_FMT);
+    // The date fields spelt out, each with the text that follows it in the format.
+    std::vector<std::pair<std::string, std::string>> fields;
+    bool keep = false;  // whether the text read belongs to a date field
+    for (std::size_t i = 0; i < full.size(); ++i) {
+        if (full[i] != '%' || i + 1 == full.size()) {
+            if (keep) fields.back().second += full[i];
+            continue;
+        }
+        if (full[i + 1] == '-' || full[i + 1] == '_' || full[i + 1] == '0') ++i;
+        const char field = full[++i];
+        const std::string spelt = field == 'a' || field == 'A'                   ? "%A"
+                                  : field == 'b' || field == 'B' || field == 'h' ? "%B"
+                                  : field == 'd' || field == 'e'                 ? "%-d"
+                                  : field == 'Y'                                 ? "%Y"
+                                                                                 : "";
+        keep = !spelt.empty();
+        if (keep) fields.push_back({spelt, ""});
+    }
+    std::string pattern;
+    for (std::size_t k = 0; k < fields.size(); ++k) {
+        pattern += fields[k].first;
+        if (k + 1 < fields.size()) pattern += fields[k].second.empty() ? " " : fields[k].second;
+    }
+    const std::size_t month = pattern.find("%B"), day = pattern.find("%-d"), year = pattern.find("%Y");
+    const bool complete = fields.size() == 4 && month != std::string::npos && day != std::string::npos &&
+                          year != std::string::npos;
+    return complete && !(month < day && day < year) ? pattern : "%A, %B %-d, %Y";
+}
+
 std::string LocalePlatform::DateText(const DateFields& date, bool longForm) const {
-    // The C library has no long date format of its own; spell out the weekday and the month.
-    return Format(longForm ? "%A, %B %-d, %Y" : nl_langinfo(D_FMT), date);
+    return Format(longForm ? LongDatePattern().c_str() : nl_langinfo(D_FMT), date);
 }
 
 std::string LocalePlatform::TimeText(const DateFields& time) const {
