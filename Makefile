@@ -23,10 +23,11 @@ build: deps
 	cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
 	cmake --build build -j $(JOBS)
 
-# The programs, the user guide, the man pages, and the desktop entry, metadata and icons.
+# The programs, the user guide, the man pages, brinto-cli's shell completions, and the desktop
+# entry, metadata and icons.
 install: deps
 	cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
-	cmake --build build -j $(JOBS) --target brinto brinto-cli
+	cmake --build build -j $(JOBS) --target brinto brinto-cli completions
 	DESTDIR="$(DESTDIR)" cmake --install build --prefix "$(PREFIX)"
 
 # Removes what the last `make install` wrote (build/install_manifest.txt lists it under the prefix;
