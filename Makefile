@@ -23,10 +23,11 @@ build: deps
 	cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
 	cmake --build build -j $(JOBS)
 
-# The programs, the user guide, the man pages, and the desktop entry, metadata and icons.
+# The programs, the user guide, the man pages, brinto-cli's shell completions, and the desktop
+# entry, metadata and icons.
 install: deps
 	cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
-	cmake --build build -j $(JOBS) --target brinto brinto-cli
+	cmake --build build -j $(JOBS) --target brinto brinto-cli completions
 	DESTDIR="$(DESTDIR)" cmake --install build --prefix "$(PREFIX)"
 
 # Removes what the last `make install` wrote (build/install_manifest.txt lists it under the prefix;
@@ -36,14 +37,15 @@ uninstall:
 	sed 's|^|$(DESTDIR)|' build/install_manifest.txt | xargs -d '\n' rm -fv
 	-rmdir --ignore-fail-on-non-empty "$(DESTDIR)$(PREFIX)/share/doc/brinto"
 
-# A Debian package in build/, its dependencies read off the programs by dpkg-shlibdeps.
+# A Debian package in build/, built by debhelper from debian/ as Debian builds it (shared libraries,
+# compressed manual pages), in a copy of the sources under build/package so the tree stays clean;
+# then checked with lintian.
 package: deps
-	cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
-	cmake --build build -j $(JOBS) --target brinto brinto-cli
-	@# cpack rewrites the install manifest that `make uninstall` reads: the last `make install`'s is kept.
-	cd build && { cp install_manifest.txt install_manifest.keep 2>/dev/null; cpack -G DEB; status=$$?; \
-	  if [ -f install_manifest.keep ]; then mv install_manifest.keep install_manifest.txt; else rm -f install_manifest.txt; fi; \
-	  exit $$status; }
+	rm -rf build/package && mkdir -p build/package/brinto
+	tar -c --exclude=./.git --exclude='./build*' --exclude=./fuzz/out . | tar -x -C build/package/brinto
+	cd build/package/brinto && DEB_BUILD_OPTIONS="parallel=$(JOBS)" dpkg-buildpackage -us -uc -b
+	lintian --fail-on error build/package/brinto_*.deb
+	mv build/package/brinto_*.deb build/
 
 # Only the program and what it links, not the tests.
 run: deps

@@ -2,8 +2,8 @@
 # Installs whatever the build needs and this machine lacks (Debian packages only).
 set -euo pipefail
 packages=(cmake g++ make libgtest-dev libgmock-dev libbenchmark-dev libsqlite3-dev
-  qt6-base-dev libedit-dev xvfb xauth
-  desktop-file-utils appstream dpkg-dev file)
+  qt6-base-dev libedit-dev nlohmann-json3-dev xvfb xauth
+  desktop-file-utils appstream dpkg-dev file debhelper lintian)
 packages+=("$@")
 missing=()
 for p in "${packages[@]}"; do

@@ -12,6 +12,7 @@
 #include <csignal>
 #include <cstdio>
 
+#include "app/desktop_look.h"
 #include "app/main_window.h"
 #include "app/screenshots.h"
 #include "app/window_host.h"
@@ -141,12 +142,9 @@ int RunApp(int argc, char** argv) {
         return exitCode;
     }
 
-    // Pictures are drawn off screen whatever display there is.
-    if (options->screenshots) qputenv("QT_QPA_PLATFORM", "offscreen");
-    // The desktop's platform theme plug-in costs more start-up time than the whole calculator;
-    // the window draws its own faces, so Qt's built-in look is enough.
-    QGuiApplication::setDesktopSettingsAware(false);
+    PrepareDesktopLook(options->screenshots ? LookFor::Screenshots : LookFor::Desktop);
     QApplication app(argc, argv);
+    DesktopLookStarted();
     QApplication::setApplicationName(QStringLiteral("Brinto"));
     QApplication::setApplicationVersion(QStringLiteral(BRINTO_VERSION));
     // Names the installed desktop entry, so that docks and task switchers show its icon and name.

@@ -10,11 +10,13 @@
 #include <sstream>
 #include <span>
 
+#include "cli/completion.h"
 #include "cli/formula.h"
 #include "cli/json_report.h"
 #include "cli/key_listing.h"
 #include "cli/line_source.h"
 #include "cli/locale_platform.h"
+#include "cli/options.h"
 #include "cli/tokens.h"
 #include "display/display_text.h"
 #include "engine/key_table.h"
@@ -72,6 +74,7 @@ struct Options {
     std::vector<std::pair<int, u16>> prefs;
     std::optional<DateFields> now;
     std::optional<u32> seed;
+    std::optional<Shell> completion;
     std::vector<std::string> tokens;
 };
 
@@ -87,62 +90,79 @@ std::optional<unsigned long> ParseUnsigned(std::string_view text, unsigned long 
     return value;
 }
 
-// Reads the options; on a bad one names it in `error`.
+// Reads the value of one option into `o`; on a bad value names it in `error`.
+bool TakeValue(Options& o, std::string_view name, const std::string& v, std::string& error) {
+    if (name == "--db") {
+        o.db = v;
+    } else if (name == "--import-legacy") {
+        o.importLegacy = v;
+    } else if (name == "--pref") {
+        const std::size_t eq = v.find('=');
+        const auto word = eq == std::string::npos ? std::nullopt : ParseUnsigned(std::string_view(v).substr(0, eq), 6);
+        const auto value = eq == std::string::npos ? std::nullopt : ParseUnsigned(std::string_view(v).substr(eq + 1), 0xFFFF);
+        if (!word || !value) {
+            error = "bad --pref value: " + v;
+            return false;
+        }
+        o.prefs.emplace_back(static_cast<int>(*word), static_cast<u16>(*value));
+    } else if (name == "--now") {
+        o.now = ParseDateTime(v);
+        if (!o.now) error = "bad --now value (want \"YYYY-MM-DD HH:MM:SS\"): " + v;
+    } else if (name == "--seed") {
+        const auto seed = ParseUnsigned(v, 0xFFFFFFFFul);
+        if (seed) o.seed = static_cast<u32>(*seed);
+        if (!seed) error = "bad --seed value: " + v;
+    } else if (name == "--completion") {
+        o.completion = ShellByName(v);
+        if (!o.completion) error = "bad --completion value (want bash, zsh or fish): " + v;
+    }
+    return error.empty();
+}
+
+bool& FlagOf(Options& o, std::string_view name) {
+    if (name == "--json") return o.json;
+    if (name == "--memory") return o.memory;
+    if (name == "--list-keys") return o.listKeys;
+    if (name == "--version") return o.version;
+    if (name == "--schedule") return o.schedule;
+    if (name == "--tape") return o.tape;
+    if (name == "--clear-tape") return o.clearTape;
+    return o.help;
+}
+
+// Reads the options; on a bad one names it in `error`. An option's value is the next argument or
+// follows an "=" ("--db=PATH"); after "--" every argument is a token, even one that starts "--".
 std::optional<Options> ParseOptions(const std::vector<std::string>& args, std::string& error) {
     Options o;
+    bool tokensOnly = false;
     for (std::size_t i = 0; i < args.size(); ++i) {
         const std::string& a = args[i];
-        const bool hasValue = i + 1 < args.size();
-        if (a == "--json") {
-            o.json = true;
-        } else if (a == "--memory") {
-            o.memory = true;
-        } else if (a == "--list-keys") {
-            o.listKeys = true;
-        } else if (a == "--help" || a == "-h") {
-            o.help = true;
-        } else if (a == "--version") {
-            o.version = true;
-        } else if (a == "--schedule") {
-            o.schedule = true;
-        } else if (a == "--tape") {
-            o.tape = true;
-        } else if (a == "--clear-tape") {
-            o.clearTape = true;
-        } else if (a == "--db" && hasValue) {
-            o.db = args[++i];
-        } else if (a == "--import-legacy" && hasValue) {
-            o.importLegacy = args[++i];
-        } else if (a == "--pref" && hasValue) {
-            const std::string& v = args[++i];
-            const std::size_t eq = v.find('=');
-            const auto word = eq == std::string::npos ? std::nullopt : ParseUnsigned(std::string_view(v).substr(0, eq), 6);
-            const auto value = eq == std::string::npos ? std::nullopt : ParseUnsigned(std::string_view(v).substr(eq + 1), 0xFFFF);
-            if (!word || !value) {
-                error = "bad --pref value: " + v;
-                return std::nullopt;
-            }
-            o.prefs.emplace_back(static_cast<int>(*word), static_cast<u16>(*value));
-        } else if (a == "--now" && hasValue) {
-            o.now = ParseDateTime(args[++i]);
-            if (!o.now) {
-                error = "bad --now value (want \"YYYY-MM-DD HH:MM:SS\"): " + args[i];
-                return std::nullopt;
-            }
-        } else if (a == "--seed" && hasValue) {
-            const auto seed = ParseUnsigned(args[++i], 0xFFFFFFFFul);
-            if (!seed) {
-                error = "bad --seed value: " + args[i];
-                return std::nullopt;
-            }
-            o.seed = static_cast<u32>(*seed);
-        } else if (a.size() > 2 && a[0] == '-' && a[1] == '-') {
-            const bool needsValue =
-                a == "--db" || a == "--import-legacy" || a == "--pref" || a == "--now" || a == "--seed";
-            error = needsValue ? "option needs a value: " + a : "unknown option: " + a;
-            return std::nullopt;
-        } else {
+        if (tokensOnly || !(a.starts_with("--") || a == "-h")) {
             o.tokens.push_back(a);
+            continue;
+        }
+        if (a == "--") {
+            tokensOnly = true;
+            continue;
+        }
+        const std::size_t eq = a.find('=');
+        const std::string_view name = std::string_view(a).substr(0, eq);
+        const CliOption* option = FindOption(name);
+        if (!option) {
+            error = "unknown option: " + std::string(name);
+            return std::nullopt;
+        }
+        if (option->value.empty()) {
+            if (eq != std::string::npos) {
+                error = "option takes no value: " + a;
+                return std::nullopt;
+            }
+            FlagOf(o, option->name) = true;
+        } else if (eq == std::string::npos && i + 1 == args.size()) {
+            error = "option needs a value: " + a;
+            return std::nullopt;
+        } else if (!TakeValue(o, option->name, eq == std::string::npos ? args[++i] : a.substr(eq + 1), error)) {
+            return std::nullopt;
         }
     }
     return o;
@@ -150,27 +170,15 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& args, std::s
 
 // What --help prints; docs/man/brinto-cli.1 says the same at more length.
 constexpr std::string_view kUsage =
-    "Usage: brinto-cli [OPTIONS] [TOKEN ...]\n"
+    "Usage: brinto-cli [OPTIONS] [--] [TOKEN ...]\n"
     "Runs the tokens left to right and prints X as the display shows it. With no tokens, reads them\n"
     "from standard input, or is an interactive calculator at a terminal (\"help\" there says more).\n"
     "The tokens are keys pressed on the calculator the last run left (its input method, keyboard\n"
     "and stack), so a command can answer differently from one run to the next: scripts that want a\n"
     "calculator of their own pass --memory.\n"
     "\n"
-    "Options:\n"
-    "  --json                 after the last token, print the whole state as one JSON object\n"
-    "  --memory               start from the defaults of a first run; read and write no database\n"
-    "  --db PATH              use the database file at PATH instead of the default one\n"
-    "  --import-legacy FILE   first bring in the handheld release's settings from a registry export\n"
-    "  --pref W=V             set preference word W (0..6) to V (decimal or 0x hex) for this run\n"
-    "  --now \"YYYY-MM-DD HH:MM:SS\"  the local date and time that the \"now\" key reads\n"
-    "  --seed N               the stored random seed before the first token\n"
-    "  --schedule             after the last token, print the amortization schedule as CSV\n"
-    "  --tape                 after the last token, print the history tape (with --json, as JSON)\n"
-    "  --clear-tape           clear the history tape before the first token\n"
-    "  --list-keys            list every key by keyboard (name, code, legend, meaning) and exit\n"
-    "  -h, --help             print this text and exit\n"
-    "  --version              print the version and exit\n"
+    "Options (a value also as --OPTION=VALUE; after \"--\" every argument is a token):\n";
+constexpr std::string_view kUsageTokens =
     "\n"
     "Tokens:\n"
     "  #N                     a tap of the key with code N (0..65535), exactly that key\n"
@@ -191,7 +199,8 @@ constexpr std::string_view kUsageMiddle =
     "  paste:TEXT             paste TEXT\n"
     "  basic  advanced        the view commands\n"
     "  const:N                recall physical constant N (see --list-keys)\n"
-    "At the interactive prompt also: help, help NAME, status, and quit (or Ctrl-D).\n"
+    "At the interactive prompt also: help, help NAME, status, and quit (or Ctrl-D); Ctrl-C abandons\n"
+    "the line being typed.\n"
     "\n"
     "Database: $XDG_DATA_HOME/brinto/brinto.db, by default ~/.local/share/brinto/brinto.db,\n"
     "shared with the desktop program; here ";
@@ -204,7 +213,8 @@ constexpr std::string_view kUsageEnd =
     "Exit status:\n"
     "  0  the tokens ran; also when a number had more digits than entry takes (standard error\n"
     "     says how many it took, and X holds those) or a key is left waiting for its digits\n"
-    "  1  the calculator could not be loaded, saved or imported (standard error says why)\n"
+    "  1  the calculator could not be loaded, saved or imported, or the output could not be\n"
+    "     written (standard error says why)\n"
     "  2  an unknown option or token, a malformed formula (the error gives the character), two\n"
     "     numbers in a row in Simple or Precedence, a \"to\" that converts nothing: nothing is saved\n"
     "\n"
@@ -216,9 +226,19 @@ constexpr std::string_view kUsageEnd =
     "  echo 'rpn 100000 pv 6 i/yr 360 n 0 fv pmt' | brinto-cli --memory\n"
     "                                                   prints -599.550525153  PMT\n";
 
-// The keyboards are listed from their own table, so a renamed one cannot go stale here.
+// The options and the keyboards are listed from their own tables, so a renamed one cannot go
+// stale here.
 void PrintUsage(std::ostream& out) {
     out << kUsage;
+    for (const CliOption& option : kCliOptions) {
+        std::string left = "  ";
+        if (!option.shortName.empty()) left += std::string(option.shortName) + ", ";
+        left += option.name;
+        if (!option.value.empty()) left += " " + std::string(option.value);
+        left.resize(std::max<std::size_t>(left.size() + 2, 25), ' ');
+        out << left << option.help << '\n';
+    }
+    out << kUsageTokens;
     for (int k = 0; k < kKeyboardCount; ++k) {
         const std::string_view gap = k == 0 ? " " : k % 3 == 0 ? ",\n                         " : ", ";
         out << gap << k << ' ' << kKeyboardNames[k];
@@ -685,6 +705,10 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
     }
     if (options->listKeys) {
         ListKeys(out);
+        return 0;
+    }
+    if (options->completion) {
+        WriteCompletion(*options->completion, out);
         return 0;
     }
     const bool interactive = options->tokens.empty() && inIsTerminal && !options->json && !options->schedule &&

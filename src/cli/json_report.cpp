@@ -2,7 +2,8 @@
 
 #include <charconv>
 #include <cmath>
-#include <cstdio>
+
+#include <nlohmann/json.hpp>
 
 #include "display/display_text.h"
 
@@ -10,46 +11,23 @@ namespace brinto {
 
 namespace {
 
-void AppendEscaped(std::string& out, std::string_view text) {
-    out += '"';
-    for (const char c : text) {
-        const unsigned char u = static_cast<unsigned char>(c);
-        if (c == '"' || c == '\\') {
-            out += '\\';
-            out += c;
-        } else if (u < 0x20 || u >= 0x7F) {
-            // Control characters, and bytes of the locale's 8-bit text, as code points.
-            char escaped[8];
-            std::snprintf(escaped, sizeof escaped, "\\u%04x", u);
-            out += escaped;
-        } else {
-            out += c;
-        }
-    }
-    out += '"';
+// Members stay in the order written, as the report has always listed them.
+using Json = nlohmann::ordered_json;
+
+// Values as text: JSON has no infinity or NaN, and the text keeps every bit of a double.
+Json Entry(double value, ValueTag tag, int aux) {
+    return {{"value", NumberText(value)}, {"tag", ToNumber(tag)}, {"aux", aux}};
 }
-
-void AppendNumber(std::string& out, double v) { AppendEscaped(out, NumberText(v)); }
-
-void AppendInt(std::string& out, long long v) { out += std::to_string(v); }
 
 template <typename T, typename F>
-void AppendArray(std::string& out, const T* items, int count, F each) {
-    out += '[';
-    for (int i = 0; i < count; ++i) {
-        if (i) out += ',';
-        each(out, items[i]);
-    }
-    out += ']';
+Json Array(const T* items, int count, F each) {
+    Json out = Json::array();
+    for (int i = 0; i < count; ++i) out.push_back(each(items[i]));
+    return out;
 }
 
-void AppendEntry(std::string& out, double value, ValueTag tag, int aux) {
-    out += "{\"value\":";
-    AppendNumber(out, value);
-    out += ",\"tag\":";
-    AppendInt(out, ToNumber(tag));
-    out += ",\"aux\":";
-    AppendInt(out, aux);
+Json Keys(const FunctionId* ids, int count) {
+    return Array(ids, count, [](FunctionId id) { return ToNumber(id); });
 }
 
 }  // namespace
@@ -63,107 +41,60 @@ std::string NumberText(double v) {
 }
 
 std::string TapeJson(const std::vector<TapeLine>& lines) {
-    std::string out = "[";
+    Json out = Json::array();
     for (const TapeLine& line : lines) {
-        if (out.size() > 1) out += ',';
-        out += "{\"time\":";
-        AppendEscaped(out, line.time);
-        out += ",\"text\":";
-        AppendEscaped(out, line.keys);
-        out += ",\"result\":";
-        AppendEscaped(out, line.result);
-        out += ",\"label\":";
-        AppendEscaped(out, line.label);
-        out += ",\"value\":";
-        AppendNumber(out, line.value);
-        out += '}';
+        out.push_back({{"time", line.time},
+                       {"text", line.keys},
+                       {"result", line.result},
+                       {"label", line.label},
+                       {"value", NumberText(line.value)}});
     }
-    return out + "]\n";
+    return out.dump(-1, ' ', false, Json::error_handler_t::replace) + '\n';
 }
 
 std::string JsonReport(const Session& session, const Report& report) {
     const Engine& e = session.engine();
     const CalcState& s = e.state;
-    std::string out;
-    out.reserve(16384);
-    out += "{\"stack\":[";
+    Json stack = Json::array();
     for (int k = 0; k < kStackLevels; ++k) {
-        if (k) out += ',';
-        AppendEntry(out, s.stack[k], s.tags[k], s.aux[k]);
+        Json level = Entry(s.stack[k], s.tags[k], s.aux[k]);
         const DisplayLine line = DisplayLevel(e, k);
-        out += ",\"text\":";
-        AppendEscaped(out, line.text);
-        out += ",\"label\":";
-        AppendEscaped(out, line.label);
-        out += '}';
+        level["text"] = line.text;
+        level["label"] = line.label;
+        stack.push_back(std::move(level));
     }
-    out += "],\"depth\":";
-    AppendInt(out, e.StackDepth());
-    out += ",\"lastX\":";
-    AppendEntry(out, s.lastX, s.lastXTag, s.lastXAux);
-    out += "},\"entry\":";
-    if (s.status & status::Entry) {
-        AppendEscaped(out, s.entryText);
-    } else {
-        out += "null";
-    }
-    out += ",\"status\":";
-    AppendInt(out, s.status);
-    out += ",\"viewFlags\":";
-    AppendInt(out, s.viewFlags);
-    out += ",\"engineFlags\":";
-    AppendInt(out, s.engineFlags);
-    out += ",\"pending\":";
-    AppendArray(out, s.pendingOps, s.pendingCount > kMaxPending ? kMaxPending : s.pendingCount,
-                [](std::string& o, FunctionId v) { AppendInt(o, ToNumber(v)); });
-    out += ",\"repeatOperator\":";
-    AppendInt(out, ToNumber(s.repeatOperator));
-    out += ",\"parenDepth\":";
-    AppendInt(out, s.parenDepth);
-    out += ",\"registers\":";
-    AppendArray(out, e.registers.values, kRegisterCount, AppendNumber);
-    out += ",\"cashFlowCount\":";
-    AppendInt(out, e.registers.cashFlowCount);
-    out += ",\"groupCounts\":";
-    AppendArray(out, e.registers.aux, kUserRegisters,
-                [](std::string& o, u32 v) { AppendInt(o, static_cast<i32>(v)); });
-    out += ",\"amort\":{\"interest\":";
-    AppendNumber(out, s.amortInterest);
-    out += ",\"principal\":";
-    AppendNumber(out, s.amortPrincipal);
-    out += ",\"balance\":";
-    AppendNumber(out, s.amortBalance);
-    out += ",\"start\":";
-    AppendInt(out, s.amortStart);
-    out += ",\"end\":";
-    AppendInt(out, s.amortEnd);
-    out += ",\"step\":";
-    AppendInt(out, s.amortStep);
-    out += "},\"prefs\":";
-    AppendArray(out, e.prefs.words.data(), 7, [](std::string& o, u16 v) { AppendInt(o, v); });
-    out += ",\"macro\":";
-    AppendArray(out, e.macro.macroKeys, e.macro.macroLength > kMacroSlots ? kMacroSlots : e.macro.macroLength,
-                [](std::string& o, FunctionId v) { AppendInt(o, ToNumber(v)); });
-    out += ",\"messages\":";
-    AppendArray(out, report.messages.data(), static_cast<int>(report.messages.size()),
-                [](std::string& o, const ReportMessage& m) {
-                    o += "{\"caption\":";
-                    AppendEscaped(o, m.caption);
-                    o += ",\"text\":";
-                    AppendEscaped(o, m.text);
-                    o += '}';
-                });
-    out += ",\"rejected\":";
-    AppendArray(out, report.rejected.data(), static_cast<int>(report.rejected.size()),
-                [](std::string& o, int v) { AppendInt(o, v); });
-    out += ",\"clipboard\":";
-    if (report.clipboard) {
-        AppendEscaped(out, *report.clipboard);
-    } else {
-        out += "null";
-    }
-    out += "}\n";
-    return out;
+    Json messages = Json::array();
+    for (const ReportMessage& m : report.messages) messages.push_back({{"caption", m.caption}, {"text", m.text}});
+    const Json out = {
+        {"stack", std::move(stack)},
+        {"depth", e.StackDepth()},
+        {"lastX", Entry(s.lastX, s.lastXTag, s.lastXAux)},
+        {"entry", (s.status & status::Entry) ? Json(std::string(s.entryText)) : Json()},
+        {"status", s.status},
+        {"viewFlags", s.viewFlags},
+        {"engineFlags", s.engineFlags},
+        {"pending", Keys(s.pendingOps, std::min<int>(s.pendingCount, kMaxPending))},
+        {"repeatOperator", ToNumber(s.repeatOperator)},
+        {"parenDepth", s.parenDepth},
+        {"registers", Array(e.registers.values, kRegisterCount, NumberText)},
+        {"cashFlowCount", e.registers.cashFlowCount},
+        {"groupCounts", Array(e.registers.aux, kUserRegisters, [](u32 v) { return static_cast<i32>(v); })},
+        {"amort",
+         {{"interest", NumberText(s.amortInterest)},
+          {"principal", NumberText(s.amortPrincipal)},
+          {"balance", NumberText(s.amortBalance)},
+          {"start", s.amortStart},
+          {"end", s.amortEnd},
+          {"step", s.amortStep}}},
+        {"prefs", e.prefs.words},
+        {"macro", Keys(e.macro.macroKeys, std::min<int>(e.macro.macroLength, kMacroSlots))},
+        {"messages", std::move(messages)},
+        {"rejected", report.rejected},
+        {"clipboard", report.clipboard ? Json(*report.clipboard) : Json()},
+    };
+    // Text that is not UTF-8 (a pasted byte, a date in an 8-bit locale's spelling) shows U+FFFD
+    // where it cannot be read, so the report is valid JSON whatever the calculator holds.
+    return out.dump(-1, ' ', false, Json::error_handler_t::replace) + '\n';
 }
 
 }  // namespace brinto

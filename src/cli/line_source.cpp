@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <istream>
@@ -20,14 +21,32 @@ std::optional<std::string> StreamLines::ReadLine(std::string_view prompt) {
 
 namespace {
 
+// Ctrl-C at the prompt abandons the line being typed, as in a shell; it interrupts the read.
+volatile std::sig_atomic_t g_interrupted = 0;
+
+void OnInterrupt(int) { g_interrupted = 1; }
+
 // The line editor keeps its state in the library; there is one terminal, so one source at a time.
 class EditLines : public LineSource {
 public:
-    EditLines() { using_history(); }
+    EditLines() {
+        using_history();
+        struct sigaction action {};
+        action.sa_handler = OnInterrupt;
+        sigemptyset(&action.sa_mask);
+        sigaction(SIGINT, &action, nullptr);
+    }
 
     std::optional<std::string> ReadLine(std::string_view prompt) override {
         const std::string text(prompt);
-        char* line = readline(text.c_str());
+        char* line = nullptr;
+        while (true) {
+            g_interrupted = 0;
+            line = readline(text.c_str());
+            if (line || !g_interrupted) break;
+            std::fputs("\n", stdout);
+            std::fflush(stdout);
+        }
         if (!line) return std::nullopt;
         std::string result(line);
         std::free(line);

@@ -1,11 +1,16 @@
 #include "cli/locale_platform.h"
 
+#include <iconv.h>
 #include <langinfo.h>
+#include <locale.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <ctime>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace brinto {
 
@@ -23,11 +28,34 @@ std::tm ToTm(const DateFields& d) {
     return t;
 }
 
+// The calculator's texts are UTF-8; strftime spells names in the character set of the time
+// locale, which an older setup may have as an 8-bit one ("fr_FR.ISO-8859-1"). Text that cannot
+// be converted stays as it is: the report marks what it cannot read.
+std::string ToUtf8(std::string text) {
+    if (std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; })) return text;
+    const locale_t time = newlocale(LC_CTYPE_MASK, setlocale(LC_TIME, nullptr), locale_t{});
+    if (time == locale_t{}) return text;
+    const std::string codeset = nl_langinfo_l(CODESET, time);
+    freelocale(time);
+    if (codeset == "UTF-8") return text;
+    const iconv_t convert = iconv_open("UTF-8", codeset.c_str());
+    if (convert == reinterpret_cast<iconv_t>(-1)) return text;
+    std::string out(text.size() * 4, '\0');
+    char* in = text.data();
+    char* to = out.data();
+    std::size_t inLeft = text.size(), outLeft = out.size();
+    const bool converted = iconv(convert, &in, &inLeft, &to, &outLeft) != static_cast<std::size_t>(-1);
+    iconv_close(convert);
+    if (!converted) return text;
+    out.resize(out.size() - outLeft);
+    return out;
+}
+
 std::string Format(const char* pattern, const DateFields& d) {
     const std::tm t = ToTm(d);
     char text[128];
     const std::size_t n = std::strftime(text, sizeof text, pattern, &t);
-    return std::string(text, n);
+    return ToUtf8(std::string(text, n));
 }
 
 // Days since 1970-01-01 of a civil date (proleptic Gregorian).
@@ -47,9 +75,43 @@ DateFields LocalePlatform::Now() const {
                       local.tm_min, local.tm_sec, local.tm_wday};
 }
 
+// The C library has no long date format of its own, but its date-and-time format (date(1)'s) puts
+// weekday, day, month and year in the locale's order: "%a %-d. %b %H:%M:%S %Z %Y" in German. Its
+// date fields are kept, spelt out, in that order and with their punctuation ("%A %-d. %B %Y"); the
+// month-day-year order keeps the English form with its commas.
+std::string LongDatePattern() {
+    const std::string full = nl_langinfo(_DATE_FMT);
+    // The date fields spelt out, each with the text that follows it in the format.
+    std::vector<std::pair<std::string, std::string>> fields;
+    bool keep = false;  // whether the text read belongs to a date field
+    for (std::size_t i = 0; i < full.size(); ++i) {
+        if (full[i] != '%' || i + 1 == full.size()) {
+            if (keep) fields.back().second += full[i];
+            continue;
+        }
+        if (full[i + 1] == '-' || full[i + 1] == '_' || full[i + 1] == '0') ++i;
+        const char field = full[++i];
+        const std::string spelt = field == 'a' || field == 'A'                   ? "%A"
+                                  : field == 'b' || field == 'B' || field == 'h' ? "%B"
+                                  : field == 'd' || field == 'e'                 ? "%-d"
+                                  : field == 'Y'                                 ? "%Y"
+                                                                                 : "";
+        keep = !spelt.empty();
+        if (keep) fields.push_back({spelt, ""});
+    }
+    std::string pattern;
+    for (std::size_t k = 0; k < fields.size(); ++k) {
+        pattern += fields[k].first;
+        if (k + 1 < fields.size()) pattern += fields[k].second.empty() ? " " : fields[k].second;
+    }
+    const std::size_t month = pattern.find("%B"), day = pattern.find("%-d"), year = pattern.find("%Y");
+    const bool complete = fields.size() == 4 && month != std::string::npos && day != std::string::npos &&
+                          year != std::string::npos;
+    return complete && !(month < day && day < year) ? pattern : "%A, %B %-d, %Y";
+}
+
 std::string LocalePlatform::DateText(const DateFields& date, bool longForm) const {
-    // The C library has no long date format of its own; spell out the weekday and the month.
-    return Format(longForm ? "%A, %B %-d, %Y" : nl_langinfo(D_FMT), date);
+    return Format(longForm ? LongDatePattern().c_str() : nl_langinfo(D_FMT), date);
 }
 
 std::string LocalePlatform::TimeText(const DateFields& time) const {

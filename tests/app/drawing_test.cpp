@@ -1,9 +1,13 @@
 // What the window draws: every theme gives a non-blank, legible face at a small and a large size,
-// and each appearance preference changes the drawing. (`brinto --screenshot DIR` draws every window
+// each appearance preference changes the drawing, and the desktop's palette reaches the menus and
+// dialogs but not the face. (`brinto --screenshot DIR` draws every window
 // for looking at.)
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QImage>
+#include <QMenuBar>
+#include <QPalette>
 #include <QSet>
 #include <functional>
 
@@ -64,6 +68,45 @@ TEST(Drawing, EveryThemeDrawsLegibleKeysAndDisplayAtTwoSizes) {
             EXPECT_GT(ink, 150 * size.width() / 240) << theme << ' ' << size.width();
         }
     }
+}
+
+// The mean lightness (0..255) of `area` of `image`.
+int Lightness(const QImage& image, const QRect& area) {
+    long long sum = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y) {
+        for (int x = area.left(); x <= area.right(); ++x) sum += image.pixelColor(x, y).lightness();
+    }
+    return static_cast<int>(sum / std::max(1LL, static_cast<long long>(area.width()) * area.height()));
+}
+
+// A dark desktop (its platform theme sets the application's palette) darkens the menu bar, the tool
+// bar and the dialogs; the calculator's face keeps its own theme, light here.
+TEST(Drawing, TheDesktopsPaletteReachesMenusAndDialogsNotTheFace) {
+    const QPalette desktop = QApplication::palette();
+    QPalette dark(QColor(0x30, 0x30, 0x30), QColor(0x24, 0x24, 0x24));
+    dark.setColor(QPalette::WindowText, Qt::white);
+    dark.setColor(QPalette::Text, Qt::white);
+    dark.setColor(QPalette::ButtonText, Qt::white);
+    dark.setColor(QPalette::Base, QColor(0x1c, 0x1c, 0x1c));
+    QApplication::setPalette(dark);
+    {
+        Desk desk;
+        const QImage image = Grab(desk);
+        const QRect menus(QPoint(0, 0), desk.window.menuBar()->size());
+        EXPECT_LT(Lightness(image, menus), 100);
+        const QRect display = InWindow(desk, desk.window.display(), desk.window.display()->rect());
+        EXPECT_GT(Lightness(image, display), 160);  // the default theme's light display
+        desk.window.OpenView(View::Preferences);
+        int dialogs = 0;
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            if (widget == &desk.window || !widget->isVisible()) continue;
+            const QImage dialog = widget->grab().toImage();
+            EXPECT_LT(Lightness(dialog, dialog.rect()), 100) << widget->windowTitle().toStdString();
+            ++dialogs;
+        }
+        EXPECT_EQ(dialogs, 1);
+    }
+    QApplication::setPalette(desktop);
 }
 
 TEST(Drawing, EachAppearanceChoiceChangesTheDrawing) {

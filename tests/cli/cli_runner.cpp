@@ -21,7 +21,8 @@ std::string ReadAll(int fd) {
 
 }  // namespace
 
-RunResult RunCli(const std::vector<std::string>& args, const std::string& input) {
+RunResult RunCli(const std::vector<std::string>& args, const std::string& input,
+                 const std::vector<std::string>& environment) {
     int in[2], out[2], err[2];
     if (pipe(in) || pipe(out) || pipe(err)) return {};
     const pid_t pid = fork();
@@ -29,6 +30,7 @@ RunResult RunCli(const std::vector<std::string>& args, const std::string& input)
         dup2(in[0], 0), dup2(out[1], 1), dup2(err[1], 2);
         for (int fd : {in[0], in[1], out[0], out[1], err[0], err[1]}) close(fd);
         setenv("LC_ALL", "C", 1);  // dates in the transcripts are written the C library's way
+        for (const std::string& setting : environment) putenv(const_cast<char*>(setting.c_str()));
         std::vector<char*> argv;
         argv.push_back(const_cast<char*>(BRINTO_CLI_PATH));
         for (const std::string& a : args) argv.push_back(const_cast<char*>(a.c_str()));

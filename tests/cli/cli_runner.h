@@ -14,7 +14,9 @@ struct RunResult {
     std::string err;
 };
 
-RunResult RunCli(const std::vector<std::string>& args, const std::string& input = "");
+// In the C locale unless `environment` says otherwise ("LC_ALL=fr_FR.UTF-8").
+RunResult RunCli(const std::vector<std::string>& args, const std::string& input = "",
+                 const std::vector<std::string>& environment = {});
 
 // A parsed JSON value; numbers are kept as their text.
 struct Json {

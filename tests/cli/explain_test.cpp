@@ -118,8 +118,8 @@ TEST(Cli, InteractiveCalculatorExplainsItself) {
               "token 3 (column 10): entry took 12 of the 15 digits of 123456789012345\n");
 }
 
-// brinto-cli at a real terminal: a typed line runs, Ctrl-D leaves on a fresh line, and the next
-// session recalls the line with the Up arrow from the history beside the database.
+// brinto-cli at a real terminal: a typed line runs, Ctrl-C abandons one, Ctrl-D leaves on a fresh line, and
+// the next session recalls the line with the Up arrow from the history beside the database.
 class Terminal {
 public:
     explicit Terminal(const std::string& db) {
@@ -187,6 +187,11 @@ TEST(Cli, TerminalSessionEditsAndRemembersLines) {
         t.Type("rpn 7 +\r");
         ASSERT_TRUE(t.Await("X: 7.")) << t.Output();
         ASSERT_TRUE(t.Await("> "));
+        t.Type("9 9 +\x03");  // Ctrl-C: nothing of the line runs, and the prompt comes back
+        ASSERT_TRUE(t.Await("> ")) << t.Output();
+        t.Type("2 +\r");
+        ASSERT_TRUE(t.Await("X: 9.")) << t.Output();
+        ASSERT_TRUE(t.Await("> "));
         t.Type("\x04");
         EXPECT_EQ(t.Exit(), 0) << t.Output();
         EXPECT_TRUE(t.Output().ends_with("\r\n")) << t.Output();  // the shell's prompt starts on a line of its own
@@ -198,10 +203,10 @@ TEST(Cli, TerminalSessionEditsAndRemembersLines) {
     EXPECT_TRUE(S_ISREG(info.st_mode) && (info.st_mode & 0777) == 0600) << std::oct << info.st_mode;
     {
         Terminal t(db);
-        ASSERT_TRUE(t.Await("X: 7.")) << t.Output();  // the saved calculator
+        ASSERT_TRUE(t.Await("X: 9.")) << t.Output();  // the saved calculator
         ASSERT_TRUE(t.Await("> "));
-        t.Type("\x1b[A\r");  // Up: "rpn 7 +" again, so 7 + 7
-        EXPECT_TRUE(t.Await("X: 14.")) << t.Output();
+        t.Type("\x1b[A\x1b[A\r");  // Up twice, past "2 +": "rpn 7 +" again, so 9 + 7
+        EXPECT_TRUE(t.Await("X: 16.")) << t.Output();
         ASSERT_TRUE(t.Await("> "));
         t.Type("quit\r");
         EXPECT_EQ(t.Exit(), 0) << t.Output();

@@ -8,11 +8,15 @@
 //   PATH = VALUE       a field of the JSON report ("stack.0.text = 5."), arrays as [1,2]
 #include <gtest/gtest.h>
 
+#include <sys/wait.h>
+
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 
 #include "cli_runner.h"
+#include "temp_folder.h"
 
 namespace brinto::test {
 namespace {
@@ -160,6 +164,10 @@ TEST(Cli, BadInputIsAOneLineErrorWithStatusTwo) {
         {{"--now", "2023-02-29 10:00:00"}, "", "bad --now value"},
         {{"--now", "2024-02-29 10:00:00"}, "", ""},
         {{"--db"}, "", "option needs a value: --db"},
+        {{"--json=yes"}, "", "option takes no value: --json=yes"},
+        {{"--seed=x"}, "", "bad --seed value: x"},
+        {{"--completion=tcsh"}, "", "(want bash, zsh or fish)"},
+        {{"--", "--json"}, "", "token 1: --json"},  // after "--", a token (here a formula)
     };
     for (const Bad& b : bad) {
         std::vector<std::string> args = {"--memory"};
@@ -174,6 +182,18 @@ TEST(Cli, BadInputIsAOneLineErrorWithStatusTwo) {
         EXPECT_TRUE(r.out.empty());
         EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 1) << r.err;
         EXPECT_NE(r.err.find(b.says), std::string::npos) << r.err;
+    }
+}
+
+// An answer that cannot be written (here to a full disk) is a failed run, whatever printed it.
+TEST(Cli, OutputThatCannotBeWrittenFailsTheRun) {
+    TempFolder folder;
+    for (const std::string args : {"--help", "--memory --list-keys", "--memory --json 2 enter 3 +", "--memory 5"}) {
+        SCOPED_TRACE(args);
+        const std::string err = (folder.path() / "err").string();
+        const int status = std::system(("'" BRINTO_CLI_PATH "' " + args + " >/dev/full 2>'" + err + "'").c_str());
+        EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 1) << status;
+        EXPECT_EQ(ReadFile(err), "brinto-cli: cannot write standard output: No space left on device\n");
     }
 }
 

@@ -3,7 +3,8 @@
 # land there, that the installed programs run, and that the desktop entry, the AppStream metadata and
 # the icons agree with each other and with the project; then runs the desktop entry and AppStream
 # validators. Exits 77 (skipped) when a validator is not installed and everything else passed.
-# Then builds the Debian package into the temporary folder (nothing is installed into the system).
+# Then builds the Debian package of these programs with debian/ into the temporary folder and lints it
+# (nothing is installed into the system).
 # Usage: install_test.sh BUILD_DIR SOURCE_DIR PROJECT_VERSION
 set -euo pipefail
 build=$(cd "$1" && pwd) source=$(cd "$2" && pwd) version=$3
@@ -22,7 +23,9 @@ doc=share/doc/brinto
 expected=(bin/brinto bin/brinto-cli "$doc/Brinto.htm" "$doc/LICENSE"
   share/man/man1/brinto.1 share/man/man1/brinto-cli.1
   "share/applications/$id.desktop" "share/metainfo/$id.metainfo.xml"
-  "share/icons/hicolor/scalable/apps/$id.svg")
+  "share/icons/hicolor/scalable/apps/$id.svg"
+  share/bash-completion/completions/brinto-cli share/zsh/vendor-completions/_brinto-cli
+  share/fish/vendor_completions.d/brinto-cli.fish)
 sizes=(16 22 24 32 48 64 128 256)
 for size in "${sizes[@]}"; do expected+=("share/icons/hicolor/${size}x$size/apps/$id.png"); done
 # The pictures the user guide shows sit beside it, as it refers to them.
@@ -62,20 +65,45 @@ for url in $shots; do
     || fail "screenshot $url is not a picture in docs/screenshots"
 done
 
+# The completions parse in their shells, and bash's offers key names by their start.
+bash -n share/bash-completion/completions/brinto-cli || fail "the bash completion does not parse"
+offered=$(bash -c 'source share/bash-completion/completions/brinto-cli; COMP_LINE="brinto-cli --memory sq"
+  COMP_POINT=${#COMP_LINE}; COMP_WORDS=(brinto-cli --memory sq); COMP_CWORD=2; _brinto_cli; echo "${COMPREPLY[*]}"')
+[[ " $offered " == *" sqrt "* && " $offered " != *" sin "* ]] || fail "bash completes 'sq' to: $offered"
+for shell in zsh fish; do
+  if command -v $shell >/dev/null; then
+    file=$(ls share/$shell/*/*brinto-cli*)
+    $shell -n "$file" || fail "the $shell completion does not parse"
+  fi
+done
+
 missing=()
-# The Debian package holds the same files, and dpkg-shlibdeps found the libraries the programs link.
-if command -v dpkg-shlibdeps >/dev/null && command -v dpkg-deb >/dev/null; then
-  out=$(cpack -G DEB -B "$root/deb" --config "$build/CPackConfig.cmake" 2>&1) || fail "cpack -G DEB: $out"
-  deb=$(echo "$root"/deb/brinto_"$version"_*.deb)
+# The Debian package, made by debian/ from these programs: the same files with the manual pages
+# compressed and the licence in Debian's copyright file, the libraries linked as shared ones and
+# named in its dependencies, and no error from lintian (its warnings are printed).
+# A sanitizer build's programs are not what a package holds: its release build checks the package.
+if grep -q '^BRINTO_SANITIZE:BOOL=ON$' "$build/CMakeCache.txt"; then
+  echo "the package is checked from the release build, not this sanitizer build"
+elif command -v dpkg-buildpackage >/dev/null && command -v dh >/dev/null && command -v lintian >/dev/null; then
+  mkdir -p "$root/pkg/brinto"
+  cp -r "$source/debian" "$root/pkg/brinto/"
+  (cd "$root/pkg/brinto" && BRINTO_PREBUILT=$build dpkg-buildpackage -us -uc -b >"$root/pkg/log" 2>&1) \
+    || fail "dpkg-buildpackage: $(tail -20 "$root/pkg/log")"
+  deb=$(echo "$root"/pkg/brinto_"$version"_*.deb)
   [ -f "$deb" ] || fail "no brinto_${version}_*.deb"
-  diff <(find . -type f -printf 'usr/%P\n' | sort) <(dpkg-deb -c "$deb" | awk '!/^d/ {sub("^\\./", "", $6); print $6}' | sort) \
+  packaged=$(find . -type f -printf 'usr/%P\n' | sed 's|^\(usr/share/man/.*\)$|\1.gz|; /\/LICENSE$/d' | sort)
+  diff <(printf '%s\n' "$packaged" usr/share/doc/brinto/copyright usr/share/doc/brinto/changelog.gz | sort) \
+    <(dpkg-deb -c "$deb" | awk '!/^d/ {sub("^\\./", "", $6); print $6}' | sort) \
     || fail "the package's files differ from the installed ones"
   depends=$(dpkg-deb -f "$deb" Depends)
-  for library in libqt6widgets6 libqt6gui6 libqt6core6 libsqlite3-0 libc6; do
+  for library in libqt6widgets6 libqt6gui6 libqt6core6 libsqlite3-0 libedit2 libstdc++6 libc6; do
     [[ $depends == *"$library "* ]] || fail "the package does not depend on $library: $depends"
   done
+  lint=$(lintian --fail-on error "$deb" 2>&1) || fail "lintian: $lint"
+  lint=$(grep -v 'with root privileges' <<<"$lint" || true)
+  [ -z "$lint" ] || echo "lintian warnings and notes: $lint"
 else
-  missing+=(dpkg-shlibdeps)
+  missing+=(dpkg-buildpackage debhelper lintian)
 fi
 if command -v desktop-file-validate >/dev/null; then
   # Hints too: a second main category, for one, would list the program twice in menus.
