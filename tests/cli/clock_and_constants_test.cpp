@@ -36,7 +36,10 @@ TEST(Cli, JsonSpellsTheLocalesNamesInUtf8) {
                                  (locales.path() / name).string() + "' 2>/dev/null";
         if (std::system(make.c_str()) != 0) GTEST_SKIP() << "localedef cannot make " << name << " (package locales)";
         const RunResult r = RunCli({"--json", "--memory", "--pref", "3=1", "2024.0205", "date"}, "",
-                                   {"LOCPATH=" + locales.path().string(), std::string("LC_ALL=") + name});
+                                   // The C library keeps a little of a locale read from LOCPATH for good,
+                                   // which the leak checker of the sanitizer builds would count.
+                                   {"LOCPATH=" + locales.path().string(), std::string("LC_ALL=") + name,
+                                    "ASAN_OPTIONS=detect_leaks=0"});
         ASSERT_EQ(r.exitCode, 0) << r.err;
         const auto json = nlohmann::json::parse(r.out, nullptr, false);
         ASSERT_FALSE(json.is_discarded()) << r.out.substr(0, 200);
