@@ -146,7 +146,7 @@ Outcome HandleBuiltIn(Engine& e, FunctionId id) {
         case fid::HexA: case fid::HexB: case fid::HexC: case fid::HexD: case fid::HexE: case fid::HexF:
             out.accepted = HexDigit(e, id);
             break;
-        case fid::Point: case fid::Point2: case fid::Exponent:
+        case fid::Point: case fid::SecondPoint: case fid::Exponent:
             out.accepted = e.EntryBase() == 0 && EditEntry(e, id);
             break;
         case fid::ChangeSign:
@@ -183,12 +183,12 @@ Outcome HandleBuiltIn(Engine& e, FunctionId id) {
         case fid::FirstShift: ShiftKey(e, 1); break;
         case fid::SecondShift: ShiftKey(e, 2); break;
         case fid::DisplayToggle: s.status ^= status::FullDisplay; break;
-        case fid::ClearAll: case fid::ClearAll2: ClearAll(e); break;
-        case fid::ClearStack: case fid::ClearStack2:
+        case fid::ClearAll: case fid::SecondClearAll: ClearAll(e); break;
+        case fid::ClearStack: case fid::SecondClearStack:
             if ((s.engineFlags & flags::Playing) && (s.engineFlags & flags::Paused)) MacroStop(e);
             e.ClearStack();
             break;
-        case fid::ClearX: case fid::ClearX2: e.ClearX(); break;
+        case fid::ClearX: case fid::SecondClearX: e.ClearX(); break;
         case fid::ClearRegisters:
             ClearUserRegisters(e);
             ClearTvmRegisters(e);
@@ -303,7 +303,7 @@ bool HandleFormatPrefix(Engine& e, FunctionId id) {
     const FunctionId prefix = s.pendingFormat;
     s.pendingFormat = kNoKey;
     if (id == fid::Backspace) return true;
-    if (id > fid::Digit9 && id != fid::Point && id != fid::Point2) return false;
+    if (id > fid::Digit9 && id != fid::Point && id != fid::SecondPoint) return false;
     const u16 code = prefix == fid::FormatStandard ? 0 : prefix == fid::FormatScientific ? 1
                    : prefix == fid::FormatEngineering ? 2 : 3;
     e.prefs.SetFormat(static_cast<NumberFormat>(code));
@@ -345,7 +345,7 @@ bool HandleScientificFamily(Engine& e, FunctionId id) {
 }
 
 bool Engine::Dispatch(FunctionId id) {
-    if (id == fid::Enter2) id = fid::Enter;
+    if (id == fid::SecondEnter) id = fid::Enter;
     CalcState& s = state;
     const bool shiftKey = IsShiftKey(id);
     const bool capture = !PrefixPending(s) && !(s.engineFlags & flags::UndoSuspended) && !shiftKey;

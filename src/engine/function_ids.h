@@ -25,7 +25,7 @@ enum class FunctionId : u32 {
     HexE = 14,
     HexF = 15,
     Point = 16,
-    Point2 = 17,
+    SecondPoint = 17,           // a second point key, acting as Point
     Exponent = 18,
     ChangeSign = 19,
     Backspace = 20,
@@ -42,9 +42,9 @@ enum class FunctionId : u32 {
     ClearAll = 29,
     ClearStack = 30,
     ClearX = 31,
-    ClearAll2 = 32,
-    ClearStack2 = 33,
-    ClearX2 = 34,
+    SecondClearAll = 32,        // second keys of the three clears, acting as them
+    SecondClearStack = 33,
+    SecondClearX = 34,
     ClearRegisters = 35,
     ClearFinancial = 36,
     ClearStatistics = 37,
@@ -235,7 +235,7 @@ enum class FunctionId : u32 {
     FractionToNextUnit = 205,
 
     // Stack, input methods and macros.
-    Enter2 = 206,               // read as Enter
+    SecondEnter = 206,          // read as Enter
     Rotate3 = 207,
     Over = 208,
     MethodSimple = 209,
@@ -274,7 +274,7 @@ enum class FunctionId : u32 {
     FluidOuncesUk = 240,
 
     // Variants chosen by the keyboard layer, and the shifts.
-    Amortize2 = 241,
+    SecondAmortize = 241,       // a second AMORT key, acting as Amortize
     IntegerSpare50 = 242,
     IntegerSpare51 = 243,
     RecallVariant = 244,        // recall with one-digit and two-digit register numbers

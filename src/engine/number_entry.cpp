@@ -106,7 +106,7 @@ bool EditEntry(Engine& e, FunctionId id) {
             Append(s, static_cast<char>('A' + (DigitValue(id) - 10)));
             ++count;
         }
-    } else if (id == fid::Point || id == fid::Point2) {
+    } else if (id == fid::Point || id == fid::SecondPoint) {
         if (!std::strchr(s.entryText, '.') && !std::strchr(s.entryText, 'e')) Append(s, '.');
     } else if (id == fid::Exponent) {
         if (inExponent) {

@@ -125,7 +125,7 @@ bool HandleFinancialKey(Engine& e, FunctionId id) {
 bool HandleFinanceResultKey(Engine& e, FunctionId id) {
     switch (id) {
         case fid::Amortize:
-        case fid::Amortize2: AmortizeKey(e); return true;
+        case fid::SecondAmortize: AmortizeKey(e); return true;
         case fid::AmortizeNext:
             e.FinishEntry();
             Amortize(e, Continuation::NextBlock);

@@ -38,7 +38,7 @@ constexpr ClassSlots kPressedForeground = {23, 24};
 constexpr int kShadowSlot = 16;
 
 constexpr std::array kClearKeys = {fid::ClearAll,  fid::ClearStack,     fid::ClearX,
-                                   fid::ClearAll2, fid::ClearStack2,    fid::ClearX2,
+                                   fid::SecondClearAll, fid::SecondClearStack,    fid::SecondClearX,
                                    fid::ClearRegisters, fid::ClearFinancial,
                                    fid::ClearStatistics, fid::ClearDate};
 constexpr std::array kRegisterKeys = {fid::Store, fid::Recall, fid::Exchange};
@@ -89,7 +89,7 @@ KeyColours ClassColours(const Palette& p, ClassSlots slots, std::optional<Rgb> c
 
 KeyClass KeyClassOf(FunctionId id) {
     if ((id >= fid::Digit0 && id <= fid::Digit9) || (id >= fid::HexA && id <= fid::HexF) ||
-        id == fid::Point || id == fid::Point2)
+        id == fid::Point || id == fid::SecondPoint)
         return KeyClass::Number;
     if (std::ranges::find(kRegisterKeys, RegisterBase(id)) != kRegisterKeys.end())
         return KeyClass::Register;

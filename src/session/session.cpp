@@ -62,7 +62,7 @@ bool Session::Tap(FunctionId id) {
         Show(message::NoFunctionCaption, message::NoFunctionText);
         return false;
     }
-    if (id == fid::ClearAll || id == fid::ClearAll2) {
+    if (id == fid::ClearAll || id == fid::SecondClearAll) {
         const Waiting waiting(*this);
         if (!m_host.Confirm(message::ClearAllCaption, message::ClearAllText)) return false;
         id = fid::ClearAll;

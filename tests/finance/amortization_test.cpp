@@ -53,7 +53,7 @@ TEST_F(Amortization, BlocksAddUpAndContinue) {
     Range("1", "12");
     Press(e, {fid::Equals, fid::Equals, fid::Equals});
     EXPECT_EQ(std::tuple(e.X(), e.state.stack[2]), std::tuple(second.interest, second.balance));
-    Press(e, {fid::ClearX, fid::Amortize2});  // nothing typed: the stored range, from payment 1
+    Press(e, {fid::ClearX, fid::SecondAmortize});  // nothing typed: the stored range, from payment 1
     EXPECT_EQ(e.X(), first.interest);
 }
 

@@ -21,7 +21,7 @@ constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 // Both blocks in both shift states, the second amortization key and "=", but not the register
 // prefixes, which would take the next key as their argument.
 std::set<FunctionId> Keys() {
-    std::set<FunctionId> keys = {fid::Amortize2, fid::Equals};
+    std::set<FunctionId> keys = {fid::SecondAmortize, fid::Equals};
     for (const int keyboard : {1, 3}) {
         for (const int shift : {0, 1}) {
             for (const FunctionId key : KeyLayout(keyboard, shift, UserKeyMap{})) keys.insert(key);

@@ -48,8 +48,8 @@ TEST(Keypad, EveryKeyCanBeTappedAndHasAFace) {
     // Keys that need no face of their own: second keys of the same function, the second and third
     // shift, and the variants the keyboard sends in place of the key the user taps.
     const std::set<FunctionId> noFaceNeeded = {
-        fid::Point2,          fid::ClearAll2,       fid::ClearStack2,   fid::ClearX2,
-        fid::Enter2,          fid::Amortize2,       fid::FirstShift,    fid::SecondShift,
+        fid::SecondPoint,          fid::SecondClearAll,       fid::SecondClearStack,   fid::SecondClearX,
+        fid::SecondEnter,          fid::SecondAmortize,       fid::FirstShift,    fid::SecondShift,
         fid::IntegerNegate,   fid::ToDefaultFormat, fid::IntegerAdd,    fid::IntegerSubtract,
         fid::IntegerMultiply, fid::IntegerDivide,   fid::RecallVariant, fid::RecallLarge,
         fid::ExchangeVariant, fid::ExchangeLarge,   fid::StoreVariant,  fid::StoreLarge};

@@ -99,10 +99,10 @@ TEST(Session, ClearAllAsksFirst) {
     f.session.Tap(fid::StoreVariant);
     f.session.Tap(fid::Digit1);
     f.host.confirm = false;
-    f.session.Tap(fid::ClearAll2);
+    f.session.Tap(fid::SecondClearAll);
     EXPECT_EQ(f.engine.registers.values[1], 7.0);
     f.host.confirm = true;
-    f.session.Tap(fid::ClearAll2);
+    f.session.Tap(fid::SecondClearAll);
     EXPECT_EQ(f.engine.registers.values[1], 0.0);
 }
 
