@@ -52,141 +52,32 @@ RunResult RunCli(const std::vector<std::string>& args, const std::string& input,
     return result;
 }
 
-namespace {
-
-struct Parser {
-    const std::string& s;
-    std::size_t i = 0;
-
-    void Space() {
-        while (i < s.size() && std::isspace(static_cast<unsigned char>(s[i]))) ++i;
-    }
-    bool Eat(char c) {
-        Space();
-        if (i < s.size() && s[i] == c) {
-            ++i;
-            return true;
-        }
-        return false;
-    }
-    std::optional<std::string> String() {
-        if (!Eat('"')) return std::nullopt;
-        std::string out;
-        while (i < s.size() && s[i] != '"') {
-            if (s[i] == '\\' && i + 1 < s.size()) {
-                ++i;
-                if (s[i] == 'u' && i + 4 < s.size()) {
-                    out += static_cast<char>(std::stoi(s.substr(i + 1, 4), nullptr, 16));
-                    i += 4;
-                } else {
-                    out += s[i] == 'n' ? '\n' : s[i];
-                }
-            } else {
-                out += s[i];
-            }
-            ++i;
-        }
-        if (i >= s.size()) return std::nullopt;
-        ++i;
-        return out;
-    }
-    std::optional<Json> Value() {
-        Space();
-        if (i >= s.size()) return std::nullopt;
-        Json v;
-        if (s[i] == '"') {
-            auto text = String();
-            if (!text) return std::nullopt;
-            v.kind = Json::Kind::String;
-            v.text = *text;
-        } else if (s[i] == '[') {
-            ++i;
-            v.kind = Json::Kind::Array;
-            if (!Eat(']')) {
-                do {
-                    auto item = Value();
-                    if (!item) return std::nullopt;
-                    v.items.push_back(std::move(*item));
-                } while (Eat(','));
-                if (!Eat(']')) return std::nullopt;
-            }
-        } else if (s[i] == '{') {
-            ++i;
-            v.kind = Json::Kind::Object;
-            if (!Eat('}')) {
-                do {
-                    auto key = String();
-                    if (!key || !Eat(':')) return std::nullopt;
-                    auto item = Value();
-                    if (!item) return std::nullopt;
-                    v.members.emplace_back(*key, std::move(*item));
-                } while (Eat(','));
-                if (!Eat('}')) return std::nullopt;
-            }
-        } else {
-            const std::size_t start = i;
-            while (i < s.size() && (std::isalnum(static_cast<unsigned char>(s[i])) || s[i] == '-' || s[i] == '.' || s[i] == '+')) ++i;
-            v.text = s.substr(start, i - start);
-            if (v.text.empty()) return std::nullopt;
-            v.kind = v.text == "null" ? Json::Kind::Null
-                     : (v.text == "true" || v.text == "false") ? Json::Kind::Bool : Json::Kind::Number;
-        }
-        return v;
-    }
-};
-
-}  // namespace
-
 std::optional<Json> ParseJson(const std::string& text) {
-    Parser p{text};
-    auto v = p.Value();
-    p.Space();
-    if (!v || p.i != text.size()) return std::nullopt;
-    return v;
+    Json json = Json::parse(text, nullptr, false);
+    if (json.is_discarded()) return std::nullopt;
+    return json;
 }
 
-const Json* Json::Find(const std::string& path) const {
-    const Json* node = this;
+const Json* Find(const Json& json, const std::string& path) {
+    const Json* node = &json;
     std::size_t start = 0;
-    while (start <= path.size() && node) {
+    while (node) {
         const std::size_t dot = path.find('.', start);
         const std::string part = path.substr(start, dot == std::string::npos ? std::string::npos : dot - start);
-        const Json* next = nullptr;
-        if (node->kind == Kind::Array && !part.empty() && std::isdigit(static_cast<unsigned char>(part[0]))) {
+        if (node->is_array() && !part.empty() && std::isdigit(static_cast<unsigned char>(part[0]))) {
             const std::size_t index = std::stoul(part);
-            if (index < node->items.size()) next = &node->items[index];
-        } else if (node->kind == Kind::Object) {
-            for (const auto& [key, value] : node->members) {
-                if (key == part) next = &value;
-            }
+            node = index < node->size() ? &(*node)[index] : nullptr;
+        } else if (node->is_object() && node->contains(part)) {
+            node = &(*node)[part];
+        } else {
+            node = nullptr;
         }
-        node = next;
         if (dot == std::string::npos) break;
         start = dot + 1;
     }
     return node;
 }
 
-std::string Json::Compact(bool top) const {
-    switch (kind) {
-        case Kind::Null: return "null";
-        case Kind::Bool:
-        case Kind::Number: return text;
-        case Kind::String: return top ? text : "\"" + text + "\"";
-        case Kind::Array: {
-            std::string out = "[";
-            for (std::size_t k = 0; k < items.size(); ++k) out += (k ? "," : "") + items[k].Compact(false);
-            return out + "]";
-        }
-        case Kind::Object: {
-            std::string out = "{";
-            for (std::size_t k = 0; k < members.size(); ++k) {
-                out += (k ? ",\"" : "\"") + members[k].first + "\":" + members[k].second.Compact(false);
-            }
-            return out + "}";
-        }
-    }
-    return {};
-}
+std::string Compact(const Json& value) { return value.is_string() ? value.get<std::string>() : value.dump(); }
 
 }  // namespace brinto::test

@@ -1,7 +1,6 @@
 #pragma once
-// Runs brinto-cli as a child process and reads back its output; a small JSON reader for --json.
-#include <map>
-#include <memory>
+// Runs brinto-cli as a child process and reads back its output, and reads its --json report.
+#include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,19 +17,12 @@ struct RunResult {
 RunResult RunCli(const std::vector<std::string>& args, const std::string& input = "",
                  const std::vector<std::string>& environment = {});
 
-// A parsed JSON value; numbers are kept as their text.
-struct Json {
-    enum class Kind { Null, Bool, Number, String, Array, Object } kind = Kind::Null;
-    std::string text;  // Number, String, Bool ("true"/"false")
-    std::vector<Json> items;
-    std::vector<std::pair<std::string, Json>> members;
-
-    // A value by dotted path ("stack.0.text"); nothing when the path does not exist.
-    const Json* Find(const std::string& path) const;
-    // Compact text: strings unquoted at the top, arrays and objects as JSON.
-    std::string Compact(bool top = true) const;
-};
-
+// The JSON report, read with the same library that writes it; nothing when it is no JSON.
+using Json = nlohmann::ordered_json;
 std::optional<Json> ParseJson(const std::string& text);
+// A value by dotted path ("stack.0.text"); nothing when the path does not exist.
+const Json* Find(const Json& json, const std::string& path);
+// Compact text: a string as it is, anything else as JSON ("[7,0,656]").
+std::string Compact(const Json& value);
 
 }  // namespace brinto::test

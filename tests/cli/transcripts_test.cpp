@@ -85,9 +85,9 @@ void RunCase(const Case& c) {
         } else {
             if (!json) json = ParseJson(r.out);
             ASSERT_TRUE(json.has_value()) << "not JSON: " << r.out << r.err;
-            const Json* node = json->Find(path);
+            const Json* node = Find(*json, path);
             ASSERT_NE(node, nullptr) << "no field " << path;
-            EXPECT_EQ(node->Compact(), value) << path;
+            EXPECT_EQ(Compact(*node), value) << path;
         }
     }
     EXPECT_EQ(r.exitCode, expectedExit) << r.err;
@@ -114,12 +114,12 @@ TEST(Cli, JsonReportIsOneObjectWithEveryField) {
     for (const char* field : {"stack", "depth", "lastX", "entry", "status", "viewFlags", "engineFlags", "pending",
                               "repeatOperator", "parenDepth", "registers", "cashFlowCount", "groupCounts", "amort",
                               "prefs", "macro", "messages", "rejected", "clipboard"}) {
-        EXPECT_NE(json->Find(field), nullptr) << field;
+        EXPECT_NE(Find(*json, field), nullptr) << field;
     }
-    EXPECT_EQ(json->Find("stack")->items.size(), 20u);
-    EXPECT_EQ(json->Find("registers")->items.size(), 124u);
-    EXPECT_EQ(json->Find("groupCounts")->items.size(), 100u);
-    EXPECT_EQ(json->Find("entry")->Compact(), "12");
+    EXPECT_EQ(Find(*json, "stack")->size(), 20u);
+    EXPECT_EQ(Find(*json, "registers")->size(), 124u);
+    EXPECT_EQ(Find(*json, "groupCounts")->size(), 100u);
+    EXPECT_EQ(Compact(*Find(*json, "entry")), "12");
 }
 
 // A bad option or token is one line that says where it is and what was probably meant.
@@ -213,8 +213,8 @@ TEST(Cli, PreferencesFromTheCommandLineHoldForOneRun) {
     const RunResult second = RunCli({"--db", db, "--json"});
     const auto json = ParseJson(second.out);
     ASSERT_TRUE(json.has_value()) << second.err;
-    EXPECT_EQ(json->Find("prefs.6")->Compact(), "0");
-    EXPECT_EQ(json->Find("stack.0.value")->Compact(), "5");  // the calculator itself was kept
+    EXPECT_EQ(Compact(*Find(*json, "prefs.6")), "0");
+    EXPECT_EQ(Compact(*Find(*json, "stack.0.value")), "5");  // the calculator itself was kept
     std::filesystem::remove_all(folder);
 }
 
