@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "app/dialogs/ui_text.h"
+
 namespace brinto::dialogs {
 namespace {
 
@@ -87,14 +89,15 @@ ChartColours MakeChartColours(const ScreenColours& screen) {
 }
 
 ScheduleChartView::ScheduleChartView(QWidget* parent) : QWidget(parent), m_colours(DefaultChartColours()) {
-    setAccessibleName(QStringLiteral("Amortization chart"));
+    setAccessibleName(Ui::tr("Amortization chart"));
 }
 
 void ScheduleChartView::SetChart(ScheduleChart chart) {
     m_chart = std::move(chart);
     setAccessibleName(QString::fromStdString(m_chart.description));
-    setAccessibleDescription(m_chart.byYear ? QStringLiteral("Balance after each payment; interest and principal by year")
-                                            : QStringLiteral("Balance after each payment; interest and principal of each payment"));
+    setAccessibleDescription(
+        m_chart.byYear ? Ui::tr("Balance after each payment; interest and principal by year")
+                       : Ui::tr("Balance after each payment; interest and principal of each payment"));
     update();
 }
 
@@ -199,7 +202,7 @@ void DrawAxes(QPainter& p, const ScheduleFrame& f, const ChartColours& c, const 
         p.drawText(QRectF(at - 40, f.plot.bottom() + 3, 80, f.line), Qt::AlignHCenter | Qt::AlignTop, Amount(u));
     }
     p.drawText(QRectF(f.plot.left(), f.plot.bottom() + 3 + f.line, f.plot.width(), f.line),
-               Qt::AlignHCenter | Qt::AlignTop, chart.byYear ? QStringLiteral("Year") : QStringLiteral("Payment"));
+               Qt::AlignHCenter | Qt::AlignTop, chart.byYear ? Ui::tr("Year") : Ui::tr("Payment"));
 }
 
 void DrawLegend(QPainter& p, const ScheduleFrame& f, const ChartColours& c, const QFontMetricsF& fm, bool byYear) {
@@ -210,10 +213,11 @@ void DrawLegend(QPainter& p, const ScheduleFrame& f, const ChartColours& c, cons
     p.drawLine(QPointF(at, mid), QPointF(at + 18, mid));
     at += 22;
     p.setPen(c.text);
-    const std::pair<QString, QColor> entries[] = {{QStringLiteral("Balance"), QColor()},
-                                                  {QStringLiteral("Interest"), Faded(c.interest, 170)},
-                                                  {QStringLiteral("Principal"), Faded(c.principal, 170)},
-                                                  {byYear ? QStringLiteral("(by year)") : QStringLiteral("(by payment)"), QColor()}};
+    const std::pair<QString, QColor> entries[] = {
+        {Ui::tr("Balance"), QColor()},
+        {Ui::tr("Interest"), Faded(c.interest, 170)},
+        {Ui::tr("Principal"), Faded(c.principal, 170)},
+        {byYear ? Ui::tr("(by year)") : Ui::tr("(by payment)"), QColor()}};
     for (const auto& [text, swatch] : entries) {
         if (swatch.isValid()) {
             p.fillRect(QRectF(at, mid - 5, 10, 10), swatch);
@@ -250,7 +254,7 @@ void ScheduleChartView::paintEvent(QPaintEvent*) {
 }
 
 CashFlowDiagramView::CashFlowDiagramView(QWidget* parent) : QWidget(parent), m_colours(DefaultChartColours()) {
-    setAccessibleName(QStringLiteral("Cash-flow diagram"));
+    setAccessibleName(Ui::tr("Cash-flow diagram"));
 }
 
 void CashFlowDiagramView::SetDiagram(CashFlowDiagram diagram, const QStringList& figures) {

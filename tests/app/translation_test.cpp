@@ -1,0 +1,74 @@
+// The window in other languages: the German one as a German user starts it, and the texts that come
+// from the session, which every translation must carry.
+#include <gtest/gtest.h>
+
+#include <QLocale>
+#include <QMenuBar>
+#include <QTranslator>
+#include <algorithm>
+#include <cctype>
+
+#include "app/dialogs/ui_text.h"
+#include "app/translations.h"
+#include "app_fixture.h"
+#include "engine/keyboards.h"
+#include "ops/constants.h"
+#include "session/key_legends.h"
+#include "session/session.h"
+
+namespace brinto::test {
+namespace {
+
+// Runs in a process of its own under LANGUAGE=de (the app_german test); skipped under any other
+// language, as translations are installed once per program.
+TEST(German, TheWindowStartsInGermanUnderAGermanLocale) {
+    if (!QLocale::system().uiLanguages().value(0).startsWith(QLatin1String("de"))) {
+        GTEST_SKIP() << "run under LANGUAGE=de";
+    }
+    InstallTranslations();
+    Desk desk;
+    QStringList menus;
+    for (const QAction* menu : desk.window.menuBar()->actions()) menus << menu->text();
+    EXPECT_EQ(menus, QStringList({QStringLiteral("&Ansicht"), QStringLiteral("&Bearbeiten"),
+                                  QStringLiteral("&Optionen")}));
+    EXPECT_EQ(desk.window.menuBar()->actions().value(1)->menu()->actions().value(0)->text(),
+              QString::fromUtf8("&Rückgängig"));
+    // A key's tooltip says what it does in German; its face stays the calculator's.
+    EXPECT_EQ(KeyMeaningText("Square root"), QStringLiteral("Quadratwurzel"));
+    EXPECT_EQ(MessageText(message::NothingToUndoCaption), QString::fromUtf8("Nichts rückgängig zu machen"));
+    // Numbers and dates in the windows follow the locale too.
+    EXPECT_EQ(QLocale::system().decimalPoint(), QStringLiteral(","));
+}
+
+// Every text the window takes from the session and the engine has its German: key meanings and the
+// keyboard keys named beside them, the messages, the constants and the built-in themes.
+TEST(Translations, GermanCarriesEveryTextFromTheSession) {
+    QTranslator german;
+    ASSERT_TRUE(german.load(QStringLiteral(":/i18n/brinto_de.qm")));
+    const auto translated = [&](const char* context, std::string_view english) {
+        return !german.translate(context, std::string(english).c_str()).isEmpty();
+    };
+    const auto wordy = [](std::string_view text) {  // "0", "+", "A" name themselves in every language
+        return std::count_if(text.begin(), text.end(),
+                             [](char c) { return std::isalpha(static_cast<unsigned char>(c)); }) >= 2;
+    };
+    for (const KeyLegend& legend : AllLegends()) {
+        EXPECT_TRUE(translated("KeyMeaning", legend.fullName)) << legend.fullName;
+        if (wordy(legend.hardwareKey)) {
+            EXPECT_TRUE(translated("KeyMeaning", legend.hardwareKey)) << legend.hardwareKey;
+        }
+    }
+    for (const std::string_view text :
+         {message::NoFunctionCaption, message::NoFunctionText, message::ClearAllCaption,
+          message::ClearAllText, message::NothingToUndoCaption, message::NothingToUndoText,
+          message::NothingToRedoCaption, message::NothingToRedoText, message::NoMacroCaption,
+          message::NoMacroText, message::MacroFullCaption, message::MacroFullText}) {
+        EXPECT_TRUE(translated("Message", text)) << text;
+    }
+    for (int i = 0; i < kConstantCount; ++i)
+        EXPECT_TRUE(translated("Constant", ConstantName(i))) << ConstantName(i);
+    for (std::string_view keyboard : kKeyboardNames) EXPECT_TRUE(translated("Ui", keyboard)) << keyboard;
+}
+
+}  // namespace
+}  // namespace brinto::test

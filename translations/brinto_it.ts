@@ -1,0 +1,2179 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="it">
+<context>
+    <name>Constant</name>
+    <message>
+        <source>Avogadro&apos;s number, NA</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Boltzmann constant, k</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Molar volume, Vm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Universal gas constant, R</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard temperature, StdT</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard pressure, StdP</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stefan-Boltzmann constant</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed of light in vacuum, c</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Permittivity of vacuum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Permeability of vacuum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Acceleration of gravity, g</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gravitational constant, G</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Planck&apos;s constant, h</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dirac&apos;s constant, hbar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Electron charge, q</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Electron rest mass, me</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>q/me, qme</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Proton rest mass, mp</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mp/me, mpme</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fine structure constant</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Magnetic flux quantum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Faraday constant, F</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rydberg constant</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bohr radius, a0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bohr magneton</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nuclear magneton</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photon wavelength (ch/e)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Photon frequency (e/h)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Compton wavelength</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Wien displacement constant, c3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dielectric constant</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SiO2 dielectric constant</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reference intensity, I0</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>KeyMeaning</name>
+    <message>
+        <source>Digit 0</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Digit 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Digit 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Digit 3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Digit 4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Digit 5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Digit 6</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Digit 7</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Digit 8</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Digit 9</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hexadecimal digit A (10)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hexadecimal digit B (11)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hexadecimal digit C (12)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hexadecimal digit D (13)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hexadecimal digit E (14)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>E (in an integer base)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hexadecimal digit F (15)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decimal point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>. or ,</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decimal point (second key)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter exponent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change sign</source>
+        <translation>Cambia segno</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter (RPN)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Somma</translation>
+    </message>
+    <message>
+        <source>Subtract</source>
+        <translation>Sottrai</translation>
+    </message>
+    <message>
+        <source>Multiply</source>
+        <translation>Moltiplica</translation>
+    </message>
+    <message>
+        <source>* or X</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Divide</source>
+        <translation>Dividi</translation>
+    </message>
+    <message>
+        <source>Equals: complete the calculation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>= or Enter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shift: the keys&apos; second functions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show all digits, dates as numbers (toggle)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear all: stack, registers and macro</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear stack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear X</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear all (second key)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear stack (second key)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear X (second key)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear user, financial and statistical registers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear the financial registers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear the statistical sums</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll the stack down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Roll the stack up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drop X</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fill the stack with X</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exchange X and Y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Store X in a register</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last X</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recall a register</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exchange X with a register</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open parenthesis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close parenthesis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent of total: X as a percentage of Y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent change from Y to X</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation>Percentuale</translation>
+    </message>
+    <message>
+        <source>Round X to the digits shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Integer part</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Absolute value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Square root</source>
+        <translation>Radice quadrata</translation>
+    </message>
+    <message>
+        <source>Square</source>
+        <translation>Quadrato</translation>
+    </message>
+    <message>
+        <source>Cube root</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cube</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Power: Y raised to X</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reciprocal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fractional part</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remainder of Y divided by X</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Payments at the beginning or end of periods (toggle)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number of payments</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nominal annual interest rate, percent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Present value</source>
+        <translation>Valore attuale</translation>
+    </message>
+    <message>
+        <source>Payment per period</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Future value</source>
+        <translation>Valore futuro</translation>
+    </message>
+    <message>
+        <source>Payments per year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nominal annual interest rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Effective annual interest rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Years times payments per year, stored in N</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Divide by payments per year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Price</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Margin, percent of price</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Markup, percent of cost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Amortize a range of payments</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Amortize the next range of payments</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cash flow: append X to the cash flows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Times the last cash flow repeats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Net present value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Internal rate of return per year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sine</source>
+        <translation>Seno</translation>
+    </message>
+    <message>
+        <source>Cosine</source>
+        <translation>Coseno</translation>
+    </message>
+    <message>
+        <source>Tangent</source>
+        <translation>Tangente</translation>
+    </message>
+    <message>
+        <source>Arc sine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Arc cosine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Arc tangent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pi</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hyperbolic prefix for the next function</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Natural logarithm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Common logarithm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Natural exponential</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Power of ten</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Angles in degrees</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Angles in radians</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Angles in grads</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Radians to degrees</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Degrees to radians</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Polar to rectangular</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rectangular to polar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hours to hours.minutes-seconds (h.mmss)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hours.minutes-seconds (h.mmss) to hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add the point (X, Y) to the sums</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the point (X, Y) from the sums</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sum of x</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sum of x squared</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sum of y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sum of y squared</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sum of the products xy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number of points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean of x</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean of x weighted by y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mean of y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Estimated x for the y in X; r in Y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Estimated y for the x in X; slope in Y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Random number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Factorial</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Logarithm of the gamma function</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sample standard deviation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Population standard deviation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Combinations of X items from Y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Permutations of X items from Y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Binary entry and display</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Octal entry and display</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decimal integer entry and display</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hexadecimal entry and display</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bitwise AND</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bitwise OR</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bitwise exclusive OR</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bitwise NOT</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shift Y left by X bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shift Y right by X bits (logical)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Arithmetic shift right, keeping the sign</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotate Y right by X bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Feet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Miles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Meters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Square inches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Square feet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Square miles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Square meters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pounds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ounces</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kilograms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grams</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inches per second</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Feet per second</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Meters per second</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Miles per hour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kilometers per hour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Centimeters per second</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>US gallons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Milliliters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Liters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>US fluid ounces</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Degrees Celsius</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Degrees Fahrenheit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>X-th root of Y</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>8-bit unsigned integer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>8-bit signed integer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>16-bit unsigned integer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>16-bit signed integer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>32-bit unsigned integer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>32-bit signed integer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard number format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scientific format: digits follow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Engineering format: digits follow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Largest whole number not above X</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Smallest whole number not below X</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change sign of an integer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>X as an integer of the default format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Integer add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Integer subtract</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Integer multiply</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Integer divide</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fixed format: digits follow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear the date registers and duration settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The current date and time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date: X typed as Y.MMDD becomes a date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time: X typed as H.MMSS becomes a clock time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Years</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Months</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Weeks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Frames</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hours.minutes-seconds (h.mmss) to frames</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Days per year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Days per month</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Days per week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hours per day</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Frames per second</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date part of a date and time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time part of a date and time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fraction of a duration in the next smaller unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter (second key)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotate the three lowest levels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Over: a copy of Y onto the stack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Simple input: in the order entered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Precedence input: × and ÷ before + and −</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RPN input: operands first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Record a macro</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play the macro</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pause the macro for input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Centimeters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Millimeters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Yards</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kilometers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nautical miles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Square millimeters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Square centimeters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Square kilometers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Square yards</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Acres</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Short tons (2,000 pounds)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Milligrams</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Knots</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cubic meters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cubic centimeters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cubic yards</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cubic feet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cubic inches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>US quarts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>US pints</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>US cups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tablespoons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Teaspoons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imperial gallons</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Imperial fluid ounces</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Amortize a range of payments (second key)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recall one of 100 registers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exchange X with one of 100 registers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Store X in one of 100 registers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Second shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Message</name>
+    <message>
+        <source>No Function</source>
+        <translation>Nessuna funzione</translation>
+    </message>
+    <message>
+        <source>The Keyboard dialog can be used to assign a function to this button.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear All</source>
+        <translation>Cancella tutto</translation>
+    </message>
+    <message>
+        <source>This operation will clear the operating stack and all user, financial, statistical, and date registers, and the keyboard macro.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing to Undo</source>
+        <translation>Niente da annullare</translation>
+    </message>
+    <message>
+        <source>There are no operations to be undone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing to Redo</source>
+        <translation>Niente da ripetere</translation>
+    </message>
+    <message>
+        <source>There are no undo actions to be redone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No Macro</source>
+        <translation>Nessuna macro</translation>
+    </message>
+    <message>
+        <source>A macro must be recorded before it can be played back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Macro Length Exceeded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The macro length has been exceeded and the last key could not be recorded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Theme</name>
+    <message>
+        <source>Default Color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default Grayscale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default B&amp;W</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original Color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original Grayscale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original B&amp;W</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light Background</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark Background</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Ui</name>
+    <message>
+        <source>Keys</source>
+        <translation>Tasti</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Display</translation>
+    </message>
+    <message>
+        <source>Level %1</source>
+        <translation>Livello %1</translation>
+    </message>
+    <message>
+        <source>Choose an input method to determine how Brinto performs calculations:
+
+- Simple specifies an infix order where the operations are performed in the order they are entered, for example, entering 2 + 3 * 5 = yields the result of 25
+
+- Precedence also specifies an infix order where binary operations are performed before multiplication and division which are performed before addition and subtraction reducing the need for using parentheses, for example, 2 + 3 * 5 = yields the result of 17
+
+- RPN (Reverse Polish Notation) specifies a postfix order where the operands are entered before the operation, for example, 2 Enter 3 + 5 * yields 25 and 2 Enter 3 Enter 5 * + yields 17
+
+- The input method can be specified  at any time in the Preferences dialog
+
+- See the Comparison of Input Methods section of the User Guide for more details</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Input Method</source>
+        <translation>Metodo di inserimento</translation>
+    </message>
+    <message>
+        <source>&amp;Input:</source>
+        <translation>&amp;Inserimento:</translation>
+    </message>
+    <message>
+        <source>Simple</source>
+        <translation>Semplice</translation>
+    </message>
+    <message>
+        <source>Precedence</source>
+        <translation>Precedenza</translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferenze</translation>
+    </message>
+    <message>
+        <source>Find Key</source>
+        <translation>Trova tasto</translation>
+    </message>
+    <message>
+        <source>&amp;Key name:</source>
+        <translation>Nome del &amp;tasto:</translation>
+    </message>
+    <message>
+        <source>sqrt, x^2, pv, Square root...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Matching keys:</source>
+        <translation>Tasti &amp;corrispondenti:</translation>
+    </message>
+    <message>
+        <source>&amp;Press</source>
+        <translation>&amp;Premi</translation>
+    </message>
+    <message>
+        <source>Type the name of a key.</source>
+        <translation>Digitare il nome di un tasto.</translation>
+    </message>
+    <message>
+        <source>No key is called &quot;%1&quot;.</source>
+        <translation>Nessun tasto si chiama «%1».</translation>
+    </message>
+    <message>
+        <source>No function</source>
+        <translation>Nessuna funzione</translation>
+    </message>
+    <message>
+        <source> (key: %1)</source>
+        <translation> (tasto: %1)</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Altro</translation>
+    </message>
+    <message>
+        <source>Keyboard</source>
+        <translation>Tastiera</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Visualizza</translation>
+    </message>
+    <message>
+        <source>&amp;Basic</source>
+        <translation>&amp;Base</translation>
+    </message>
+    <message>
+        <source>&amp;Advanced</source>
+        <translation>&amp;Avanzata</translation>
+    </message>
+    <message>
+        <source>&amp;Stack...</source>
+        <translation>&amp;Stack...</translation>
+    </message>
+    <message>
+        <source>&amp;User Registers...</source>
+        <translation>&amp;Registri utente...</translation>
+    </message>
+    <message>
+        <source>&amp;Constants...</source>
+        <translation>&amp;Costanti...</translation>
+    </message>
+    <message>
+        <source>&amp;TVM...</source>
+        <translation>&amp;Valore temporale (TVM)...</translation>
+    </message>
+    <message>
+        <source>Amorti&amp;zation...</source>
+        <translation>A&amp;mmortamento...</translation>
+    </message>
+    <message>
+        <source>Cash &amp;Flow...</source>
+        <translation>&amp;Flussi di cassa...</translation>
+    </message>
+    <message>
+        <source>Stat&amp;istical...</source>
+        <translation>S&amp;tatistica...</translation>
+    </message>
+    <message>
+        <source>Enter &amp;Date...</source>
+        <translation>Inserisci &amp;data...</translation>
+    </message>
+    <message>
+        <source>Enter Ti&amp;me...</source>
+        <translation>Inserisci &amp;ora...</translation>
+    </message>
+    <message>
+        <source>Du&amp;rations...</source>
+        <translation>D&amp;urate...</translation>
+    </message>
+    <message>
+        <source>&amp;History Tape</source>
+        <translation>&amp;Nastro di calcolo</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>&amp;Modifica</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annulla</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Ripeti</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>&amp;Taglia</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copia</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>&amp;Incolla</translation>
+    </message>
+    <message>
+        <source>&amp;Find Key...</source>
+        <translation>&amp;Trova tasto...</translation>
+    </message>
+    <message>
+        <source>S&amp;hift</source>
+        <translation>&amp;Maiusc</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opzioni</translation>
+    </message>
+    <message>
+        <source>&amp;Preferences...</source>
+        <translation>&amp;Preferenze...</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard...</source>
+        <translation>&amp;Tastiera...</translation>
+    </message>
+    <message>
+        <source>&amp;About Brinto...</source>
+        <translation>&amp;Informazioni su Brinto...</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>&amp;Esci</translation>
+    </message>
+    <message>
+        <source>Not saved</source>
+        <translation>Non salvato</translation>
+    </message>
+    <message>
+        <source>Not saved: %1</source>
+        <translation>Non salvato: %1</translation>
+    </message>
+    <message>
+        <source>General</source>
+        <translation>Generale</translation>
+    </message>
+    <message>
+        <source>Financial</source>
+        <translation>Finanziaria</translation>
+    </message>
+    <message>
+        <source>Scientific</source>
+        <translation>Scientifica</translation>
+    </message>
+    <message>
+        <source>Statistical</source>
+        <translation>Statistica</translation>
+    </message>
+    <message>
+        <source>Programmer</source>
+        <translation>Programmatore</translation>
+    </message>
+    <message>
+        <source>Conversion 1</source>
+        <translation>Conversione 1</translation>
+    </message>
+    <message>
+        <source>Conversion 2</source>
+        <translation>Conversione 2</translation>
+    </message>
+    <message>
+        <source>Date &amp;&amp; Time</source>
+        <translation>Data &amp;&amp; ora</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Utente</translation>
+    </message>
+    <message>
+        <source>Gen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sci</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prog</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Conv 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Conv 2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Conv
+1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Conv
+2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The calculator could not be saved.</source>
+        <translation>Non è stato possibile salvare la calcolatrice.</translation>
+    </message>
+    <message>
+        <source>Quit Without Saving</source>
+        <translation>Esci senza salvare</translation>
+    </message>
+    <message>
+        <source>History Tape</source>
+        <translation>Nastro di calcolo</translation>
+    </message>
+    <message>
+        <source>Tape lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Risultato</translation>
+    </message>
+    <message>
+        <source>Double click or Return recalls a result into X; Ctrl+C copies it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Recall</source>
+        <translation>&amp;Richiama</translation>
+    </message>
+    <message>
+        <source>Recall the selected result into X</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy the selected result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save As...</source>
+        <translation>&amp;Salva come...</translation>
+    </message>
+    <message>
+        <source>Save the tape as text or CSV</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>C&amp;lear</source>
+        <translation>&amp;Cancella</translation>
+    </message>
+    <message>
+        <source>Clear the tape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tape could not be saved to %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save Tape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text (*.txt);;CSV (*.csv)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Color Chooser</source>
+        <translation>Scelta del colore</translation>
+    </message>
+    <message>
+        <source>Red:</source>
+        <translation>Rosso:</translation>
+    </message>
+    <message>
+        <source>Green:</source>
+        <translation>Verde:</translation>
+    </message>
+    <message>
+        <source>Blue:</source>
+        <translation>Blu:</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Ripristina</translation>
+    </message>
+    <message>
+        <source>Customize Colors</source>
+        <translation>Personalizza colori</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>Background</source>
+        <translation>Sfondo</translation>
+    </message>
+    <message>
+        <source>Standard:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Number:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Register:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 text color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 background color</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Predefinito</translation>
+    </message>
+    <message>
+        <source>Constants</source>
+        <translation>Costanti</translation>
+    </message>
+    <message>
+        <source>Days per year (dpy):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Days per month (dpm):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Days per week (dpw):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hours per day (hpd):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Frames per second (fps):</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter Date</source>
+        <translation>Inserisci data</translation>
+    </message>
+    <message>
+        <source>Enter Time</source>
+        <translation>Inserisci ora</translation>
+    </message>
+    <message>
+        <source>Hour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tens of minutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Hour:</source>
+        <translation>&amp;Ora:</translation>
+    </message>
+    <message>
+        <source>&amp;Minute:</source>
+        <translation>&amp;Minuto:</translation>
+    </message>
+    <message>
+        <source>AM</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PM</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Durations</source>
+        <translation>Durate</translation>
+    </message>
+    <message>
+        <source>About Brinto</source>
+        <translation>Informazioni su Brinto</translation>
+    </message>
+    <message>
+        <source>Version %1</source>
+        <translation>Versione %1</translation>
+    </message>
+    <message>
+        <source>The user guide is in English.</source>
+        <translation>La guida utente è in inglese.</translation>
+    </message>
+    <message>
+        <source>No Cash Flow Entries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no cash flow entries to display.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;h2&gt;User guide missing&lt;/h2&gt;&lt;p&gt;The user guide was not built into this copy of Brinto, so help cannot be shown.&lt;/p&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brinto Help</source>
+        <translation>Guida di Brinto</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Avanti</translation>
+    </message>
+    <message>
+        <source>Find</source>
+        <translation>Trova</translation>
+    </message>
+    <message>
+        <source>Key %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no function</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Customize Keyboard</source>
+        <translation>Personalizza tastiera</translation>
+    </message>
+    <message>
+        <source>User Keys:</source>
+        <translation>Tasti utente:</translation>
+    </message>
+    <message>
+        <source>Integer</source>
+        <translation>Intero</translation>
+    </message>
+    <message>
+        <source>Shifted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Available Keys:</source>
+        <translation>Tasti disponibili:</translation>
+    </message>
+    <message>
+        <source>Available keyboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Cancella</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copia</translation>
+    </message>
+    <message>
+        <source>Amortization chart</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Balance after each payment; interest and principal by year</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Balance after each payment; interest and principal of each payment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Anno</translation>
+    </message>
+    <message>
+        <source>Payment</source>
+        <translation>Rata</translation>
+    </message>
+    <message>
+        <source>Balance</source>
+        <translation>Saldo</translation>
+    </message>
+    <message>
+        <source>Interest</source>
+        <translation>Interessi</translation>
+    </message>
+    <message>
+        <source>Principal</source>
+        <translation>Capitale</translation>
+    </message>
+    <message>
+        <source>(by year)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(by payment)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cash-flow diagram</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Tutte</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fixed</source>
+        <translation>Fisso</translation>
+    </message>
+    <message>
+        <source>Engineering</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>RPN</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>8-bit unsigned</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>8-bit signed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>16-bit unsigned</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>16-bit signed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>32-bit unsigned</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>32-bit signed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sticky</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Locking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shift keyboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repeat last key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open last form</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play macro</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>100 Registers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Long Date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Backspace Drops</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comma Radix</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Format:</source>
+        <translation>Formato:</translation>
+    </message>
+    <message>
+        <source>Digits:</source>
+        <translation>Cifre:</translation>
+    </message>
+    <message>
+        <source>How many digits the number format shows; All: every digit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Input:</source>
+        <translation>Inserimento:</translation>
+    </message>
+    <message>
+        <source>Stack:</source>
+        <translation>Stack:</translation>
+    </message>
+    <message>
+        <source>How many levels the operating stack has</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Integer:</source>
+        <translation>Intero:</translation>
+    </message>
+    <message>
+        <source>Shift:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Action:</source>
+        <translation>Azione:</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Sinistra</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation>Centro</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Destra</translation>
+    </message>
+    <message>
+        <source>Stack</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User Registers</source>
+        <translation>Registri utente</translation>
+    </message>
+    <message>
+        <source>TVM</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Amortization</source>
+        <translation>Ammortamento</translation>
+    </message>
+    <message>
+        <source>Cash Flow</source>
+        <translation>Flussi di cassa</translation>
+    </message>
+    <message>
+        <source>Basic also</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Small</source>
+        <translation>Piccolo</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Medio</translation>
+    </message>
+    <message>
+        <source>Large</source>
+        <translation>Grande</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nessuno</translation>
+    </message>
+    <message>
+        <source>Calculator</source>
+        <translation>Calcolatrice</translation>
+    </message>
+    <message>
+        <source>Quick Switch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colors...</source>
+        <translation>Colori...</translation>
+    </message>
+    <message>
+        <source>Tap:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Theme:</source>
+        <translation>Tema:</translation>
+    </message>
+    <message>
+        <source>Lines:</source>
+        <translation>Righe:</translation>
+    </message>
+    <message>
+        <source>Font:</source>
+        <translation>Carattere:</translation>
+    </message>
+    <message>
+        <source>Border:</source>
+        <translation>Bordo:</translation>
+    </message>
+    <message>
+        <source>Above</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Within</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Static</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Swapped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoomed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Foreground</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Strong</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Heavy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show:</source>
+        <translation>Mostra:</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Dimensione:</translation>
+    </message>
+    <message>
+        <source>Keys:</source>
+        <translation>Tasti:</translation>
+    </message>
+    <message>
+        <source>Color:</source>
+        <translation>Colore:</translation>
+    </message>
+    <message>
+        <source>Active:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shadow:</source>
+        <translation>Ombra:</translation>
+    </message>
+    <message>
+        <source>Time Value of Money</source>
+        <translation>Valore temporale del denaro</translation>
+    </message>
+    <message>
+        <source>Statistical Registers</source>
+        <translation>Registri statistici</translation>
+    </message>
+    <message>
+        <source>Cash Flow Entries</source>
+        <translation>Flussi di cassa</translation>
+    </message>
+    <message>
+        <source>%1: %2 unchanged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Amount</source>
+        <translation>Importo</translation>
+    </message>
+    <message>
+        <source>Schedule...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Solve</source>
+        <translation>Risolvi</translation>
+    </message>
+    <message>
+        <source>Solve %1</source>
+        <translation>Risolvi %1</translation>
+    </message>
+    <message>
+        <source>Amortization Schedule</source>
+        <translation>Piano di ammortamento</translation>
+    </message>
+    <message>
+        <source>Payments</source>
+        <translation>Rate</translation>
+    </message>
+    <message>
+        <source>Int</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export CSV...</source>
+        <translation>Esporta CSV...</translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation>Totale</translation>
+    </message>
+    <message>
+        <source>Listed up to payment %1 of %2: the amortization keys reach no further.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export CSV</source>
+        <translation>Esporta CSV</translation>
+    </message>
+    <message>
+        <source>CSV files (*.csv)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The schedule could not be written to %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Date &amp; Time</source>
+        <translation>Data &amp; ora</translation>
+    </message>
+    <message>
+        <source>Stack levels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Try again, or quit without saving what changed since the last save?</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>
