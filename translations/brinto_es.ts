@@ -5,222 +5,222 @@
     <name>Constant</name>
     <message>
         <source>Avogadro&apos;s number, NA</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de Avogadro, NA</translation>
     </message>
     <message>
         <source>Boltzmann constant, k</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de Boltzmann, k</translation>
     </message>
     <message>
         <source>Molar volume, Vm</source>
-        <translation type="unfinished"></translation>
+        <translation>Volumen molar, Vm</translation>
     </message>
     <message>
         <source>Universal gas constant, R</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante universal de los gases, R</translation>
     </message>
     <message>
         <source>Standard temperature, StdT</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura normal, StdT</translation>
     </message>
     <message>
         <source>Standard pressure, StdP</source>
-        <translation type="unfinished"></translation>
+        <translation>Presión normal, StdP</translation>
     </message>
     <message>
         <source>Stefan-Boltzmann constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de Stefan-Boltzmann</translation>
     </message>
     <message>
         <source>Speed of light in vacuum, c</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad de la luz en el vacío, c</translation>
     </message>
     <message>
         <source>Permittivity of vacuum</source>
-        <translation type="unfinished"></translation>
+        <translation>Permitividad del vacío</translation>
     </message>
     <message>
         <source>Permeability of vacuum</source>
-        <translation type="unfinished"></translation>
+        <translation>Permeabilidad del vacío</translation>
     </message>
     <message>
         <source>Acceleration of gravity, g</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceleración de la gravedad, g</translation>
     </message>
     <message>
         <source>Gravitational constant, G</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante gravitacional, G</translation>
     </message>
     <message>
         <source>Planck&apos;s constant, h</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de Planck, h</translation>
     </message>
     <message>
         <source>Dirac&apos;s constant, hbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de Planck reducida, hbar</translation>
     </message>
     <message>
         <source>Electron charge, q</source>
-        <translation type="unfinished"></translation>
+        <translation>Carga del electrón, q</translation>
     </message>
     <message>
         <source>Electron rest mass, me</source>
-        <translation type="unfinished"></translation>
+        <translation>Masa en reposo del electrón, me</translation>
     </message>
     <message>
         <source>q/me, qme</source>
-        <translation type="unfinished"></translation>
+        <translation>q/me, qme</translation>
     </message>
     <message>
         <source>Proton rest mass, mp</source>
-        <translation type="unfinished"></translation>
+        <translation>Masa en reposo del protón, mp</translation>
     </message>
     <message>
         <source>mp/me, mpme</source>
-        <translation type="unfinished"></translation>
+        <translation>mp/me, mpme</translation>
     </message>
     <message>
         <source>Fine structure constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de estructura fina</translation>
     </message>
     <message>
         <source>Magnetic flux quantum</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuanto de flujo magnético</translation>
     </message>
     <message>
         <source>Faraday constant, F</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de Faraday, F</translation>
     </message>
     <message>
         <source>Rydberg constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de Rydberg</translation>
     </message>
     <message>
         <source>Bohr radius, a0</source>
-        <translation type="unfinished"></translation>
+        <translation>Radio de Bohr, a0</translation>
     </message>
     <message>
         <source>Bohr magneton</source>
-        <translation type="unfinished"></translation>
+        <translation>Magnetón de Bohr</translation>
     </message>
     <message>
         <source>Nuclear magneton</source>
-        <translation type="unfinished"></translation>
+        <translation>Magnetón nuclear</translation>
     </message>
     <message>
         <source>Photon wavelength (ch/e)</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitud de onda del fotón (ch/e)</translation>
     </message>
     <message>
         <source>Photon frequency (e/h)</source>
-        <translation type="unfinished"></translation>
+        <translation>Frecuencia del fotón (e/h)</translation>
     </message>
     <message>
         <source>Compton wavelength</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitud de onda de Compton</translation>
     </message>
     <message>
         <source>Wien displacement constant, c3</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de desplazamiento de Wien, c3</translation>
     </message>
     <message>
         <source>Dielectric constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante dieléctrica</translation>
     </message>
     <message>
         <source>SiO2 dielectric constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante dieléctrica del SiO2</translation>
     </message>
     <message>
         <source>Reference intensity, I0</source>
-        <translation type="unfinished"></translation>
+        <translation>Intensidad de referencia, I0</translation>
     </message>
 </context>
 <context>
     <name>KeyMeaning</name>
     <message>
         <source>Digit 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Dígito 0</translation>
     </message>
     <message>
         <source>Digit 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dígito 1</translation>
     </message>
     <message>
         <source>Digit 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Dígito 2</translation>
     </message>
     <message>
         <source>Digit 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Dígito 3</translation>
     </message>
     <message>
         <source>Digit 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Dígito 4</translation>
     </message>
     <message>
         <source>Digit 5</source>
-        <translation type="unfinished"></translation>
+        <translation>Dígito 5</translation>
     </message>
     <message>
         <source>Digit 6</source>
-        <translation type="unfinished"></translation>
+        <translation>Dígito 6</translation>
     </message>
     <message>
         <source>Digit 7</source>
-        <translation type="unfinished"></translation>
+        <translation>Dígito 7</translation>
     </message>
     <message>
         <source>Digit 8</source>
-        <translation type="unfinished"></translation>
+        <translation>Dígito 8</translation>
     </message>
     <message>
         <source>Digit 9</source>
-        <translation type="unfinished"></translation>
+        <translation>Dígito 9</translation>
     </message>
     <message>
         <source>Hexadecimal digit A (10)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dígito hexadecimal A (10)</translation>
     </message>
     <message>
         <source>Hexadecimal digit B (11)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dígito hexadecimal B (11)</translation>
     </message>
     <message>
         <source>Hexadecimal digit C (12)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dígito hexadecimal C (12)</translation>
     </message>
     <message>
         <source>Hexadecimal digit D (13)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dígito hexadecimal D (13)</translation>
     </message>
     <message>
         <source>Hexadecimal digit E (14)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dígito hexadecimal E (14)</translation>
     </message>
     <message>
         <source>E (in an integer base)</source>
-        <translation type="unfinished"></translation>
+        <translation>E (en una base entera)</translation>
     </message>
     <message>
         <source>Hexadecimal digit F (15)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dígito hexadecimal F (15)</translation>
     </message>
     <message>
         <source>Decimal point</source>
-        <translation type="unfinished"></translation>
+        <translation>Separador decimal</translation>
     </message>
     <message>
         <source>. or ,</source>
-        <translation type="unfinished"></translation>
+        <translation>. o ,</translation>
     </message>
     <message>
         <source>Decimal point (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Separador decimal (segunda tecla)</translation>
     </message>
     <message>
         <source>Enter exponent</source>
-        <translation type="unfinished"></translation>
+        <translation>Introducir exponente</translation>
     </message>
     <message>
         <source>Change sign</source>
@@ -228,15 +228,15 @@
     </message>
     <message>
         <source>Backspace</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroceso</translation>
     </message>
     <message>
         <source>Enter</source>
-        <translation type="unfinished"></translation>
+        <translation>Intro</translation>
     </message>
     <message>
         <source>Enter (RPN)</source>
-        <translation type="unfinished"></translation>
+        <translation>Intro (RPN)</translation>
     </message>
     <message>
         <source>Add</source>
@@ -252,7 +252,7 @@
     </message>
     <message>
         <source>* or X</source>
-        <translation type="unfinished"></translation>
+        <translation>* o X</translation>
     </message>
     <message>
         <source>Divide</source>
@@ -260,111 +260,111 @@
     </message>
     <message>
         <source>Equals: complete the calculation</source>
-        <translation type="unfinished"></translation>
+        <translation>Igual: completar el cálculo</translation>
     </message>
     <message>
         <source>= or Enter</source>
-        <translation type="unfinished"></translation>
+        <translation>= o Intro</translation>
     </message>
     <message>
         <source>Shift: the keys&apos; second functions</source>
-        <translation type="unfinished"></translation>
+        <translation>Mayús: las segundas funciones de las teclas</translation>
     </message>
     <message>
         <source>Show all digits, dates as numbers (toggle)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar todos los dígitos, fechas como números (alternar)</translation>
     </message>
     <message>
         <source>Clear all: stack, registers and macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar todo: pila, registros y macro</translation>
     </message>
     <message>
         <source>Clear stack</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar la pila</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Supr</translation>
     </message>
     <message>
         <source>Clear X</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar X</translation>
     </message>
     <message>
         <source>Clear all (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar todo (segunda tecla)</translation>
     </message>
     <message>
         <source>Clear stack (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar la pila (segunda tecla)</translation>
     </message>
     <message>
         <source>Clear X (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar X (segunda tecla)</translation>
     </message>
     <message>
         <source>Clear user, financial and statistical registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar los registros de usuario, financieros y estadísticos</translation>
     </message>
     <message>
         <source>Clear the financial registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar los registros financieros</translation>
     </message>
     <message>
         <source>Clear the statistical sums</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar las sumas estadísticas</translation>
     </message>
     <message>
         <source>Roll the stack down</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotar la pila hacia abajo</translation>
     </message>
     <message>
         <source>Roll the stack up</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotar la pila hacia arriba</translation>
     </message>
     <message>
         <source>Drop X</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar X</translation>
     </message>
     <message>
         <source>Fill the stack with X</source>
-        <translation type="unfinished"></translation>
+        <translation>Llenar la pila con X</translation>
     </message>
     <message>
         <source>Exchange X and Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Intercambiar X e Y</translation>
     </message>
     <message>
         <source>Store X in a register</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar X en un registro</translation>
     </message>
     <message>
         <source>Last X</source>
-        <translation type="unfinished"></translation>
+        <translation>Último X</translation>
     </message>
     <message>
         <source>Recall a register</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuperar un registro</translation>
     </message>
     <message>
         <source>Exchange X with a register</source>
-        <translation type="unfinished"></translation>
+        <translation>Intercambiar X con un registro</translation>
     </message>
     <message>
         <source>Open parenthesis</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir paréntesis</translation>
     </message>
     <message>
         <source>Close parenthesis</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar paréntesis</translation>
     </message>
     <message>
         <source>Percent of total: X as a percentage of Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Porcentaje del total: X como porcentaje de Y</translation>
     </message>
     <message>
         <source>Percent change from Y to X</source>
-        <translation type="unfinished"></translation>
+        <translation>Variación porcentual de Y a X</translation>
     </message>
     <message>
         <source>Percent</source>
@@ -372,15 +372,15 @@
     </message>
     <message>
         <source>Round X to the digits shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Redondear X a los dígitos mostrados</translation>
     </message>
     <message>
         <source>Integer part</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte entera</translation>
     </message>
     <message>
         <source>Absolute value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor absoluto</translation>
     </message>
     <message>
         <source>Square root</source>
@@ -392,39 +392,39 @@
     </message>
     <message>
         <source>Cube root</source>
-        <translation type="unfinished"></translation>
+        <translation>Raíz cúbica</translation>
     </message>
     <message>
         <source>Cube</source>
-        <translation type="unfinished"></translation>
+        <translation>Cubo</translation>
     </message>
     <message>
         <source>Power: Y raised to X</source>
-        <translation type="unfinished"></translation>
+        <translation>Potencia: Y elevado a X</translation>
     </message>
     <message>
         <source>Reciprocal</source>
-        <translation type="unfinished"></translation>
+        <translation>Inverso</translation>
     </message>
     <message>
         <source>Fractional part</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte fraccionaria</translation>
     </message>
     <message>
         <source>Remainder of Y divided by X</source>
-        <translation type="unfinished"></translation>
+        <translation>Resto de Y dividido entre X</translation>
     </message>
     <message>
         <source>Payments at the beginning or end of periods (toggle)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagos al inicio o al final de los periodos (alternar)</translation>
     </message>
     <message>
         <source>Number of payments</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de pagos</translation>
     </message>
     <message>
         <source>Nominal annual interest rate, percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de interés nominal anual, en porcentaje</translation>
     </message>
     <message>
         <source>Present value</source>
@@ -432,7 +432,7 @@
     </message>
     <message>
         <source>Payment per period</source>
-        <translation type="unfinished"></translation>
+        <translation>Pago por periodo</translation>
     </message>
     <message>
         <source>Future value</source>
@@ -440,63 +440,63 @@
     </message>
     <message>
         <source>Payments per year</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagos por año</translation>
     </message>
     <message>
         <source>Nominal annual interest rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de interés nominal anual</translation>
     </message>
     <message>
         <source>Effective annual interest rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de interés efectivo anual</translation>
     </message>
     <message>
         <source>Years times payments per year, stored in N</source>
-        <translation type="unfinished"></translation>
+        <translation>Años por pagos al año, guardado en N</translation>
     </message>
     <message>
         <source>Divide by payments per year</source>
-        <translation type="unfinished"></translation>
+        <translation>Dividir entre los pagos por año</translation>
     </message>
     <message>
         <source>Cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Coste</translation>
     </message>
     <message>
         <source>Price</source>
-        <translation type="unfinished"></translation>
+        <translation>Precio</translation>
     </message>
     <message>
         <source>Margin, percent of price</source>
-        <translation type="unfinished"></translation>
+        <translation>Margen, porcentaje del precio</translation>
     </message>
     <message>
         <source>Markup, percent of cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Recargo, porcentaje del coste</translation>
     </message>
     <message>
         <source>Amortize a range of payments</source>
-        <translation type="unfinished"></translation>
+        <translation>Amortizar una serie de pagos</translation>
     </message>
     <message>
         <source>Amortize the next range of payments</source>
-        <translation type="unfinished"></translation>
+        <translation>Amortizar la siguiente serie de pagos</translation>
     </message>
     <message>
         <source>Cash flow: append X to the cash flows</source>
-        <translation type="unfinished"></translation>
+        <translation>Flujo de caja: añadir X a los flujos</translation>
     </message>
     <message>
         <source>Times the last cash flow repeats</source>
-        <translation type="unfinished"></translation>
+        <translation>Repeticiones del último flujo</translation>
     </message>
     <message>
         <source>Net present value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor actual neto</translation>
     </message>
     <message>
         <source>Internal rate of return per year</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasa interna de rentabilidad anual</translation>
     </message>
     <message>
         <source>Sine</source>
@@ -512,623 +512,623 @@
     </message>
     <message>
         <source>Arc sine</source>
-        <translation type="unfinished"></translation>
+        <translation>Arcoseno</translation>
     </message>
     <message>
         <source>Arc cosine</source>
-        <translation type="unfinished"></translation>
+        <translation>Arcocoseno</translation>
     </message>
     <message>
         <source>Arc tangent</source>
-        <translation type="unfinished"></translation>
+        <translation>Arcotangente</translation>
     </message>
     <message>
         <source>Pi</source>
-        <translation type="unfinished"></translation>
+        <translation>Pi</translation>
     </message>
     <message>
         <source>Hyperbolic prefix for the next function</source>
-        <translation type="unfinished"></translation>
+        <translation>Prefijo hiperbólico para la siguiente función</translation>
     </message>
     <message>
         <source>Natural logarithm</source>
-        <translation type="unfinished"></translation>
+        <translation>Logaritmo natural</translation>
     </message>
     <message>
         <source>Common logarithm</source>
-        <translation type="unfinished"></translation>
+        <translation>Logaritmo decimal</translation>
     </message>
     <message>
         <source>Natural exponential</source>
-        <translation type="unfinished"></translation>
+        <translation>Exponencial</translation>
     </message>
     <message>
         <source>Power of ten</source>
-        <translation type="unfinished"></translation>
+        <translation>Potencia de diez</translation>
     </message>
     <message>
         <source>Angles in degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Ángulos en grados</translation>
     </message>
     <message>
         <source>Angles in radians</source>
-        <translation type="unfinished"></translation>
+        <translation>Ángulos en radianes</translation>
     </message>
     <message>
         <source>Angles in grads</source>
-        <translation type="unfinished"></translation>
+        <translation>Ángulos en gradianes</translation>
     </message>
     <message>
         <source>Radians to degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Radianes a grados</translation>
     </message>
     <message>
         <source>Degrees to radians</source>
-        <translation type="unfinished"></translation>
+        <translation>Grados a radianes</translation>
     </message>
     <message>
         <source>Polar to rectangular</source>
-        <translation type="unfinished"></translation>
+        <translation>Polar a rectangular</translation>
     </message>
     <message>
         <source>Rectangular to polar</source>
-        <translation type="unfinished"></translation>
+        <translation>Rectangular a polar</translation>
     </message>
     <message>
         <source>Hours to hours.minutes-seconds (h.mmss)</source>
-        <translation type="unfinished"></translation>
+        <translation>Horas a horas.minutos-segundos (h.mmss)</translation>
     </message>
     <message>
         <source>Hours.minutes-seconds (h.mmss) to hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Horas.minutos-segundos (h.mmss) a horas</translation>
     </message>
     <message>
         <source>Add the point (X, Y) to the sums</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir el punto (X, Y) a las sumas</translation>
     </message>
     <message>
         <source>Remove the point (X, Y) from the sums</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar el punto (X, Y) de las sumas</translation>
     </message>
     <message>
         <source>Sum of x</source>
-        <translation type="unfinished"></translation>
+        <translation>Suma de x</translation>
     </message>
     <message>
         <source>Sum of x squared</source>
-        <translation type="unfinished"></translation>
+        <translation>Suma de x al cuadrado</translation>
     </message>
     <message>
         <source>Sum of y</source>
-        <translation type="unfinished"></translation>
+        <translation>Suma de y</translation>
     </message>
     <message>
         <source>Sum of y squared</source>
-        <translation type="unfinished"></translation>
+        <translation>Suma de y al cuadrado</translation>
     </message>
     <message>
         <source>Sum of the products xy</source>
-        <translation type="unfinished"></translation>
+        <translation>Suma de los productos xy</translation>
     </message>
     <message>
         <source>Number of points</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de puntos</translation>
     </message>
     <message>
         <source>Mean of x</source>
-        <translation type="unfinished"></translation>
+        <translation>Media de x</translation>
     </message>
     <message>
         <source>Mean of x weighted by y</source>
-        <translation type="unfinished"></translation>
+        <translation>Media de x ponderada por y</translation>
     </message>
     <message>
         <source>Mean of y</source>
-        <translation type="unfinished"></translation>
+        <translation>Media de y</translation>
     </message>
     <message>
         <source>Estimated x for the y in X; r in Y</source>
-        <translation type="unfinished"></translation>
+        <translation>x estimada para la y de X; r en Y</translation>
     </message>
     <message>
         <source>Estimated y for the x in X; slope in Y</source>
-        <translation type="unfinished"></translation>
+        <translation>y estimada para la x de X; pendiente en Y</translation>
     </message>
     <message>
         <source>Random number</source>
-        <translation type="unfinished"></translation>
+        <translation>Número aleatorio</translation>
     </message>
     <message>
         <source>Factorial</source>
-        <translation type="unfinished"></translation>
+        <translation>Factorial</translation>
     </message>
     <message>
         <source>Logarithm of the gamma function</source>
-        <translation type="unfinished"></translation>
+        <translation>Logaritmo de la función gamma</translation>
     </message>
     <message>
         <source>Sample standard deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>Desviación típica muestral</translation>
     </message>
     <message>
         <source>Population standard deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>Desviación típica poblacional</translation>
     </message>
     <message>
         <source>Combinations of X items from Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinaciones de X elementos de Y</translation>
     </message>
     <message>
         <source>Permutations of X items from Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Permutaciones de X elementos de Y</translation>
     </message>
     <message>
         <source>Binary entry and display</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada y visualización binarias</translation>
     </message>
     <message>
         <source>Octal entry and display</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada y visualización octales</translation>
     </message>
     <message>
         <source>Decimal integer entry and display</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada y visualización de enteros decimales</translation>
     </message>
     <message>
         <source>Hexadecimal entry and display</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada y visualización hexadecimales</translation>
     </message>
     <message>
         <source>Bitwise AND</source>
-        <translation type="unfinished"></translation>
+        <translation>Y bit a bit</translation>
     </message>
     <message>
         <source>Bitwise OR</source>
-        <translation type="unfinished"></translation>
+        <translation>O bit a bit</translation>
     </message>
     <message>
         <source>Bitwise exclusive OR</source>
-        <translation type="unfinished"></translation>
+        <translation>O exclusivo bit a bit</translation>
     </message>
     <message>
         <source>Bitwise NOT</source>
-        <translation type="unfinished"></translation>
+        <translation>NO bit a bit</translation>
     </message>
     <message>
         <source>Shift Y left by X bits</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazar Y X bits a la izquierda</translation>
     </message>
     <message>
         <source>Shift Y right by X bits (logical)</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazar Y X bits a la derecha (lógico)</translation>
     </message>
     <message>
         <source>Arithmetic shift right, keeping the sign</source>
-        <translation type="unfinished"></translation>
+        <translation>Desplazamiento aritmético a la derecha, conservando el signo</translation>
     </message>
     <message>
         <source>Rotate Y right by X bits</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotar Y X bits a la derecha</translation>
     </message>
     <message>
         <source>Inches</source>
-        <translation type="unfinished"></translation>
+        <translation>Pulgadas</translation>
     </message>
     <message>
         <source>Feet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pies</translation>
     </message>
     <message>
         <source>Miles</source>
-        <translation type="unfinished"></translation>
+        <translation>Millas</translation>
     </message>
     <message>
         <source>Meters</source>
-        <translation type="unfinished"></translation>
+        <translation>Metros</translation>
     </message>
     <message>
         <source>Square inches</source>
-        <translation type="unfinished"></translation>
+        <translation>Pulgadas cuadradas</translation>
     </message>
     <message>
         <source>Square feet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pies cuadrados</translation>
     </message>
     <message>
         <source>Square miles</source>
-        <translation type="unfinished"></translation>
+        <translation>Millas cuadradas</translation>
     </message>
     <message>
         <source>Square meters</source>
-        <translation type="unfinished"></translation>
+        <translation>Metros cuadrados</translation>
     </message>
     <message>
         <source>Pounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Libras</translation>
     </message>
     <message>
         <source>Ounces</source>
-        <translation type="unfinished"></translation>
+        <translation>Onzas</translation>
     </message>
     <message>
         <source>Kilograms</source>
-        <translation type="unfinished"></translation>
+        <translation>Kilogramos</translation>
     </message>
     <message>
         <source>Grams</source>
-        <translation type="unfinished"></translation>
+        <translation>Gramos</translation>
     </message>
     <message>
         <source>Inches per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Pulgadas por segundo</translation>
     </message>
     <message>
         <source>Feet per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Pies por segundo</translation>
     </message>
     <message>
         <source>Meters per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Metros por segundo</translation>
     </message>
     <message>
         <source>Miles per hour</source>
-        <translation type="unfinished"></translation>
+        <translation>Millas por hora</translation>
     </message>
     <message>
         <source>Kilometers per hour</source>
-        <translation type="unfinished"></translation>
+        <translation>Kilómetros por hora</translation>
     </message>
     <message>
         <source>Centimeters per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Centímetros por segundo</translation>
     </message>
     <message>
         <source>US gallons</source>
-        <translation type="unfinished"></translation>
+        <translation>Galones EE. UU.</translation>
     </message>
     <message>
         <source>Milliliters</source>
-        <translation type="unfinished"></translation>
+        <translation>Mililitros</translation>
     </message>
     <message>
         <source>Liters</source>
-        <translation type="unfinished"></translation>
+        <translation>Litros</translation>
     </message>
     <message>
         <source>US fluid ounces</source>
-        <translation type="unfinished"></translation>
+        <translation>Onzas líquidas EE. UU.</translation>
     </message>
     <message>
         <source>Degrees Celsius</source>
-        <translation type="unfinished"></translation>
+        <translation>Grados Celsius</translation>
     </message>
     <message>
         <source>Degrees Fahrenheit</source>
-        <translation type="unfinished"></translation>
+        <translation>Grados Fahrenheit</translation>
     </message>
     <message>
         <source>X-th root of Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Raíz X-ésima de Y</translation>
     </message>
     <message>
         <source>8-bit unsigned integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Entero de 8 bits sin signo</translation>
     </message>
     <message>
         <source>8-bit signed integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Entero de 8 bits con signo</translation>
     </message>
     <message>
         <source>16-bit unsigned integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Entero de 16 bits sin signo</translation>
     </message>
     <message>
         <source>16-bit signed integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Entero de 16 bits con signo</translation>
     </message>
     <message>
         <source>32-bit unsigned integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Entero de 32 bits sin signo</translation>
     </message>
     <message>
         <source>32-bit signed integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Entero de 32 bits con signo</translation>
     </message>
     <message>
         <source>Standard number format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato numérico estándar</translation>
     </message>
     <message>
         <source>Scientific format: digits follow</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato científico: siguen los dígitos</translation>
     </message>
     <message>
         <source>Engineering format: digits follow</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de ingeniería: siguen los dígitos</translation>
     </message>
     <message>
         <source>Largest whole number not above X</source>
-        <translation type="unfinished"></translation>
+        <translation>Mayor entero no superior a X</translation>
     </message>
     <message>
         <source>Smallest whole number not below X</source>
-        <translation type="unfinished"></translation>
+        <translation>Menor entero no inferior a X</translation>
     </message>
     <message>
         <source>Change sign of an integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar el signo de un entero</translation>
     </message>
     <message>
         <source>X as an integer of the default format</source>
-        <translation type="unfinished"></translation>
+        <translation>X como entero del formato predeterminado</translation>
     </message>
     <message>
         <source>Integer add</source>
-        <translation type="unfinished"></translation>
+        <translation>Suma entera</translation>
     </message>
     <message>
         <source>Integer subtract</source>
-        <translation type="unfinished"></translation>
+        <translation>Resta entera</translation>
     </message>
     <message>
         <source>Integer multiply</source>
-        <translation type="unfinished"></translation>
+        <translation>Multiplicación entera</translation>
     </message>
     <message>
         <source>Integer divide</source>
-        <translation type="unfinished"></translation>
+        <translation>División entera</translation>
     </message>
     <message>
         <source>Fixed format: digits follow</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato fijo: siguen los dígitos</translation>
     </message>
     <message>
         <source>Clear the date registers and duration settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar los registros de fecha y los ajustes de duración</translation>
     </message>
     <message>
         <source>The current date and time</source>
-        <translation type="unfinished"></translation>
+        <translation>La fecha y hora actuales</translation>
     </message>
     <message>
         <source>Date: X typed as Y.MMDD becomes a date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha: X escrito como A.MMDD pasa a ser una fecha</translation>
     </message>
     <message>
         <source>Time: X typed as H.MMSS becomes a clock time</source>
-        <translation type="unfinished"></translation>
+        <translation>Hora: X escrito como H.MMSS pasa a ser una hora</translation>
     </message>
     <message>
         <source>Years</source>
-        <translation type="unfinished"></translation>
+        <translation>Años</translation>
     </message>
     <message>
         <source>Months</source>
-        <translation type="unfinished"></translation>
+        <translation>Meses</translation>
     </message>
     <message>
         <source>Weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>Semanas</translation>
     </message>
     <message>
         <source>Days</source>
-        <translation type="unfinished"></translation>
+        <translation>Días</translation>
     </message>
     <message>
         <source>Hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Horas</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutos</translation>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos</translation>
     </message>
     <message>
         <source>Frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotogramas</translation>
     </message>
     <message>
         <source>Hours.minutes-seconds (h.mmss) to frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Horas.minutos-segundos (h.mmss) a fotogramas</translation>
     </message>
     <message>
         <source>Days per year</source>
-        <translation type="unfinished"></translation>
+        <translation>Días por año</translation>
     </message>
     <message>
         <source>Days per month</source>
-        <translation type="unfinished"></translation>
+        <translation>Días por mes</translation>
     </message>
     <message>
         <source>Days per week</source>
-        <translation type="unfinished"></translation>
+        <translation>Días por semana</translation>
     </message>
     <message>
         <source>Hours per day</source>
-        <translation type="unfinished"></translation>
+        <translation>Horas por día</translation>
     </message>
     <message>
         <source>Frames per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotogramas por segundo</translation>
     </message>
     <message>
         <source>Date part of a date and time</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte de fecha de una fecha y hora</translation>
     </message>
     <message>
         <source>Time part of a date and time</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte de hora de una fecha y hora</translation>
     </message>
     <message>
         <source>Fraction of a duration in the next smaller unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Fracción de una duración en la unidad menor siguiente</translation>
     </message>
     <message>
         <source>Enter (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Intro (segunda tecla)</translation>
     </message>
     <message>
         <source>Rotate the three lowest levels</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotar los tres niveles inferiores</translation>
     </message>
     <message>
         <source>Over: a copy of Y onto the stack</source>
-        <translation type="unfinished"></translation>
+        <translation>Over: una copia de Y a la pila</translation>
     </message>
     <message>
         <source>Simple input: in the order entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada simple: en el orden introducido</translation>
     </message>
     <message>
         <source>Precedence input: × and ÷ before + and −</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada con precedencia: × y ÷ antes que + y −</translation>
     </message>
     <message>
         <source>RPN input: operands first</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada RPN: primero los operandos</translation>
     </message>
     <message>
         <source>Record a macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabar una macro</translation>
     </message>
     <message>
         <source>Play the macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir la macro</translation>
     </message>
     <message>
         <source>Pause the macro for input</source>
-        <translation type="unfinished"></translation>
+        <translation>Pausar la macro para una entrada</translation>
     </message>
     <message>
         <source>Stop recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Detener la grabación</translation>
     </message>
     <message>
         <source>Centimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Centímetros</translation>
     </message>
     <message>
         <source>Millimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Milímetros</translation>
     </message>
     <message>
         <source>Yards</source>
-        <translation type="unfinished"></translation>
+        <translation>Yardas</translation>
     </message>
     <message>
         <source>Kilometers</source>
-        <translation type="unfinished"></translation>
+        <translation>Kilómetros</translation>
     </message>
     <message>
         <source>Nautical miles</source>
-        <translation type="unfinished"></translation>
+        <translation>Millas náuticas</translation>
     </message>
     <message>
         <source>Square millimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Milímetros cuadrados</translation>
     </message>
     <message>
         <source>Square centimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Centímetros cuadrados</translation>
     </message>
     <message>
         <source>Square kilometers</source>
-        <translation type="unfinished"></translation>
+        <translation>Kilómetros cuadrados</translation>
     </message>
     <message>
         <source>Square yards</source>
-        <translation type="unfinished"></translation>
+        <translation>Yardas cuadradas</translation>
     </message>
     <message>
         <source>Acres</source>
-        <translation type="unfinished"></translation>
+        <translation>Acres</translation>
     </message>
     <message>
         <source>Short tons (2,000 pounds)</source>
-        <translation type="unfinished"></translation>
+        <translation>Toneladas cortas (2000 libras)</translation>
     </message>
     <message>
         <source>Milligrams</source>
-        <translation type="unfinished"></translation>
+        <translation>Miligramos</translation>
     </message>
     <message>
         <source>Knots</source>
-        <translation type="unfinished"></translation>
+        <translation>Nudos</translation>
     </message>
     <message>
         <source>Cubic meters</source>
-        <translation type="unfinished"></translation>
+        <translation>Metros cúbicos</translation>
     </message>
     <message>
         <source>Cubic centimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Centímetros cúbicos</translation>
     </message>
     <message>
         <source>Cubic yards</source>
-        <translation type="unfinished"></translation>
+        <translation>Yardas cúbicas</translation>
     </message>
     <message>
         <source>Cubic feet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pies cúbicos</translation>
     </message>
     <message>
         <source>Cubic inches</source>
-        <translation type="unfinished"></translation>
+        <translation>Pulgadas cúbicas</translation>
     </message>
     <message>
         <source>US quarts</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuartos EE. UU.</translation>
     </message>
     <message>
         <source>US pints</source>
-        <translation type="unfinished"></translation>
+        <translation>Pintas EE. UU.</translation>
     </message>
     <message>
         <source>US cups</source>
-        <translation type="unfinished"></translation>
+        <translation>Tazas EE. UU.</translation>
     </message>
     <message>
         <source>Tablespoons</source>
-        <translation type="unfinished"></translation>
+        <translation>Cucharadas</translation>
     </message>
     <message>
         <source>Teaspoons</source>
-        <translation type="unfinished"></translation>
+        <translation>Cucharaditas</translation>
     </message>
     <message>
         <source>Imperial gallons</source>
-        <translation type="unfinished"></translation>
+        <translation>Galones imperiales</translation>
     </message>
     <message>
         <source>Imperial fluid ounces</source>
-        <translation type="unfinished"></translation>
+        <translation>Onzas líquidas imperiales</translation>
     </message>
     <message>
         <source>Amortize a range of payments (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Amortizar una serie de pagos (segunda tecla)</translation>
     </message>
     <message>
         <source>Recall one of 100 registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuperar uno de 100 registros</translation>
     </message>
     <message>
         <source>Exchange X with one of 100 registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Intercambiar X con uno de 100 registros</translation>
     </message>
     <message>
         <source>Store X in one of 100 registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar X en uno de 100 registros</translation>
     </message>
     <message>
         <source>First shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Primera Mayús</translation>
     </message>
     <message>
         <source>Second shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Segunda Mayús</translation>
     </message>
 </context>
 <context>
@@ -1139,7 +1139,7 @@
     </message>
     <message>
         <source>The Keyboard dialog can be used to assign a function to this button.</source>
-        <translation type="unfinished"></translation>
+        <translation>El diálogo Teclado permite asignar una función a esta tecla.</translation>
     </message>
     <message>
         <source>Clear All</source>
@@ -1147,7 +1147,7 @@
     </message>
     <message>
         <source>This operation will clear the operating stack and all user, financial, statistical, and date registers, and the keyboard macro.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta operación borrará la pila de operaciones, todos los registros de usuario, financieros, estadísticos y de fecha, y la macro de teclado.</translation>
     </message>
     <message>
         <source>Nothing to Undo</source>
@@ -1155,7 +1155,7 @@
     </message>
     <message>
         <source>There are no operations to be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay operaciones que deshacer.</translation>
     </message>
     <message>
         <source>Nothing to Redo</source>
@@ -1163,7 +1163,7 @@
     </message>
     <message>
         <source>There are no undo actions to be redone.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay acciones deshechas que rehacer.</translation>
     </message>
     <message>
         <source>No Macro</source>
@@ -1171,50 +1171,50 @@
     </message>
     <message>
         <source>A macro must be recorded before it can be played back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay que grabar una macro antes de poder reproducirla.</translation>
     </message>
     <message>
         <source>Macro Length Exceeded</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro demasiado larga</translation>
     </message>
     <message>
         <source>The macro length has been exceeded and the last key could not be recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha superado la longitud de la macro y no se pudo grabar la última tecla.</translation>
     </message>
 </context>
 <context>
     <name>Theme</name>
     <message>
         <source>Default Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color predeterminado</translation>
     </message>
     <message>
         <source>Default Grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>Grises predeterminado</translation>
     </message>
     <message>
         <source>Default B&amp;W</source>
-        <translation type="unfinished"></translation>
+        <translation>Blanco y negro predeterminado</translation>
     </message>
     <message>
         <source>Original Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color original</translation>
     </message>
     <message>
         <source>Original Grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>Grises original</translation>
     </message>
     <message>
         <source>Original B&amp;W</source>
-        <translation type="unfinished"></translation>
+        <translation>Blanco y negro original</translation>
     </message>
     <message>
         <source>Light Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondo claro</translation>
     </message>
     <message>
         <source>Dark Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondo oscuro</translation>
     </message>
 </context>
 <context>
@@ -1243,7 +1243,17 @@
 - The input method can be specified  at any time in the Preferences dialog
 
 - See the Comparison of Input Methods section of the User Guide for more details</source>
-        <translation type="unfinished"></translation>
+        <translation>Elija un método de entrada que determine cómo calcula Brinto:
+
+- Simple es un orden infijo en el que las operaciones se realizan en el orden en que se introducen; por ejemplo, 2 + 3 * 5 = da 25
+
+- Precedencia es también un orden infijo en el que las operaciones binarias se realizan antes que la multiplicación y la división, y estas antes que la suma y la resta, lo que reduce la necesidad de paréntesis; por ejemplo, 2 + 3 * 5 = da 17
+
+- RPN (notación polaca inversa) es un orden postfijo en el que los operandos se introducen antes de la operación; por ejemplo, 2 Intro 3 + 5 * da 25 y 2 Intro 3 Intro 5 * + da 17
+
+- El método de entrada puede cambiarse en cualquier momento en Preferencias
+
+- Vea la sección «Comparison of Input Methods» de la guía del usuario (en inglés) para más detalles</translation>
     </message>
     <message>
         <source>Input Method</source>
@@ -1275,7 +1285,7 @@
     </message>
     <message>
         <source>sqrt, x^2, pv, Square root...</source>
-        <translation type="unfinished"></translation>
+        <translation>sqrt, x^2, pv, Raíz cuadrada...</translation>
     </message>
     <message>
         <source>&amp;Matching keys:</source>
@@ -1463,31 +1473,31 @@
     </message>
     <message>
         <source>Gen</source>
-        <translation type="unfinished"></translation>
+        <translation>Gen</translation>
     </message>
     <message>
         <source>Fin</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin</translation>
     </message>
     <message>
         <source>Sci</source>
-        <translation type="unfinished"></translation>
+        <translation>Cien</translation>
     </message>
     <message>
         <source>Stat</source>
-        <translation type="unfinished"></translation>
+        <translation>Est</translation>
     </message>
     <message>
         <source>Prog</source>
-        <translation type="unfinished"></translation>
+        <translation>Prog</translation>
     </message>
     <message>
         <source>Conv 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Conv 1</translation>
     </message>
     <message>
         <source>Conv 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Conv 2</translation>
     </message>
     <message>
         <source>Date</source>
@@ -1496,12 +1506,14 @@
     <message>
         <source>Conv
 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Conv
+1</translation>
     </message>
     <message>
         <source>Conv
 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Conv
+2</translation>
     </message>
     <message>
         <source>The calculator could not be saved.</source>
@@ -1517,7 +1529,7 @@
     </message>
     <message>
         <source>Tape lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Líneas de la cinta</translation>
     </message>
     <message>
         <source>Result</source>
@@ -1525,7 +1537,7 @@
     </message>
     <message>
         <source>Double click or Return recalls a result into X; Ctrl+C copies it</source>
-        <translation type="unfinished"></translation>
+        <translation>Doble clic o Intro recupera un resultado en X; Ctrl+C lo copia</translation>
     </message>
     <message>
         <source>&amp;Recall</source>
@@ -1533,11 +1545,11 @@
     </message>
     <message>
         <source>Recall the selected result into X</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuperar el resultado elegido en X</translation>
     </message>
     <message>
         <source>Copy the selected result</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar el resultado elegido</translation>
     </message>
     <message>
         <source>&amp;Save As...</source>
@@ -1545,7 +1557,7 @@
     </message>
     <message>
         <source>Save the tape as text or CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la cinta como texto o CSV</translation>
     </message>
     <message>
         <source>C&amp;lear</source>
@@ -1553,11 +1565,11 @@
     </message>
     <message>
         <source>Clear the tape</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar la cinta</translation>
     </message>
     <message>
         <source>The tape could not be saved to %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo guardar la cinta en %1: %2</translation>
     </message>
     <message>
         <source>Save Tape</source>
@@ -1565,7 +1577,7 @@
     </message>
     <message>
         <source>Text (*.txt);;CSV (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto (*.txt);;CSV (*.csv)</translation>
     </message>
     <message>
         <source>Color Chooser</source>
@@ -1601,27 +1613,27 @@
     </message>
     <message>
         <source>Standard:</source>
-        <translation type="unfinished"></translation>
+        <translation>Estándar:</translation>
     </message>
     <message>
         <source>Number:</source>
-        <translation type="unfinished"></translation>
+        <translation>Número:</translation>
     </message>
     <message>
         <source>Register:</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro:</translation>
     </message>
     <message>
         <source>Clear:</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrado:</translation>
     </message>
     <message>
         <source>%1 text color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color del texto %1</translation>
     </message>
     <message>
         <source>%1 background color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de fondo %1</translation>
     </message>
     <message>
         <source>Default</source>
@@ -1633,23 +1645,23 @@
     </message>
     <message>
         <source>Days per year (dpy):</source>
-        <translation type="unfinished"></translation>
+        <translation>Días por año (dpy):</translation>
     </message>
     <message>
         <source>Days per month (dpm):</source>
-        <translation type="unfinished"></translation>
+        <translation>Días por mes (dpm):</translation>
     </message>
     <message>
         <source>Days per week (dpw):</source>
-        <translation type="unfinished"></translation>
+        <translation>Días por semana (dpw):</translation>
     </message>
     <message>
         <source>Hours per day (hpd):</source>
-        <translation type="unfinished"></translation>
+        <translation>Horas por día (hpd):</translation>
     </message>
     <message>
         <source>Frames per second (fps):</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotogramas por segundo (fps):</translation>
     </message>
     <message>
         <source>Enter Date</source>
@@ -1661,15 +1673,15 @@
     </message>
     <message>
         <source>Hour</source>
-        <translation type="unfinished"></translation>
+        <translation>Hora</translation>
     </message>
     <message>
         <source>Tens of minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Decenas de minutos</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutos</translation>
     </message>
     <message>
         <source>&amp;Hour:</source>
@@ -1681,11 +1693,11 @@
     </message>
     <message>
         <source>AM</source>
-        <translation type="unfinished"></translation>
+        <translation>AM</translation>
     </message>
     <message>
         <source>PM</source>
-        <translation type="unfinished"></translation>
+        <translation>PM</translation>
     </message>
     <message>
         <source>Durations</source>
@@ -1709,11 +1721,11 @@
     </message>
     <message>
         <source>There are no cash flow entries to display.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay flujos de caja que mostrar.</translation>
     </message>
     <message>
         <source>&lt;h2&gt;User guide missing&lt;/h2&gt;&lt;p&gt;The user guide was not built into this copy of Brinto, so help cannot be shown.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h2&gt;Falta la guía del usuario&lt;/h2&gt;&lt;p&gt;La guía del usuario no se incluyó en esta copia de Brinto, así que no se puede mostrar la ayuda.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Brinto Help</source>
@@ -1733,11 +1745,11 @@
     </message>
     <message>
         <source>Key %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tecla %1: %2</translation>
     </message>
     <message>
         <source>no function</source>
-        <translation type="unfinished"></translation>
+        <translation>sin función</translation>
     </message>
     <message>
         <source>Customize Keyboard</source>
@@ -1753,7 +1765,7 @@
     </message>
     <message>
         <source>Shifted</source>
-        <translation type="unfinished"></translation>
+        <translation>Con Mayús</translation>
     </message>
     <message>
         <source>Available Keys:</source>
@@ -1761,7 +1773,7 @@
     </message>
     <message>
         <source>Available keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Teclado disponible</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -1773,15 +1785,15 @@
     </message>
     <message>
         <source>Amortization chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Gráfico de amortización</translation>
     </message>
     <message>
         <source>Balance after each payment; interest and principal by year</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo tras cada pago; interés y capital por año</translation>
     </message>
     <message>
         <source>Balance after each payment; interest and principal of each payment</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo tras cada pago; interés y capital de cada pago</translation>
     </message>
     <message>
         <source>Year</source>
@@ -1805,15 +1817,15 @@
     </message>
     <message>
         <source>(by year)</source>
-        <translation type="unfinished"></translation>
+        <translation>(por año)</translation>
     </message>
     <message>
         <source>(by payment)</source>
-        <translation type="unfinished"></translation>
+        <translation>(por pago)</translation>
     </message>
     <message>
         <source>Cash-flow diagram</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagrama de flujos de caja</translation>
     </message>
     <message>
         <source>All</source>
@@ -1821,7 +1833,7 @@
     </message>
     <message>
         <source>Standard</source>
-        <translation type="unfinished"></translation>
+        <translation>Estándar</translation>
     </message>
     <message>
         <source>Fixed</source>
@@ -1829,79 +1841,79 @@
     </message>
     <message>
         <source>Engineering</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingeniería</translation>
     </message>
     <message>
         <source>RPN</source>
-        <translation type="unfinished"></translation>
+        <translation>RPN</translation>
     </message>
     <message>
         <source>8-bit unsigned</source>
-        <translation type="unfinished"></translation>
+        <translation>8 bits sin signo</translation>
     </message>
     <message>
         <source>8-bit signed</source>
-        <translation type="unfinished"></translation>
+        <translation>8 bits con signo</translation>
     </message>
     <message>
         <source>16-bit unsigned</source>
-        <translation type="unfinished"></translation>
+        <translation>16 bits sin signo</translation>
     </message>
     <message>
         <source>16-bit signed</source>
-        <translation type="unfinished"></translation>
+        <translation>16 bits con signo</translation>
     </message>
     <message>
         <source>32-bit unsigned</source>
-        <translation type="unfinished"></translation>
+        <translation>32 bits sin signo</translation>
     </message>
     <message>
         <source>32-bit signed</source>
-        <translation type="unfinished"></translation>
+        <translation>32 bits con signo</translation>
     </message>
     <message>
         <source>Sticky</source>
-        <translation type="unfinished"></translation>
+        <translation>Persistente</translation>
     </message>
     <message>
         <source>Locking</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloqueo</translation>
     </message>
     <message>
         <source>Do nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>No hacer nada</translation>
     </message>
     <message>
         <source>Shift keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar teclado</translation>
     </message>
     <message>
         <source>Repeat last key</source>
-        <translation type="unfinished"></translation>
+        <translation>Repetir la última tecla</translation>
     </message>
     <message>
         <source>Open last form</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir el último formulario</translation>
     </message>
     <message>
         <source>Play macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir macro</translation>
     </message>
     <message>
         <source>100 Registers</source>
-        <translation type="unfinished"></translation>
+        <translation>100 registros</translation>
     </message>
     <message>
         <source>Long Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha larga</translation>
     </message>
     <message>
         <source>Backspace Drops</source>
-        <translation type="unfinished"></translation>
+        <translation>Retroceso elimina X</translation>
     </message>
     <message>
         <source>Comma Radix</source>
-        <translation type="unfinished"></translation>
+        <translation>Coma decimal</translation>
     </message>
     <message>
         <source>Format:</source>
@@ -1913,7 +1925,7 @@
     </message>
     <message>
         <source>How many digits the number format shows; All: every digit</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuántos dígitos muestra el formato; Todos: cada dígito</translation>
     </message>
     <message>
         <source>Input:</source>
@@ -1925,7 +1937,7 @@
     </message>
     <message>
         <source>How many levels the operating stack has</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuántos niveles tiene la pila de operaciones</translation>
     </message>
     <message>
         <source>Integer:</source>
@@ -1933,7 +1945,7 @@
     </message>
     <message>
         <source>Shift:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mayús:</translation>
     </message>
     <message>
         <source>Action:</source>
@@ -1961,7 +1973,7 @@
     </message>
     <message>
         <source>TVM</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor temporal (TVM)</translation>
     </message>
     <message>
         <source>Amortization</source>
@@ -1973,7 +1985,7 @@
     </message>
     <message>
         <source>Basic also</source>
-        <translation type="unfinished"></translation>
+        <translation>También básico</translation>
     </message>
     <message>
         <source>Small</source>
@@ -1997,7 +2009,7 @@
     </message>
     <message>
         <source>Quick Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambio rápido</translation>
     </message>
     <message>
         <source>Colors...</source>
@@ -2005,7 +2017,7 @@
     </message>
     <message>
         <source>Tap:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tocar:</translation>
     </message>
     <message>
         <source>Theme:</source>
@@ -2025,43 +2037,43 @@
     </message>
     <message>
         <source>Above</source>
-        <translation type="unfinished"></translation>
+        <translation>Encima</translation>
     </message>
     <message>
         <source>Within</source>
-        <translation type="unfinished"></translation>
+        <translation>Dentro</translation>
     </message>
     <message>
         <source>Static</source>
-        <translation type="unfinished"></translation>
+        <translation>Fijas</translation>
     </message>
     <message>
         <source>Swapped</source>
-        <translation type="unfinished"></translation>
+        <translation>Intercambiado</translation>
     </message>
     <message>
         <source>Zoomed</source>
-        <translation type="unfinished"></translation>
+        <translation>Ampliadas</translation>
     </message>
     <message>
         <source>Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Mayús</translation>
     </message>
     <message>
         <source>Foreground</source>
-        <translation type="unfinished"></translation>
+        <translation>Primer plano</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Strong</source>
-        <translation type="unfinished"></translation>
+        <translation>Fuerte</translation>
     </message>
     <message>
         <source>Heavy</source>
-        <translation type="unfinished"></translation>
+        <translation>Muy fuerte</translation>
     </message>
     <message>
         <source>Show:</source>
@@ -2081,7 +2093,7 @@
     </message>
     <message>
         <source>Active:</source>
-        <translation type="unfinished"></translation>
+        <translation>Activa:</translation>
     </message>
     <message>
         <source>Shadow:</source>
@@ -2101,7 +2113,7 @@
     </message>
     <message>
         <source>%1: %2 unchanged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 sin cambios</translation>
     </message>
     <message>
         <source>Amount</source>
@@ -2109,7 +2121,7 @@
     </message>
     <message>
         <source>Schedule...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuadro...</translation>
     </message>
     <message>
         <source>Solve</source>
@@ -2129,15 +2141,15 @@
     </message>
     <message>
         <source>Int</source>
-        <translation type="unfinished"></translation>
+        <translation>Int</translation>
     </message>
     <message>
         <source>Prin</source>
-        <translation type="unfinished"></translation>
+        <translation>Cap</translation>
     </message>
     <message>
         <source>Bal</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo</translation>
     </message>
     <message>
         <source>Export CSV...</source>
@@ -2149,7 +2161,7 @@
     </message>
     <message>
         <source>Listed up to payment %1 of %2: the amortization keys reach no further.</source>
-        <translation type="unfinished"></translation>
+        <translation>Listado hasta el pago %1 de %2: las teclas de amortización no llegan más lejos.</translation>
     </message>
     <message>
         <source>Export CSV</source>
@@ -2157,11 +2169,11 @@
     </message>
     <message>
         <source>CSV files (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos CSV (*.csv)</translation>
     </message>
     <message>
         <source>The schedule could not be written to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo escribir el cuadro en %1.</translation>
     </message>
     <message>
         <source>Date &amp; Time</source>
@@ -2169,11 +2181,11 @@
     </message>
     <message>
         <source>Stack levels</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveles de la pila</translation>
     </message>
     <message>
         <source>Try again, or quit without saving what changed since the last save?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Reintentar, o salir sin guardar lo cambiado desde la última vez?</translation>
     </message>
 </context>
 </TS>

@@ -5,206 +5,206 @@
     <name>Constant</name>
     <message>
         <source>Avogadro&apos;s number, NA</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre d’Avogadro, NA</translation>
     </message>
     <message>
         <source>Boltzmann constant, k</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de Boltzmann, k</translation>
     </message>
     <message>
         <source>Molar volume, Vm</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume molaire, Vm</translation>
     </message>
     <message>
         <source>Universal gas constant, R</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante universelle des gaz parfaits, R</translation>
     </message>
     <message>
         <source>Standard temperature, StdT</source>
-        <translation type="unfinished"></translation>
+        <translation>Température normale, StdT</translation>
     </message>
     <message>
         <source>Standard pressure, StdP</source>
-        <translation type="unfinished"></translation>
+        <translation>Pression normale, StdP</translation>
     </message>
     <message>
         <source>Stefan-Boltzmann constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de Stefan-Boltzmann</translation>
     </message>
     <message>
         <source>Speed of light in vacuum, c</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse de la lumière dans le vide, c</translation>
     </message>
     <message>
         <source>Permittivity of vacuum</source>
-        <translation type="unfinished"></translation>
+        <translation>Permittivité du vide</translation>
     </message>
     <message>
         <source>Permeability of vacuum</source>
-        <translation type="unfinished"></translation>
+        <translation>Perméabilité du vide</translation>
     </message>
     <message>
         <source>Acceleration of gravity, g</source>
-        <translation type="unfinished"></translation>
+        <translation>Accélération de la pesanteur, g</translation>
     </message>
     <message>
         <source>Gravitational constant, G</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante gravitationnelle, G</translation>
     </message>
     <message>
         <source>Planck&apos;s constant, h</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de Planck, h</translation>
     </message>
     <message>
         <source>Dirac&apos;s constant, hbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de Planck réduite, hbar</translation>
     </message>
     <message>
         <source>Electron charge, q</source>
-        <translation type="unfinished"></translation>
+        <translation>Charge de l’électron, q</translation>
     </message>
     <message>
         <source>Electron rest mass, me</source>
-        <translation type="unfinished"></translation>
+        <translation>Masse au repos de l’électron, me</translation>
     </message>
     <message>
         <source>q/me, qme</source>
-        <translation type="unfinished"></translation>
+        <translation>q/me, qme</translation>
     </message>
     <message>
         <source>Proton rest mass, mp</source>
-        <translation type="unfinished"></translation>
+        <translation>Masse au repos du proton, mp</translation>
     </message>
     <message>
         <source>mp/me, mpme</source>
-        <translation type="unfinished"></translation>
+        <translation>mp/me, mpme</translation>
     </message>
     <message>
         <source>Fine structure constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de structure fine</translation>
     </message>
     <message>
         <source>Magnetic flux quantum</source>
-        <translation type="unfinished"></translation>
+        <translation>Quantum de flux magnétique</translation>
     </message>
     <message>
         <source>Faraday constant, F</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de Faraday, F</translation>
     </message>
     <message>
         <source>Rydberg constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de Rydberg</translation>
     </message>
     <message>
         <source>Bohr radius, a0</source>
-        <translation type="unfinished"></translation>
+        <translation>Rayon de Bohr, a0</translation>
     </message>
     <message>
         <source>Bohr magneton</source>
-        <translation type="unfinished"></translation>
+        <translation>Magnéton de Bohr</translation>
     </message>
     <message>
         <source>Nuclear magneton</source>
-        <translation type="unfinished"></translation>
+        <translation>Magnéton nucléaire</translation>
     </message>
     <message>
         <source>Photon wavelength (ch/e)</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueur d’onde du photon (ch/e)</translation>
     </message>
     <message>
         <source>Photon frequency (e/h)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fréquence du photon (e/h)</translation>
     </message>
     <message>
         <source>Compton wavelength</source>
-        <translation type="unfinished"></translation>
+        <translation>Longueur d’onde de Compton</translation>
     </message>
     <message>
         <source>Wien displacement constant, c3</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de Wien, c3</translation>
     </message>
     <message>
         <source>Dielectric constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante diélectrique</translation>
     </message>
     <message>
         <source>SiO2 dielectric constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante diélectrique du SiO2</translation>
     </message>
     <message>
         <source>Reference intensity, I0</source>
-        <translation type="unfinished"></translation>
+        <translation>Intensité de référence, I0</translation>
     </message>
 </context>
 <context>
     <name>KeyMeaning</name>
     <message>
         <source>Digit 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiffre 0</translation>
     </message>
     <message>
         <source>Digit 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiffre 1</translation>
     </message>
     <message>
         <source>Digit 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiffre 2</translation>
     </message>
     <message>
         <source>Digit 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiffre 3</translation>
     </message>
     <message>
         <source>Digit 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiffre 4</translation>
     </message>
     <message>
         <source>Digit 5</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiffre 5</translation>
     </message>
     <message>
         <source>Digit 6</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiffre 6</translation>
     </message>
     <message>
         <source>Digit 7</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiffre 7</translation>
     </message>
     <message>
         <source>Digit 8</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiffre 8</translation>
     </message>
     <message>
         <source>Digit 9</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiffre 9</translation>
     </message>
     <message>
         <source>Hexadecimal digit A (10)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiffre hexadécimal A (10)</translation>
     </message>
     <message>
         <source>Hexadecimal digit B (11)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiffre hexadécimal B (11)</translation>
     </message>
     <message>
         <source>Hexadecimal digit C (12)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiffre hexadécimal C (12)</translation>
     </message>
     <message>
         <source>Hexadecimal digit D (13)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiffre hexadécimal D (13)</translation>
     </message>
     <message>
         <source>Hexadecimal digit E (14)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiffre hexadécimal E (14)</translation>
     </message>
     <message>
         <source>E (in an integer base)</source>
-        <translation type="unfinished"></translation>
+        <translation>E (dans une base entière)</translation>
     </message>
     <message>
         <source>Hexadecimal digit F (15)</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiffre hexadécimal F (15)</translation>
     </message>
     <message>
         <source>Decimal point</source>
@@ -212,15 +212,15 @@
     </message>
     <message>
         <source>. or ,</source>
-        <translation type="unfinished"></translation>
+        <translation>. ou ,</translation>
     </message>
     <message>
         <source>Decimal point (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Séparateur décimal (seconde touche)</translation>
     </message>
     <message>
         <source>Enter exponent</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisir l’exposant</translation>
     </message>
     <message>
         <source>Change sign</source>
@@ -232,11 +232,11 @@
     </message>
     <message>
         <source>Enter</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrée</translation>
     </message>
     <message>
         <source>Enter (RPN)</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrée (RPN)</translation>
     </message>
     <message>
         <source>Add</source>
@@ -252,7 +252,7 @@
     </message>
     <message>
         <source>* or X</source>
-        <translation type="unfinished"></translation>
+        <translation>* ou X</translation>
     </message>
     <message>
         <source>Divide</source>
@@ -260,23 +260,23 @@
     </message>
     <message>
         <source>Equals: complete the calculation</source>
-        <translation type="unfinished"></translation>
+        <translation>Égal : terminer le calcul</translation>
     </message>
     <message>
         <source>= or Enter</source>
-        <translation type="unfinished"></translation>
+        <translation>= ou Entrée</translation>
     </message>
     <message>
         <source>Shift: the keys&apos; second functions</source>
-        <translation type="unfinished"></translation>
+        <translation>Maj : les secondes fonctions des touches</translation>
     </message>
     <message>
         <source>Show all digits, dates as numbers (toggle)</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher tous les chiffres, les dates en nombres (bascule)</translation>
     </message>
     <message>
         <source>Clear all: stack, registers and macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout effacer : pile, registres et macro</translation>
     </message>
     <message>
         <source>Clear stack</source>
@@ -284,7 +284,7 @@
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Suppr</translation>
     </message>
     <message>
         <source>Clear X</source>
@@ -292,43 +292,43 @@
     </message>
     <message>
         <source>Clear all (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout effacer (seconde touche)</translation>
     </message>
     <message>
         <source>Clear stack (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer la pile (seconde touche)</translation>
     </message>
     <message>
         <source>Clear X (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer X (seconde touche)</translation>
     </message>
     <message>
         <source>Clear user, financial and statistical registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer les registres utilisateur, financiers et statistiques</translation>
     </message>
     <message>
         <source>Clear the financial registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer les registres financiers</translation>
     </message>
     <message>
         <source>Clear the statistical sums</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer les sommes statistiques</translation>
     </message>
     <message>
         <source>Roll the stack down</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation de la pile vers le bas</translation>
     </message>
     <message>
         <source>Roll the stack up</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation de la pile vers le haut</translation>
     </message>
     <message>
         <source>Drop X</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer X</translation>
     </message>
     <message>
         <source>Fill the stack with X</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplir la pile avec X</translation>
     </message>
     <message>
         <source>Exchange X and Y</source>
@@ -336,35 +336,35 @@
     </message>
     <message>
         <source>Store X in a register</source>
-        <translation type="unfinished"></translation>
+        <translation>Stocker X dans un registre</translation>
     </message>
     <message>
         <source>Last X</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernier X</translation>
     </message>
     <message>
         <source>Recall a register</source>
-        <translation type="unfinished"></translation>
+        <translation>Rappeler un registre</translation>
     </message>
     <message>
         <source>Exchange X with a register</source>
-        <translation type="unfinished"></translation>
+        <translation>Échanger X avec un registre</translation>
     </message>
     <message>
         <source>Open parenthesis</source>
-        <translation type="unfinished"></translation>
+        <translation>Parenthèse ouvrante</translation>
     </message>
     <message>
         <source>Close parenthesis</source>
-        <translation type="unfinished"></translation>
+        <translation>Parenthèse fermante</translation>
     </message>
     <message>
         <source>Percent of total: X as a percentage of Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Part du total : X en pourcentage de Y</translation>
     </message>
     <message>
         <source>Percent change from Y to X</source>
-        <translation type="unfinished"></translation>
+        <translation>Variation en pourcentage de Y à X</translation>
     </message>
     <message>
         <source>Percent</source>
@@ -372,15 +372,15 @@
     </message>
     <message>
         <source>Round X to the digits shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrondir X aux chiffres affichés</translation>
     </message>
     <message>
         <source>Integer part</source>
-        <translation type="unfinished"></translation>
+        <translation>Partie entière</translation>
     </message>
     <message>
         <source>Absolute value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur absolue</translation>
     </message>
     <message>
         <source>Square root</source>
@@ -392,15 +392,15 @@
     </message>
     <message>
         <source>Cube root</source>
-        <translation type="unfinished"></translation>
+        <translation>Racine cubique</translation>
     </message>
     <message>
         <source>Cube</source>
-        <translation type="unfinished"></translation>
+        <translation>Cube</translation>
     </message>
     <message>
         <source>Power: Y raised to X</source>
-        <translation type="unfinished"></translation>
+        <translation>Puissance : Y puissance X</translation>
     </message>
     <message>
         <source>Reciprocal</source>
@@ -408,15 +408,15 @@
     </message>
     <message>
         <source>Fractional part</source>
-        <translation type="unfinished"></translation>
+        <translation>Partie fractionnaire</translation>
     </message>
     <message>
         <source>Remainder of Y divided by X</source>
-        <translation type="unfinished"></translation>
+        <translation>Reste de Y divisé par X</translation>
     </message>
     <message>
         <source>Payments at the beginning or end of periods (toggle)</source>
-        <translation type="unfinished"></translation>
+        <translation>Paiements en début ou en fin de période (bascule)</translation>
     </message>
     <message>
         <source>Number of payments</source>
@@ -424,7 +424,7 @@
     </message>
     <message>
         <source>Nominal annual interest rate, percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Taux d’intérêt annuel nominal, en pourcentage</translation>
     </message>
     <message>
         <source>Present value</source>
@@ -440,63 +440,63 @@
     </message>
     <message>
         <source>Payments per year</source>
-        <translation type="unfinished"></translation>
+        <translation>Paiements par an</translation>
     </message>
     <message>
         <source>Nominal annual interest rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Taux d’intérêt annuel nominal</translation>
     </message>
     <message>
         <source>Effective annual interest rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Taux d’intérêt annuel effectif</translation>
     </message>
     <message>
         <source>Years times payments per year, stored in N</source>
-        <translation type="unfinished"></translation>
+        <translation>Années fois paiements par an, stocké dans N</translation>
     </message>
     <message>
         <source>Divide by payments per year</source>
-        <translation type="unfinished"></translation>
+        <translation>Diviser par les paiements par an</translation>
     </message>
     <message>
         <source>Cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Coût</translation>
     </message>
     <message>
         <source>Price</source>
-        <translation type="unfinished"></translation>
+        <translation>Prix</translation>
     </message>
     <message>
         <source>Margin, percent of price</source>
-        <translation type="unfinished"></translation>
+        <translation>Marge, en pourcentage du prix</translation>
     </message>
     <message>
         <source>Markup, percent of cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Majoration, en pourcentage du coût</translation>
     </message>
     <message>
         <source>Amortize a range of payments</source>
-        <translation type="unfinished"></translation>
+        <translation>Amortir une série de paiements</translation>
     </message>
     <message>
         <source>Amortize the next range of payments</source>
-        <translation type="unfinished"></translation>
+        <translation>Amortir la série de paiements suivante</translation>
     </message>
     <message>
         <source>Cash flow: append X to the cash flows</source>
-        <translation type="unfinished"></translation>
+        <translation>Flux : ajouter X aux flux de trésorerie</translation>
     </message>
     <message>
         <source>Times the last cash flow repeats</source>
-        <translation type="unfinished"></translation>
+        <translation>Répétitions du dernier flux</translation>
     </message>
     <message>
         <source>Net present value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur actuelle nette</translation>
     </message>
     <message>
         <source>Internal rate of return per year</source>
-        <translation type="unfinished"></translation>
+        <translation>Taux de rendement interne annuel</translation>
     </message>
     <message>
         <source>Sine</source>
@@ -512,23 +512,23 @@
     </message>
     <message>
         <source>Arc sine</source>
-        <translation type="unfinished"></translation>
+        <translation>Arc sinus</translation>
     </message>
     <message>
         <source>Arc cosine</source>
-        <translation type="unfinished"></translation>
+        <translation>Arc cosinus</translation>
     </message>
     <message>
         <source>Arc tangent</source>
-        <translation type="unfinished"></translation>
+        <translation>Arc tangente</translation>
     </message>
     <message>
         <source>Pi</source>
-        <translation type="unfinished"></translation>
+        <translation>Pi</translation>
     </message>
     <message>
         <source>Hyperbolic prefix for the next function</source>
-        <translation type="unfinished"></translation>
+        <translation>Préfixe hyperbolique pour la fonction suivante</translation>
     </message>
     <message>
         <source>Natural logarithm</source>
@@ -540,595 +540,595 @@
     </message>
     <message>
         <source>Natural exponential</source>
-        <translation type="unfinished"></translation>
+        <translation>Exponentielle</translation>
     </message>
     <message>
         <source>Power of ten</source>
-        <translation type="unfinished"></translation>
+        <translation>Puissance de dix</translation>
     </message>
     <message>
         <source>Angles in degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Angles en degrés</translation>
     </message>
     <message>
         <source>Angles in radians</source>
-        <translation type="unfinished"></translation>
+        <translation>Angles en radians</translation>
     </message>
     <message>
         <source>Angles in grads</source>
-        <translation type="unfinished"></translation>
+        <translation>Angles en grades</translation>
     </message>
     <message>
         <source>Radians to degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Radians en degrés</translation>
     </message>
     <message>
         <source>Degrees to radians</source>
-        <translation type="unfinished"></translation>
+        <translation>Degrés en radians</translation>
     </message>
     <message>
         <source>Polar to rectangular</source>
-        <translation type="unfinished"></translation>
+        <translation>Polaire en rectangulaire</translation>
     </message>
     <message>
         <source>Rectangular to polar</source>
-        <translation type="unfinished"></translation>
+        <translation>Rectangulaire en polaire</translation>
     </message>
     <message>
         <source>Hours to hours.minutes-seconds (h.mmss)</source>
-        <translation type="unfinished"></translation>
+        <translation>Heures en heures.minutes-secondes (h.mmss)</translation>
     </message>
     <message>
         <source>Hours.minutes-seconds (h.mmss) to hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Heures.minutes-secondes (h.mmss) en heures</translation>
     </message>
     <message>
         <source>Add the point (X, Y) to the sums</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter le point (X, Y) aux sommes</translation>
     </message>
     <message>
         <source>Remove the point (X, Y) from the sums</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer le point (X, Y) des sommes</translation>
     </message>
     <message>
         <source>Sum of x</source>
-        <translation type="unfinished"></translation>
+        <translation>Somme des x</translation>
     </message>
     <message>
         <source>Sum of x squared</source>
-        <translation type="unfinished"></translation>
+        <translation>Somme des carrés de x</translation>
     </message>
     <message>
         <source>Sum of y</source>
-        <translation type="unfinished"></translation>
+        <translation>Somme des y</translation>
     </message>
     <message>
         <source>Sum of y squared</source>
-        <translation type="unfinished"></translation>
+        <translation>Somme des carrés de y</translation>
     </message>
     <message>
         <source>Sum of the products xy</source>
-        <translation type="unfinished"></translation>
+        <translation>Somme des produits xy</translation>
     </message>
     <message>
         <source>Number of points</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de points</translation>
     </message>
     <message>
         <source>Mean of x</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne de x</translation>
     </message>
     <message>
         <source>Mean of x weighted by y</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne de x pondérée par y</translation>
     </message>
     <message>
         <source>Mean of y</source>
-        <translation type="unfinished"></translation>
+        <translation>Moyenne de y</translation>
     </message>
     <message>
         <source>Estimated x for the y in X; r in Y</source>
-        <translation type="unfinished"></translation>
+        <translation>x estimé pour le y dans X ; r dans Y</translation>
     </message>
     <message>
         <source>Estimated y for the x in X; slope in Y</source>
-        <translation type="unfinished"></translation>
+        <translation>y estimé pour le x dans X ; pente dans Y</translation>
     </message>
     <message>
         <source>Random number</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre aléatoire</translation>
     </message>
     <message>
         <source>Factorial</source>
-        <translation type="unfinished"></translation>
+        <translation>Factorielle</translation>
     </message>
     <message>
         <source>Logarithm of the gamma function</source>
-        <translation type="unfinished"></translation>
+        <translation>Logarithme de la fonction gamma</translation>
     </message>
     <message>
         <source>Sample standard deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart type de l’échantillon</translation>
     </message>
     <message>
         <source>Population standard deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>Écart type de la population</translation>
     </message>
     <message>
         <source>Combinations of X items from Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinaisons de X éléments parmi Y</translation>
     </message>
     <message>
         <source>Permutations of X items from Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrangements de X éléments parmi Y</translation>
     </message>
     <message>
         <source>Binary entry and display</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisie et affichage binaires</translation>
     </message>
     <message>
         <source>Octal entry and display</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisie et affichage octaux</translation>
     </message>
     <message>
         <source>Decimal integer entry and display</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisie et affichage entiers décimaux</translation>
     </message>
     <message>
         <source>Hexadecimal entry and display</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisie et affichage hexadécimaux</translation>
     </message>
     <message>
         <source>Bitwise AND</source>
-        <translation type="unfinished"></translation>
+        <translation>ET bit à bit</translation>
     </message>
     <message>
         <source>Bitwise OR</source>
-        <translation type="unfinished"></translation>
+        <translation>OU bit à bit</translation>
     </message>
     <message>
         <source>Bitwise exclusive OR</source>
-        <translation type="unfinished"></translation>
+        <translation>OU exclusif bit à bit</translation>
     </message>
     <message>
         <source>Bitwise NOT</source>
-        <translation type="unfinished"></translation>
+        <translation>NON bit à bit</translation>
     </message>
     <message>
         <source>Shift Y left by X bits</source>
-        <translation type="unfinished"></translation>
+        <translation>Décaler Y de X bits vers la gauche</translation>
     </message>
     <message>
         <source>Shift Y right by X bits (logical)</source>
-        <translation type="unfinished"></translation>
+        <translation>Décaler Y de X bits vers la droite (logique)</translation>
     </message>
     <message>
         <source>Arithmetic shift right, keeping the sign</source>
-        <translation type="unfinished"></translation>
+        <translation>Décalage arithmétique à droite, signe conservé</translation>
     </message>
     <message>
         <source>Rotate Y right by X bits</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation de Y de X bits vers la droite</translation>
     </message>
     <message>
         <source>Inches</source>
-        <translation type="unfinished"></translation>
+        <translation>Pouces</translation>
     </message>
     <message>
         <source>Feet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pieds</translation>
     </message>
     <message>
         <source>Miles</source>
-        <translation type="unfinished"></translation>
+        <translation>Milles</translation>
     </message>
     <message>
         <source>Meters</source>
-        <translation type="unfinished"></translation>
+        <translation>Mètres</translation>
     </message>
     <message>
         <source>Square inches</source>
-        <translation type="unfinished"></translation>
+        <translation>Pouces carrés</translation>
     </message>
     <message>
         <source>Square feet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pieds carrés</translation>
     </message>
     <message>
         <source>Square miles</source>
-        <translation type="unfinished"></translation>
+        <translation>Milles carrés</translation>
     </message>
     <message>
         <source>Square meters</source>
-        <translation type="unfinished"></translation>
+        <translation>Mètres carrés</translation>
     </message>
     <message>
         <source>Pounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Livres</translation>
     </message>
     <message>
         <source>Ounces</source>
-        <translation type="unfinished"></translation>
+        <translation>Onces</translation>
     </message>
     <message>
         <source>Kilograms</source>
-        <translation type="unfinished"></translation>
+        <translation>Kilogrammes</translation>
     </message>
     <message>
         <source>Grams</source>
-        <translation type="unfinished"></translation>
+        <translation>Grammes</translation>
     </message>
     <message>
         <source>Inches per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Pouces par seconde</translation>
     </message>
     <message>
         <source>Feet per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Pieds par seconde</translation>
     </message>
     <message>
         <source>Meters per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Mètres par seconde</translation>
     </message>
     <message>
         <source>Miles per hour</source>
-        <translation type="unfinished"></translation>
+        <translation>Milles par heure</translation>
     </message>
     <message>
         <source>Kilometers per hour</source>
-        <translation type="unfinished"></translation>
+        <translation>Kilomètres par heure</translation>
     </message>
     <message>
         <source>Centimeters per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Centimètres par seconde</translation>
     </message>
     <message>
         <source>US gallons</source>
-        <translation type="unfinished"></translation>
+        <translation>Gallons US</translation>
     </message>
     <message>
         <source>Milliliters</source>
-        <translation type="unfinished"></translation>
+        <translation>Millilitres</translation>
     </message>
     <message>
         <source>Liters</source>
-        <translation type="unfinished"></translation>
+        <translation>Litres</translation>
     </message>
     <message>
         <source>US fluid ounces</source>
-        <translation type="unfinished"></translation>
+        <translation>Onces liquides US</translation>
     </message>
     <message>
         <source>Degrees Celsius</source>
-        <translation type="unfinished"></translation>
+        <translation>Degrés Celsius</translation>
     </message>
     <message>
         <source>Degrees Fahrenheit</source>
-        <translation type="unfinished"></translation>
+        <translation>Degrés Fahrenheit</translation>
     </message>
     <message>
         <source>X-th root of Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Racine X-ième de Y</translation>
     </message>
     <message>
         <source>8-bit unsigned integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Entier 8 bits non signé</translation>
     </message>
     <message>
         <source>8-bit signed integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Entier 8 bits signé</translation>
     </message>
     <message>
         <source>16-bit unsigned integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Entier 16 bits non signé</translation>
     </message>
     <message>
         <source>16-bit signed integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Entier 16 bits signé</translation>
     </message>
     <message>
         <source>32-bit unsigned integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Entier 32 bits non signé</translation>
     </message>
     <message>
         <source>32-bit signed integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Entier 32 bits signé</translation>
     </message>
     <message>
         <source>Standard number format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format numérique standard</translation>
     </message>
     <message>
         <source>Scientific format: digits follow</source>
-        <translation type="unfinished"></translation>
+        <translation>Format scientifique : chiffres à suivre</translation>
     </message>
     <message>
         <source>Engineering format: digits follow</source>
-        <translation type="unfinished"></translation>
+        <translation>Format ingénieur : chiffres à suivre</translation>
     </message>
     <message>
         <source>Largest whole number not above X</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus grand entier non supérieur à X</translation>
     </message>
     <message>
         <source>Smallest whole number not below X</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus petit entier non inférieur à X</translation>
     </message>
     <message>
         <source>Change sign of an integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Changer le signe d’un entier</translation>
     </message>
     <message>
         <source>X as an integer of the default format</source>
-        <translation type="unfinished"></translation>
+        <translation>X en entier du format par défaut</translation>
     </message>
     <message>
         <source>Integer add</source>
-        <translation type="unfinished"></translation>
+        <translation>Addition entière</translation>
     </message>
     <message>
         <source>Integer subtract</source>
-        <translation type="unfinished"></translation>
+        <translation>Soustraction entière</translation>
     </message>
     <message>
         <source>Integer multiply</source>
-        <translation type="unfinished"></translation>
+        <translation>Multiplication entière</translation>
     </message>
     <message>
         <source>Integer divide</source>
-        <translation type="unfinished"></translation>
+        <translation>Division entière</translation>
     </message>
     <message>
         <source>Fixed format: digits follow</source>
-        <translation type="unfinished"></translation>
+        <translation>Format fixe : chiffres à suivre</translation>
     </message>
     <message>
         <source>Clear the date registers and duration settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer les registres de date et les réglages de durée</translation>
     </message>
     <message>
         <source>The current date and time</source>
-        <translation type="unfinished"></translation>
+        <translation>La date et l’heure actuelles</translation>
     </message>
     <message>
         <source>Date: X typed as Y.MMDD becomes a date</source>
-        <translation type="unfinished"></translation>
+        <translation>Date : X saisi en A.MMJJ devient une date</translation>
     </message>
     <message>
         <source>Time: X typed as H.MMSS becomes a clock time</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure : X saisi en H.MMSS devient une heure</translation>
     </message>
     <message>
         <source>Years</source>
-        <translation type="unfinished"></translation>
+        <translation>Années</translation>
     </message>
     <message>
         <source>Months</source>
-        <translation type="unfinished"></translation>
+        <translation>Mois</translation>
     </message>
     <message>
         <source>Weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>Semaines</translation>
     </message>
     <message>
         <source>Days</source>
-        <translation type="unfinished"></translation>
+        <translation>Jours</translation>
     </message>
     <message>
         <source>Hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Heures</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutes</translation>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes</translation>
     </message>
     <message>
         <source>Frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Images</translation>
     </message>
     <message>
         <source>Hours.minutes-seconds (h.mmss) to frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Heures.minutes-secondes (h.mmss) en images</translation>
     </message>
     <message>
         <source>Days per year</source>
-        <translation type="unfinished"></translation>
+        <translation>Jours par an</translation>
     </message>
     <message>
         <source>Days per month</source>
-        <translation type="unfinished"></translation>
+        <translation>Jours par mois</translation>
     </message>
     <message>
         <source>Days per week</source>
-        <translation type="unfinished"></translation>
+        <translation>Jours par semaine</translation>
     </message>
     <message>
         <source>Hours per day</source>
-        <translation type="unfinished"></translation>
+        <translation>Heures par jour</translation>
     </message>
     <message>
         <source>Frames per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Images par seconde</translation>
     </message>
     <message>
         <source>Date part of a date and time</source>
-        <translation type="unfinished"></translation>
+        <translation>Partie date d’une date et heure</translation>
     </message>
     <message>
         <source>Time part of a date and time</source>
-        <translation type="unfinished"></translation>
+        <translation>Partie heure d’une date et heure</translation>
     </message>
     <message>
         <source>Fraction of a duration in the next smaller unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Fraction d’une durée dans l’unité inférieure</translation>
     </message>
     <message>
         <source>Enter (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrée (seconde touche)</translation>
     </message>
     <message>
         <source>Rotate the three lowest levels</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation des trois niveaux inférieurs</translation>
     </message>
     <message>
         <source>Over: a copy of Y onto the stack</source>
-        <translation type="unfinished"></translation>
+        <translation>Over : une copie de Y sur la pile</translation>
     </message>
     <message>
         <source>Simple input: in the order entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisie simple : dans l’ordre de saisie</translation>
     </message>
     <message>
         <source>Precedence input: × and ÷ before + and −</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisie avec priorité : × et ÷ avant + et −</translation>
     </message>
     <message>
         <source>RPN input: operands first</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisie RPN : opérandes d’abord</translation>
     </message>
     <message>
         <source>Record a macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer une macro</translation>
     </message>
     <message>
         <source>Play the macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécuter la macro</translation>
     </message>
     <message>
         <source>Pause the macro for input</source>
-        <translation type="unfinished"></translation>
+        <translation>Suspendre la macro pour une saisie</translation>
     </message>
     <message>
         <source>Stop recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter l’enregistrement</translation>
     </message>
     <message>
         <source>Centimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Centimètres</translation>
     </message>
     <message>
         <source>Millimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Millimètres</translation>
     </message>
     <message>
         <source>Yards</source>
-        <translation type="unfinished"></translation>
+        <translation>Yards</translation>
     </message>
     <message>
         <source>Kilometers</source>
-        <translation type="unfinished"></translation>
+        <translation>Kilomètres</translation>
     </message>
     <message>
         <source>Nautical miles</source>
-        <translation type="unfinished"></translation>
+        <translation>Milles marins</translation>
     </message>
     <message>
         <source>Square millimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Millimètres carrés</translation>
     </message>
     <message>
         <source>Square centimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Centimètres carrés</translation>
     </message>
     <message>
         <source>Square kilometers</source>
-        <translation type="unfinished"></translation>
+        <translation>Kilomètres carrés</translation>
     </message>
     <message>
         <source>Square yards</source>
-        <translation type="unfinished"></translation>
+        <translation>Yards carrés</translation>
     </message>
     <message>
         <source>Acres</source>
-        <translation type="unfinished"></translation>
+        <translation>Acres</translation>
     </message>
     <message>
         <source>Short tons (2,000 pounds)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tonnes courtes (2 000 livres)</translation>
     </message>
     <message>
         <source>Milligrams</source>
-        <translation type="unfinished"></translation>
+        <translation>Milligrammes</translation>
     </message>
     <message>
         <source>Knots</source>
-        <translation type="unfinished"></translation>
+        <translation>Nœuds</translation>
     </message>
     <message>
         <source>Cubic meters</source>
-        <translation type="unfinished"></translation>
+        <translation>Mètres cubes</translation>
     </message>
     <message>
         <source>Cubic centimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Centimètres cubes</translation>
     </message>
     <message>
         <source>Cubic yards</source>
-        <translation type="unfinished"></translation>
+        <translation>Yards cubes</translation>
     </message>
     <message>
         <source>Cubic feet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pieds cubes</translation>
     </message>
     <message>
         <source>Cubic inches</source>
-        <translation type="unfinished"></translation>
+        <translation>Pouces cubes</translation>
     </message>
     <message>
         <source>US quarts</source>
-        <translation type="unfinished"></translation>
+        <translation>Quarts US</translation>
     </message>
     <message>
         <source>US pints</source>
-        <translation type="unfinished"></translation>
+        <translation>Pintes US</translation>
     </message>
     <message>
         <source>US cups</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasses US</translation>
     </message>
     <message>
         <source>Tablespoons</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuillères à soupe</translation>
     </message>
     <message>
         <source>Teaspoons</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuillères à café</translation>
     </message>
     <message>
         <source>Imperial gallons</source>
-        <translation type="unfinished"></translation>
+        <translation>Gallons impériaux</translation>
     </message>
     <message>
         <source>Imperial fluid ounces</source>
-        <translation type="unfinished"></translation>
+        <translation>Onces liquides impériales</translation>
     </message>
     <message>
         <source>Amortize a range of payments (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Amortir une série de paiements (seconde touche)</translation>
     </message>
     <message>
         <source>Recall one of 100 registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Rappeler l’un des 100 registres</translation>
     </message>
     <message>
         <source>Exchange X with one of 100 registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Échanger X avec l’un des 100 registres</translation>
     </message>
     <message>
         <source>Store X in one of 100 registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Stocker X dans l’un des 100 registres</translation>
     </message>
     <message>
         <source>First shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Première touche Maj</translation>
     </message>
     <message>
         <source>Second shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Seconde touche Maj</translation>
     </message>
 </context>
 <context>
@@ -1139,7 +1139,7 @@
     </message>
     <message>
         <source>The Keyboard dialog can be used to assign a function to this button.</source>
-        <translation type="unfinished"></translation>
+        <translation>La boîte de dialogue Clavier permet d’attribuer une fonction à cette touche.</translation>
     </message>
     <message>
         <source>Clear All</source>
@@ -1147,7 +1147,7 @@
     </message>
     <message>
         <source>This operation will clear the operating stack and all user, financial, statistical, and date registers, and the keyboard macro.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette opération efface la pile de calcul, tous les registres utilisateur, financiers, statistiques et de date, ainsi que la macro clavier.</translation>
     </message>
     <message>
         <source>Nothing to Undo</source>
@@ -1155,7 +1155,7 @@
     </message>
     <message>
         <source>There are no operations to be undone.</source>
-        <translation>Il n&apos;y a aucune opération à annuler.</translation>
+        <translation>Il n’y a aucune opération à annuler.</translation>
     </message>
     <message>
         <source>Nothing to Redo</source>
@@ -1163,7 +1163,7 @@
     </message>
     <message>
         <source>There are no undo actions to be redone.</source>
-        <translation>Il n&apos;y a aucune annulation à rétablir.</translation>
+        <translation>Il n’y a aucune annulation à rétablir.</translation>
     </message>
     <message>
         <source>No Macro</source>
@@ -1179,42 +1179,42 @@
     </message>
     <message>
         <source>The macro length has been exceeded and the last key could not be recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>La longueur maximale de la macro est atteinte : la dernière touche n’a pas pu être enregistrée.</translation>
     </message>
 </context>
 <context>
     <name>Theme</name>
     <message>
         <source>Default Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur par défaut</translation>
     </message>
     <message>
         <source>Default Grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>Gris par défaut</translation>
     </message>
     <message>
         <source>Default B&amp;W</source>
-        <translation type="unfinished"></translation>
+        <translation>Noir et blanc par défaut</translation>
     </message>
     <message>
         <source>Original Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur d’origine</translation>
     </message>
     <message>
         <source>Original Grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>Gris d’origine</translation>
     </message>
     <message>
         <source>Original B&amp;W</source>
-        <translation type="unfinished"></translation>
+        <translation>Noir et blanc d’origine</translation>
     </message>
     <message>
         <source>Light Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Fond clair</translation>
     </message>
     <message>
         <source>Dark Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Fond sombre</translation>
     </message>
 </context>
 <context>
@@ -1243,7 +1243,17 @@
 - The input method can be specified  at any time in the Preferences dialog
 
 - See the Comparison of Input Methods section of the User Guide for more details</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez une méthode de saisie qui détermine comment Brinto calcule :
+
+- Simple est un ordre infixe où les opérations sont effectuées dans l’ordre de saisie ; par exemple, 2 + 3 * 5 = donne 25
+
+- Priorité est aussi un ordre infixe où les opérations binaires passent avant la multiplication et la division, elles-mêmes avant l’addition et la soustraction, ce qui réduit le besoin de parenthèses ; par exemple, 2 + 3 * 5 = donne 17
+
+- RPN (notation polonaise inverse) est un ordre postfixe où les opérandes sont saisis avant l’opération ; par exemple, 2 Entrée 3 + 5 * donne 25 et 2 Entrée 3 Entrée 5 * + donne 17
+
+- La méthode de saisie peut être changée à tout moment dans les Préférences
+
+- Voir la section « Comparison of Input Methods » du guide de l’utilisateur (en anglais) pour plus de détails</translation>
     </message>
     <message>
         <source>Input Method</source>
@@ -1467,7 +1477,7 @@
     </message>
     <message>
         <source>Fin</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin</translation>
     </message>
     <message>
         <source>Sci</source>
@@ -1475,11 +1485,11 @@
     </message>
     <message>
         <source>Stat</source>
-        <translation type="unfinished"></translation>
+        <translation>Stat</translation>
     </message>
     <message>
         <source>Prog</source>
-        <translation type="unfinished"></translation>
+        <translation>Prog</translation>
     </message>
     <message>
         <source>Conv 1</source>
@@ -1496,12 +1506,14 @@
     <message>
         <source>Conv
 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Conv
+1</translation>
     </message>
     <message>
         <source>Conv
 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Conv
+2</translation>
     </message>
     <message>
         <source>The calculator could not be saved.</source>
@@ -1517,7 +1529,7 @@
     </message>
     <message>
         <source>Tape lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Lignes de la bande</translation>
     </message>
     <message>
         <source>Result</source>
@@ -1525,7 +1537,7 @@
     </message>
     <message>
         <source>Double click or Return recalls a result into X; Ctrl+C copies it</source>
-        <translation type="unfinished"></translation>
+        <translation>Un double-clic ou Entrée rappelle un résultat dans X ; Ctrl+C le copie</translation>
     </message>
     <message>
         <source>&amp;Recall</source>
@@ -1533,11 +1545,11 @@
     </message>
     <message>
         <source>Recall the selected result into X</source>
-        <translation type="unfinished"></translation>
+        <translation>Rappeler le résultat choisi dans X</translation>
     </message>
     <message>
         <source>Copy the selected result</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier le résultat choisi</translation>
     </message>
     <message>
         <source>&amp;Save As...</source>
@@ -1545,7 +1557,7 @@
     </message>
     <message>
         <source>Save the tape as text or CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer la bande en texte ou en CSV</translation>
     </message>
     <message>
         <source>C&amp;lear</source>
@@ -1553,11 +1565,11 @@
     </message>
     <message>
         <source>Clear the tape</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer la bande</translation>
     </message>
     <message>
         <source>The tape could not be saved to %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>La bande n’a pas pu être enregistrée dans %1 : %2</translation>
     </message>
     <message>
         <source>Save Tape</source>
@@ -1565,7 +1577,7 @@
     </message>
     <message>
         <source>Text (*.txt);;CSV (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte (*.txt);;CSV (*.csv)</translation>
     </message>
     <message>
         <source>Color Chooser</source>
@@ -1601,27 +1613,27 @@
     </message>
     <message>
         <source>Standard:</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard :</translation>
     </message>
     <message>
         <source>Number:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre :</translation>
     </message>
     <message>
         <source>Register:</source>
-        <translation type="unfinished"></translation>
+        <translation>Registre :</translation>
     </message>
     <message>
         <source>Clear:</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacement :</translation>
     </message>
     <message>
         <source>%1 text color</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur du texte %1</translation>
     </message>
     <message>
         <source>%1 background color</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur du fond %1</translation>
     </message>
     <message>
         <source>Default</source>
@@ -1633,23 +1645,23 @@
     </message>
     <message>
         <source>Days per year (dpy):</source>
-        <translation type="unfinished"></translation>
+        <translation>Jours par an (dpy) :</translation>
     </message>
     <message>
         <source>Days per month (dpm):</source>
-        <translation type="unfinished"></translation>
+        <translation>Jours par mois (dpm) :</translation>
     </message>
     <message>
         <source>Days per week (dpw):</source>
-        <translation type="unfinished"></translation>
+        <translation>Jours par semaine (dpw) :</translation>
     </message>
     <message>
         <source>Hours per day (hpd):</source>
-        <translation type="unfinished"></translation>
+        <translation>Heures par jour (hpd) :</translation>
     </message>
     <message>
         <source>Frames per second (fps):</source>
-        <translation type="unfinished"></translation>
+        <translation>Images par seconde (fps) :</translation>
     </message>
     <message>
         <source>Enter Date</source>
@@ -1661,15 +1673,15 @@
     </message>
     <message>
         <source>Hour</source>
-        <translation type="unfinished"></translation>
+        <translation>Heure</translation>
     </message>
     <message>
         <source>Tens of minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Dizaines de minutes</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutes</translation>
     </message>
     <message>
         <source>&amp;Hour:</source>
@@ -1681,11 +1693,11 @@
     </message>
     <message>
         <source>AM</source>
-        <translation type="unfinished"></translation>
+        <translation>AM</translation>
     </message>
     <message>
         <source>PM</source>
-        <translation type="unfinished"></translation>
+        <translation>PM</translation>
     </message>
     <message>
         <source>Durations</source>
@@ -1713,7 +1725,7 @@
     </message>
     <message>
         <source>&lt;h2&gt;User guide missing&lt;/h2&gt;&lt;p&gt;The user guide was not built into this copy of Brinto, so help cannot be shown.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h2&gt;Guide de l’utilisateur absent&lt;/h2&gt;&lt;p&gt;Le guide de l’utilisateur n’a pas été intégré à cette copie de Brinto : l’aide ne peut pas être affichée.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Brinto Help</source>
@@ -1733,11 +1745,11 @@
     </message>
     <message>
         <source>Key %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Touche %1 : %2</translation>
     </message>
     <message>
         <source>no function</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune fonction</translation>
     </message>
     <message>
         <source>Customize Keyboard</source>
@@ -1761,7 +1773,7 @@
     </message>
     <message>
         <source>Available keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Clavier disponible</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -1773,15 +1785,15 @@
     </message>
     <message>
         <source>Amortization chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Graphique d’amortissement</translation>
     </message>
     <message>
         <source>Balance after each payment; interest and principal by year</source>
-        <translation type="unfinished"></translation>
+        <translation>Solde après chaque paiement ; intérêts et capital par année</translation>
     </message>
     <message>
         <source>Balance after each payment; interest and principal of each payment</source>
-        <translation type="unfinished"></translation>
+        <translation>Solde après chaque paiement ; intérêts et capital de chaque paiement</translation>
     </message>
     <message>
         <source>Year</source>
@@ -1805,15 +1817,15 @@
     </message>
     <message>
         <source>(by year)</source>
-        <translation type="unfinished"></translation>
+        <translation>(par année)</translation>
     </message>
     <message>
         <source>(by payment)</source>
-        <translation type="unfinished"></translation>
+        <translation>(par paiement)</translation>
     </message>
     <message>
         <source>Cash-flow diagram</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramme des flux de trésorerie</translation>
     </message>
     <message>
         <source>All</source>
@@ -1833,59 +1845,59 @@
     </message>
     <message>
         <source>RPN</source>
-        <translation type="unfinished"></translation>
+        <translation>RPN</translation>
     </message>
     <message>
         <source>8-bit unsigned</source>
-        <translation type="unfinished"></translation>
+        <translation>8 bits non signé</translation>
     </message>
     <message>
         <source>8-bit signed</source>
-        <translation type="unfinished"></translation>
+        <translation>8 bits signé</translation>
     </message>
     <message>
         <source>16-bit unsigned</source>
-        <translation type="unfinished"></translation>
+        <translation>16 bits non signé</translation>
     </message>
     <message>
         <source>16-bit signed</source>
-        <translation type="unfinished"></translation>
+        <translation>16 bits signé</translation>
     </message>
     <message>
         <source>32-bit unsigned</source>
-        <translation type="unfinished"></translation>
+        <translation>32 bits non signé</translation>
     </message>
     <message>
         <source>32-bit signed</source>
-        <translation type="unfinished"></translation>
+        <translation>32 bits signé</translation>
     </message>
     <message>
         <source>Sticky</source>
-        <translation type="unfinished"></translation>
+        <translation>Persistant</translation>
     </message>
     <message>
         <source>Locking</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouillé</translation>
     </message>
     <message>
         <source>Do nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne rien faire</translation>
     </message>
     <message>
         <source>Shift keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Basculer le clavier</translation>
     </message>
     <message>
         <source>Repeat last key</source>
-        <translation type="unfinished"></translation>
+        <translation>Répéter la dernière touche</translation>
     </message>
     <message>
         <source>Open last form</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le dernier formulaire</translation>
     </message>
     <message>
         <source>Play macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécuter la macro</translation>
     </message>
     <message>
         <source>100 Registers</source>
@@ -1897,7 +1909,7 @@
     </message>
     <message>
         <source>Backspace Drops</source>
-        <translation type="unfinished"></translation>
+        <translation>Retour arrière supprime X</translation>
     </message>
     <message>
         <source>Comma Radix</source>
@@ -1913,7 +1925,7 @@
     </message>
     <message>
         <source>How many digits the number format shows; All: every digit</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de chiffres affichés par le format ; Tout : tous les chiffres</translation>
     </message>
     <message>
         <source>Input:</source>
@@ -1925,7 +1937,7 @@
     </message>
     <message>
         <source>How many levels the operating stack has</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de niveaux de la pile de calcul</translation>
     </message>
     <message>
         <source>Integer:</source>
@@ -1961,7 +1973,7 @@
     </message>
     <message>
         <source>TVM</source>
-        <translation type="unfinished"></translation>
+        <translation>Valeur temps (TVM)</translation>
     </message>
     <message>
         <source>Amortization</source>
@@ -1973,7 +1985,7 @@
     </message>
     <message>
         <source>Basic also</source>
-        <translation type="unfinished"></translation>
+        <translation>Aussi en simple</translation>
     </message>
     <message>
         <source>Small</source>
@@ -1997,7 +2009,7 @@
     </message>
     <message>
         <source>Quick Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Changement rapide</translation>
     </message>
     <message>
         <source>Colors...</source>
@@ -2025,43 +2037,43 @@
     </message>
     <message>
         <source>Above</source>
-        <translation type="unfinished"></translation>
+        <translation>Au-dessus</translation>
     </message>
     <message>
         <source>Within</source>
-        <translation type="unfinished"></translation>
+        <translation>Dedans</translation>
     </message>
     <message>
         <source>Static</source>
-        <translation type="unfinished"></translation>
+        <translation>Fixe</translation>
     </message>
     <message>
         <source>Swapped</source>
-        <translation type="unfinished"></translation>
+        <translation>Inversé</translation>
     </message>
     <message>
         <source>Zoomed</source>
-        <translation type="unfinished"></translation>
+        <translation>Agrandi</translation>
     </message>
     <message>
         <source>Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Maj</translation>
     </message>
     <message>
         <source>Foreground</source>
-        <translation type="unfinished"></translation>
+        <translation>Premier plan</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normale</translation>
     </message>
     <message>
         <source>Strong</source>
-        <translation type="unfinished"></translation>
+        <translation>Forte</translation>
     </message>
     <message>
         <source>Heavy</source>
-        <translation type="unfinished"></translation>
+        <translation>Très forte</translation>
     </message>
     <message>
         <source>Show:</source>
@@ -2101,7 +2113,7 @@
     </message>
     <message>
         <source>%1: %2 unchanged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : %2 inchangé</translation>
     </message>
     <message>
         <source>Amount</source>
@@ -2129,15 +2141,15 @@
     </message>
     <message>
         <source>Int</source>
-        <translation type="unfinished"></translation>
+        <translation>Int</translation>
     </message>
     <message>
         <source>Prin</source>
-        <translation type="unfinished"></translation>
+        <translation>Cap</translation>
     </message>
     <message>
         <source>Bal</source>
-        <translation type="unfinished"></translation>
+        <translation>Solde</translation>
     </message>
     <message>
         <source>Export CSV...</source>
@@ -2149,7 +2161,7 @@
     </message>
     <message>
         <source>Listed up to payment %1 of %2: the amortization keys reach no further.</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste jusqu’au paiement %1 sur %2 : les touches d’amortissement ne vont pas plus loin.</translation>
     </message>
     <message>
         <source>Export CSV</source>
@@ -2157,11 +2169,11 @@
     </message>
     <message>
         <source>CSV files (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers CSV (*.csv)</translation>
     </message>
     <message>
         <source>The schedule could not be written to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’échéancier n’a pas pu être écrit dans %1.</translation>
     </message>
     <message>
         <source>Date &amp; Time</source>
@@ -2169,7 +2181,7 @@
     </message>
     <message>
         <source>Stack levels</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveaux de la pile</translation>
     </message>
     <message>
         <source>Try again, or quit without saving what changed since the last save?</source>
