@@ -5,222 +5,222 @@
     <name>Constant</name>
     <message>
         <source>Avogadro&apos;s number, NA</source>
-        <translation type="unfinished"></translation>
+        <translation>Numero di Avogadro, NA</translation>
     </message>
     <message>
         <source>Boltzmann constant, k</source>
-        <translation type="unfinished"></translation>
+        <translation>Costante di Boltzmann, k</translation>
     </message>
     <message>
         <source>Molar volume, Vm</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume molare, Vm</translation>
     </message>
     <message>
         <source>Universal gas constant, R</source>
-        <translation type="unfinished"></translation>
+        <translation>Costante universale dei gas, R</translation>
     </message>
     <message>
         <source>Standard temperature, StdT</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura normale, StdT</translation>
     </message>
     <message>
         <source>Standard pressure, StdP</source>
-        <translation type="unfinished"></translation>
+        <translation>Pressione normale, StdP</translation>
     </message>
     <message>
         <source>Stefan-Boltzmann constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Costante di Stefan-Boltzmann</translation>
     </message>
     <message>
         <source>Speed of light in vacuum, c</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocità della luce nel vuoto, c</translation>
     </message>
     <message>
         <source>Permittivity of vacuum</source>
-        <translation type="unfinished"></translation>
+        <translation>Permittività del vuoto</translation>
     </message>
     <message>
         <source>Permeability of vacuum</source>
-        <translation type="unfinished"></translation>
+        <translation>Permeabilità del vuoto</translation>
     </message>
     <message>
         <source>Acceleration of gravity, g</source>
-        <translation type="unfinished"></translation>
+        <translation>Accelerazione di gravità, g</translation>
     </message>
     <message>
         <source>Gravitational constant, G</source>
-        <translation type="unfinished"></translation>
+        <translation>Costante gravitazionale, G</translation>
     </message>
     <message>
         <source>Planck&apos;s constant, h</source>
-        <translation type="unfinished"></translation>
+        <translation>Costante di Planck, h</translation>
     </message>
     <message>
         <source>Dirac&apos;s constant, hbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Costante di Planck ridotta, hbar</translation>
     </message>
     <message>
         <source>Electron charge, q</source>
-        <translation type="unfinished"></translation>
+        <translation>Carica dell’elettrone, q</translation>
     </message>
     <message>
         <source>Electron rest mass, me</source>
-        <translation type="unfinished"></translation>
+        <translation>Massa a riposo dell’elettrone, me</translation>
     </message>
     <message>
         <source>q/me, qme</source>
-        <translation type="unfinished"></translation>
+        <translation>q/me, qme</translation>
     </message>
     <message>
         <source>Proton rest mass, mp</source>
-        <translation type="unfinished"></translation>
+        <translation>Massa a riposo del protone, mp</translation>
     </message>
     <message>
         <source>mp/me, mpme</source>
-        <translation type="unfinished"></translation>
+        <translation>mp/me, mpme</translation>
     </message>
     <message>
         <source>Fine structure constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Costante di struttura fine</translation>
     </message>
     <message>
         <source>Magnetic flux quantum</source>
-        <translation type="unfinished"></translation>
+        <translation>Quanto di flusso magnetico</translation>
     </message>
     <message>
         <source>Faraday constant, F</source>
-        <translation type="unfinished"></translation>
+        <translation>Costante di Faraday, F</translation>
     </message>
     <message>
         <source>Rydberg constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Costante di Rydberg</translation>
     </message>
     <message>
         <source>Bohr radius, a0</source>
-        <translation type="unfinished"></translation>
+        <translation>Raggio di Bohr, a0</translation>
     </message>
     <message>
         <source>Bohr magneton</source>
-        <translation type="unfinished"></translation>
+        <translation>Magnetone di Bohr</translation>
     </message>
     <message>
         <source>Nuclear magneton</source>
-        <translation type="unfinished"></translation>
+        <translation>Magnetone nucleare</translation>
     </message>
     <message>
         <source>Photon wavelength (ch/e)</source>
-        <translation type="unfinished"></translation>
+        <translation>Lunghezza d’onda del fotone (ch/e)</translation>
     </message>
     <message>
         <source>Photon frequency (e/h)</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequenza del fotone (e/h)</translation>
     </message>
     <message>
         <source>Compton wavelength</source>
-        <translation type="unfinished"></translation>
+        <translation>Lunghezza d’onda Compton</translation>
     </message>
     <message>
         <source>Wien displacement constant, c3</source>
-        <translation type="unfinished"></translation>
+        <translation>Costante di spostamento di Wien, c3</translation>
     </message>
     <message>
         <source>Dielectric constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Costante dielettrica</translation>
     </message>
     <message>
         <source>SiO2 dielectric constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Costante dielettrica del SiO2</translation>
     </message>
     <message>
         <source>Reference intensity, I0</source>
-        <translation type="unfinished"></translation>
+        <translation>Intensità di riferimento, I0</translation>
     </message>
 </context>
 <context>
     <name>KeyMeaning</name>
     <message>
         <source>Digit 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifra 0</translation>
     </message>
     <message>
         <source>Digit 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifra 1</translation>
     </message>
     <message>
         <source>Digit 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifra 2</translation>
     </message>
     <message>
         <source>Digit 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifra 3</translation>
     </message>
     <message>
         <source>Digit 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifra 4</translation>
     </message>
     <message>
         <source>Digit 5</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifra 5</translation>
     </message>
     <message>
         <source>Digit 6</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifra 6</translation>
     </message>
     <message>
         <source>Digit 7</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifra 7</translation>
     </message>
     <message>
         <source>Digit 8</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifra 8</translation>
     </message>
     <message>
         <source>Digit 9</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifra 9</translation>
     </message>
     <message>
         <source>Hexadecimal digit A (10)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifra esadecimale A (10)</translation>
     </message>
     <message>
         <source>Hexadecimal digit B (11)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifra esadecimale B (11)</translation>
     </message>
     <message>
         <source>Hexadecimal digit C (12)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifra esadecimale C (12)</translation>
     </message>
     <message>
         <source>Hexadecimal digit D (13)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifra esadecimale D (13)</translation>
     </message>
     <message>
         <source>Hexadecimal digit E (14)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifra esadecimale E (14)</translation>
     </message>
     <message>
         <source>E (in an integer base)</source>
-        <translation type="unfinished"></translation>
+        <translation>E (in una base intera)</translation>
     </message>
     <message>
         <source>Hexadecimal digit F (15)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cifra esadecimale F (15)</translation>
     </message>
     <message>
         <source>Decimal point</source>
-        <translation type="unfinished"></translation>
+        <translation>Separatore decimale</translation>
     </message>
     <message>
         <source>. or ,</source>
-        <translation type="unfinished"></translation>
+        <translation>. o ,</translation>
     </message>
     <message>
         <source>Decimal point (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Separatore decimale (secondo tasto)</translation>
     </message>
     <message>
         <source>Enter exponent</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserisci esponente</translation>
     </message>
     <message>
         <source>Change sign</source>
@@ -228,15 +228,15 @@
     </message>
     <message>
         <source>Backspace</source>
-        <translation type="unfinished"></translation>
+        <translation>Backspace</translation>
     </message>
     <message>
         <source>Enter</source>
-        <translation type="unfinished"></translation>
+        <translation>Invio</translation>
     </message>
     <message>
         <source>Enter (RPN)</source>
-        <translation type="unfinished"></translation>
+        <translation>Invio (RPN)</translation>
     </message>
     <message>
         <source>Add</source>
@@ -252,7 +252,7 @@
     </message>
     <message>
         <source>* or X</source>
-        <translation type="unfinished"></translation>
+        <translation>* o X</translation>
     </message>
     <message>
         <source>Divide</source>
@@ -260,111 +260,111 @@
     </message>
     <message>
         <source>Equals: complete the calculation</source>
-        <translation type="unfinished"></translation>
+        <translation>Uguale: completa il calcolo</translation>
     </message>
     <message>
         <source>= or Enter</source>
-        <translation type="unfinished"></translation>
+        <translation>= o Invio</translation>
     </message>
     <message>
         <source>Shift: the keys&apos; second functions</source>
-        <translation type="unfinished"></translation>
+        <translation>Maiusc: le seconde funzioni dei tasti</translation>
     </message>
     <message>
         <source>Show all digits, dates as numbers (toggle)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra tutte le cifre, date come numeri (alterna)</translation>
     </message>
     <message>
         <source>Clear all: stack, registers and macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella tutto: stack, registri e macro</translation>
     </message>
     <message>
         <source>Clear stack</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella lo stack</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Canc</translation>
     </message>
     <message>
         <source>Clear X</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella X</translation>
     </message>
     <message>
         <source>Clear all (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella tutto (secondo tasto)</translation>
     </message>
     <message>
         <source>Clear stack (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella lo stack (secondo tasto)</translation>
     </message>
     <message>
         <source>Clear X (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella X (secondo tasto)</translation>
     </message>
     <message>
         <source>Clear user, financial and statistical registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella i registri utente, finanziari e statistici</translation>
     </message>
     <message>
         <source>Clear the financial registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella i registri finanziari</translation>
     </message>
     <message>
         <source>Clear the statistical sums</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella le somme statistiche</translation>
     </message>
     <message>
         <source>Roll the stack down</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruota lo stack verso il basso</translation>
     </message>
     <message>
         <source>Roll the stack up</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruota lo stack verso l’alto</translation>
     </message>
     <message>
         <source>Drop X</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina X</translation>
     </message>
     <message>
         <source>Fill the stack with X</source>
-        <translation type="unfinished"></translation>
+        <translation>Riempi lo stack con X</translation>
     </message>
     <message>
         <source>Exchange X and Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Scambia X e Y</translation>
     </message>
     <message>
         <source>Store X in a register</source>
-        <translation type="unfinished"></translation>
+        <translation>Memorizza X in un registro</translation>
     </message>
     <message>
         <source>Last X</source>
-        <translation type="unfinished"></translation>
+        <translation>Ultimo X</translation>
     </message>
     <message>
         <source>Recall a register</source>
-        <translation type="unfinished"></translation>
+        <translation>Richiama un registro</translation>
     </message>
     <message>
         <source>Exchange X with a register</source>
-        <translation type="unfinished"></translation>
+        <translation>Scambia X con un registro</translation>
     </message>
     <message>
         <source>Open parenthesis</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri parentesi</translation>
     </message>
     <message>
         <source>Close parenthesis</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiudi parentesi</translation>
     </message>
     <message>
         <source>Percent of total: X as a percentage of Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Percentuale del totale: X come percentuale di Y</translation>
     </message>
     <message>
         <source>Percent change from Y to X</source>
-        <translation type="unfinished"></translation>
+        <translation>Variazione percentuale da Y a X</translation>
     </message>
     <message>
         <source>Percent</source>
@@ -372,15 +372,15 @@
     </message>
     <message>
         <source>Round X to the digits shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrotonda X alle cifre mostrate</translation>
     </message>
     <message>
         <source>Integer part</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte intera</translation>
     </message>
     <message>
         <source>Absolute value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valore assoluto</translation>
     </message>
     <message>
         <source>Square root</source>
@@ -392,39 +392,39 @@
     </message>
     <message>
         <source>Cube root</source>
-        <translation type="unfinished"></translation>
+        <translation>Radice cubica</translation>
     </message>
     <message>
         <source>Cube</source>
-        <translation type="unfinished"></translation>
+        <translation>Cubo</translation>
     </message>
     <message>
         <source>Power: Y raised to X</source>
-        <translation type="unfinished"></translation>
+        <translation>Potenza: Y elevato a X</translation>
     </message>
     <message>
         <source>Reciprocal</source>
-        <translation type="unfinished"></translation>
+        <translation>Reciproco</translation>
     </message>
     <message>
         <source>Fractional part</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte frazionaria</translation>
     </message>
     <message>
         <source>Remainder of Y divided by X</source>
-        <translation type="unfinished"></translation>
+        <translation>Resto di Y diviso X</translation>
     </message>
     <message>
         <source>Payments at the beginning or end of periods (toggle)</source>
-        <translation type="unfinished"></translation>
+        <translation>Rate all’inizio o alla fine dei periodi (alterna)</translation>
     </message>
     <message>
         <source>Number of payments</source>
-        <translation type="unfinished"></translation>
+        <translation>Numero di rate</translation>
     </message>
     <message>
         <source>Nominal annual interest rate, percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasso di interesse nominale annuo, in percentuale</translation>
     </message>
     <message>
         <source>Present value</source>
@@ -432,7 +432,7 @@
     </message>
     <message>
         <source>Payment per period</source>
-        <translation type="unfinished"></translation>
+        <translation>Rata per periodo</translation>
     </message>
     <message>
         <source>Future value</source>
@@ -440,63 +440,63 @@
     </message>
     <message>
         <source>Payments per year</source>
-        <translation type="unfinished"></translation>
+        <translation>Rate per anno</translation>
     </message>
     <message>
         <source>Nominal annual interest rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasso di interesse nominale annuo</translation>
     </message>
     <message>
         <source>Effective annual interest rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasso di interesse effettivo annuo</translation>
     </message>
     <message>
         <source>Years times payments per year, stored in N</source>
-        <translation type="unfinished"></translation>
+        <translation>Anni per rate all’anno, memorizzato in N</translation>
     </message>
     <message>
         <source>Divide by payments per year</source>
-        <translation type="unfinished"></translation>
+        <translation>Dividi per le rate all’anno</translation>
     </message>
     <message>
         <source>Cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Costo</translation>
     </message>
     <message>
         <source>Price</source>
-        <translation type="unfinished"></translation>
+        <translation>Prezzo</translation>
     </message>
     <message>
         <source>Margin, percent of price</source>
-        <translation type="unfinished"></translation>
+        <translation>Margine, percentuale del prezzo</translation>
     </message>
     <message>
         <source>Markup, percent of cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Ricarico, percentuale del costo</translation>
     </message>
     <message>
         <source>Amortize a range of payments</source>
-        <translation type="unfinished"></translation>
+        <translation>Ammortizza una serie di rate</translation>
     </message>
     <message>
         <source>Amortize the next range of payments</source>
-        <translation type="unfinished"></translation>
+        <translation>Ammortizza la serie di rate successiva</translation>
     </message>
     <message>
         <source>Cash flow: append X to the cash flows</source>
-        <translation type="unfinished"></translation>
+        <translation>Flusso di cassa: aggiungi X ai flussi</translation>
     </message>
     <message>
         <source>Times the last cash flow repeats</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripetizioni dell’ultimo flusso</translation>
     </message>
     <message>
         <source>Net present value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valore attuale netto</translation>
     </message>
     <message>
         <source>Internal rate of return per year</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasso interno di rendimento annuo</translation>
     </message>
     <message>
         <source>Sine</source>
@@ -512,623 +512,623 @@
     </message>
     <message>
         <source>Arc sine</source>
-        <translation type="unfinished"></translation>
+        <translation>Arcoseno</translation>
     </message>
     <message>
         <source>Arc cosine</source>
-        <translation type="unfinished"></translation>
+        <translation>Arcocoseno</translation>
     </message>
     <message>
         <source>Arc tangent</source>
-        <translation type="unfinished"></translation>
+        <translation>Arcotangente</translation>
     </message>
     <message>
         <source>Pi</source>
-        <translation type="unfinished"></translation>
+        <translation>Pi greco</translation>
     </message>
     <message>
         <source>Hyperbolic prefix for the next function</source>
-        <translation type="unfinished"></translation>
+        <translation>Prefisso iperbolico per la funzione successiva</translation>
     </message>
     <message>
         <source>Natural logarithm</source>
-        <translation type="unfinished"></translation>
+        <translation>Logaritmo naturale</translation>
     </message>
     <message>
         <source>Common logarithm</source>
-        <translation type="unfinished"></translation>
+        <translation>Logaritmo decimale</translation>
     </message>
     <message>
         <source>Natural exponential</source>
-        <translation type="unfinished"></translation>
+        <translation>Esponenziale</translation>
     </message>
     <message>
         <source>Power of ten</source>
-        <translation type="unfinished"></translation>
+        <translation>Potenza di dieci</translation>
     </message>
     <message>
         <source>Angles in degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Angoli in gradi</translation>
     </message>
     <message>
         <source>Angles in radians</source>
-        <translation type="unfinished"></translation>
+        <translation>Angoli in radianti</translation>
     </message>
     <message>
         <source>Angles in grads</source>
-        <translation type="unfinished"></translation>
+        <translation>Angoli in gradi centesimali</translation>
     </message>
     <message>
         <source>Radians to degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Da radianti a gradi</translation>
     </message>
     <message>
         <source>Degrees to radians</source>
-        <translation type="unfinished"></translation>
+        <translation>Da gradi a radianti</translation>
     </message>
     <message>
         <source>Polar to rectangular</source>
-        <translation type="unfinished"></translation>
+        <translation>Da polari a rettangolari</translation>
     </message>
     <message>
         <source>Rectangular to polar</source>
-        <translation type="unfinished"></translation>
+        <translation>Da rettangolari a polari</translation>
     </message>
     <message>
         <source>Hours to hours.minutes-seconds (h.mmss)</source>
-        <translation type="unfinished"></translation>
+        <translation>Da ore a ore.minuti-secondi (h.mmss)</translation>
     </message>
     <message>
         <source>Hours.minutes-seconds (h.mmss) to hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Da ore.minuti-secondi (h.mmss) a ore</translation>
     </message>
     <message>
         <source>Add the point (X, Y) to the sums</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi il punto (X, Y) alle somme</translation>
     </message>
     <message>
         <source>Remove the point (X, Y) from the sums</source>
-        <translation type="unfinished"></translation>
+        <translation>Togli il punto (X, Y) dalle somme</translation>
     </message>
     <message>
         <source>Sum of x</source>
-        <translation type="unfinished"></translation>
+        <translation>Somma delle x</translation>
     </message>
     <message>
         <source>Sum of x squared</source>
-        <translation type="unfinished"></translation>
+        <translation>Somma dei quadrati di x</translation>
     </message>
     <message>
         <source>Sum of y</source>
-        <translation type="unfinished"></translation>
+        <translation>Somma delle y</translation>
     </message>
     <message>
         <source>Sum of y squared</source>
-        <translation type="unfinished"></translation>
+        <translation>Somma dei quadrati di y</translation>
     </message>
     <message>
         <source>Sum of the products xy</source>
-        <translation type="unfinished"></translation>
+        <translation>Somma dei prodotti xy</translation>
     </message>
     <message>
         <source>Number of points</source>
-        <translation type="unfinished"></translation>
+        <translation>Numero di punti</translation>
     </message>
     <message>
         <source>Mean of x</source>
-        <translation type="unfinished"></translation>
+        <translation>Media di x</translation>
     </message>
     <message>
         <source>Mean of x weighted by y</source>
-        <translation type="unfinished"></translation>
+        <translation>Media di x pesata con y</translation>
     </message>
     <message>
         <source>Mean of y</source>
-        <translation type="unfinished"></translation>
+        <translation>Media di y</translation>
     </message>
     <message>
         <source>Estimated x for the y in X; r in Y</source>
-        <translation type="unfinished"></translation>
+        <translation>x stimato per la y in X; r in Y</translation>
     </message>
     <message>
         <source>Estimated y for the x in X; slope in Y</source>
-        <translation type="unfinished"></translation>
+        <translation>y stimato per la x in X; pendenza in Y</translation>
     </message>
     <message>
         <source>Random number</source>
-        <translation type="unfinished"></translation>
+        <translation>Numero casuale</translation>
     </message>
     <message>
         <source>Factorial</source>
-        <translation type="unfinished"></translation>
+        <translation>Fattoriale</translation>
     </message>
     <message>
         <source>Logarithm of the gamma function</source>
-        <translation type="unfinished"></translation>
+        <translation>Logaritmo della funzione gamma</translation>
     </message>
     <message>
         <source>Sample standard deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>Deviazione standard campionaria</translation>
     </message>
     <message>
         <source>Population standard deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>Deviazione standard della popolazione</translation>
     </message>
     <message>
         <source>Combinations of X items from Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinazioni di X elementi da Y</translation>
     </message>
     <message>
         <source>Permutations of X items from Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposizioni di X elementi da Y</translation>
     </message>
     <message>
         <source>Binary entry and display</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserimento e visualizzazione binari</translation>
     </message>
     <message>
         <source>Octal entry and display</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserimento e visualizzazione ottali</translation>
     </message>
     <message>
         <source>Decimal integer entry and display</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserimento e visualizzazione di interi decimali</translation>
     </message>
     <message>
         <source>Hexadecimal entry and display</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserimento e visualizzazione esadecimali</translation>
     </message>
     <message>
         <source>Bitwise AND</source>
-        <translation type="unfinished"></translation>
+        <translation>AND bit a bit</translation>
     </message>
     <message>
         <source>Bitwise OR</source>
-        <translation type="unfinished"></translation>
+        <translation>OR bit a bit</translation>
     </message>
     <message>
         <source>Bitwise exclusive OR</source>
-        <translation type="unfinished"></translation>
+        <translation>OR esclusivo bit a bit</translation>
     </message>
     <message>
         <source>Bitwise NOT</source>
-        <translation type="unfinished"></translation>
+        <translation>NOT bit a bit</translation>
     </message>
     <message>
         <source>Shift Y left by X bits</source>
-        <translation type="unfinished"></translation>
+        <translation>Sposta Y a sinistra di X bit</translation>
     </message>
     <message>
         <source>Shift Y right by X bits (logical)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sposta Y a destra di X bit (logico)</translation>
     </message>
     <message>
         <source>Arithmetic shift right, keeping the sign</source>
-        <translation type="unfinished"></translation>
+        <translation>Spostamento aritmetico a destra, segno mantenuto</translation>
     </message>
     <message>
         <source>Rotate Y right by X bits</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruota Y a destra di X bit</translation>
     </message>
     <message>
         <source>Inches</source>
-        <translation type="unfinished"></translation>
+        <translation>Pollici</translation>
     </message>
     <message>
         <source>Feet</source>
-        <translation type="unfinished"></translation>
+        <translation>Piedi</translation>
     </message>
     <message>
         <source>Miles</source>
-        <translation type="unfinished"></translation>
+        <translation>Miglia</translation>
     </message>
     <message>
         <source>Meters</source>
-        <translation type="unfinished"></translation>
+        <translation>Metri</translation>
     </message>
     <message>
         <source>Square inches</source>
-        <translation type="unfinished"></translation>
+        <translation>Pollici quadrati</translation>
     </message>
     <message>
         <source>Square feet</source>
-        <translation type="unfinished"></translation>
+        <translation>Piedi quadrati</translation>
     </message>
     <message>
         <source>Square miles</source>
-        <translation type="unfinished"></translation>
+        <translation>Miglia quadrate</translation>
     </message>
     <message>
         <source>Square meters</source>
-        <translation type="unfinished"></translation>
+        <translation>Metri quadrati</translation>
     </message>
     <message>
         <source>Pounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Libbre</translation>
     </message>
     <message>
         <source>Ounces</source>
-        <translation type="unfinished"></translation>
+        <translation>Once</translation>
     </message>
     <message>
         <source>Kilograms</source>
-        <translation type="unfinished"></translation>
+        <translation>Chilogrammi</translation>
     </message>
     <message>
         <source>Grams</source>
-        <translation type="unfinished"></translation>
+        <translation>Grammi</translation>
     </message>
     <message>
         <source>Inches per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Pollici al secondo</translation>
     </message>
     <message>
         <source>Feet per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Piedi al secondo</translation>
     </message>
     <message>
         <source>Meters per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Metri al secondo</translation>
     </message>
     <message>
         <source>Miles per hour</source>
-        <translation type="unfinished"></translation>
+        <translation>Miglia orarie</translation>
     </message>
     <message>
         <source>Kilometers per hour</source>
-        <translation type="unfinished"></translation>
+        <translation>Chilometri orari</translation>
     </message>
     <message>
         <source>Centimeters per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Centimetri al secondo</translation>
     </message>
     <message>
         <source>US gallons</source>
-        <translation type="unfinished"></translation>
+        <translation>Galloni USA</translation>
     </message>
     <message>
         <source>Milliliters</source>
-        <translation type="unfinished"></translation>
+        <translation>Millilitri</translation>
     </message>
     <message>
         <source>Liters</source>
-        <translation type="unfinished"></translation>
+        <translation>Litri</translation>
     </message>
     <message>
         <source>US fluid ounces</source>
-        <translation type="unfinished"></translation>
+        <translation>Once liquide USA</translation>
     </message>
     <message>
         <source>Degrees Celsius</source>
-        <translation type="unfinished"></translation>
+        <translation>Gradi Celsius</translation>
     </message>
     <message>
         <source>Degrees Fahrenheit</source>
-        <translation type="unfinished"></translation>
+        <translation>Gradi Fahrenheit</translation>
     </message>
     <message>
         <source>X-th root of Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Radice X-esima di Y</translation>
     </message>
     <message>
         <source>8-bit unsigned integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Intero a 8 bit senza segno</translation>
     </message>
     <message>
         <source>8-bit signed integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Intero a 8 bit con segno</translation>
     </message>
     <message>
         <source>16-bit unsigned integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Intero a 16 bit senza segno</translation>
     </message>
     <message>
         <source>16-bit signed integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Intero a 16 bit con segno</translation>
     </message>
     <message>
         <source>32-bit unsigned integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Intero a 32 bit senza segno</translation>
     </message>
     <message>
         <source>32-bit signed integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Intero a 32 bit con segno</translation>
     </message>
     <message>
         <source>Standard number format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato numerico standard</translation>
     </message>
     <message>
         <source>Scientific format: digits follow</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato scientifico: seguono le cifre</translation>
     </message>
     <message>
         <source>Engineering format: digits follow</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato ingegneristico: seguono le cifre</translation>
     </message>
     <message>
         <source>Largest whole number not above X</source>
-        <translation type="unfinished"></translation>
+        <translation>Massimo intero non superiore a X</translation>
     </message>
     <message>
         <source>Smallest whole number not below X</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimo intero non inferiore a X</translation>
     </message>
     <message>
         <source>Change sign of an integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia il segno di un intero</translation>
     </message>
     <message>
         <source>X as an integer of the default format</source>
-        <translation type="unfinished"></translation>
+        <translation>X come intero del formato predefinito</translation>
     </message>
     <message>
         <source>Integer add</source>
-        <translation type="unfinished"></translation>
+        <translation>Somma intera</translation>
     </message>
     <message>
         <source>Integer subtract</source>
-        <translation type="unfinished"></translation>
+        <translation>Sottrazione intera</translation>
     </message>
     <message>
         <source>Integer multiply</source>
-        <translation type="unfinished"></translation>
+        <translation>Moltiplicazione intera</translation>
     </message>
     <message>
         <source>Integer divide</source>
-        <translation type="unfinished"></translation>
+        <translation>Divisione intera</translation>
     </message>
     <message>
         <source>Fixed format: digits follow</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato fisso: seguono le cifre</translation>
     </message>
     <message>
         <source>Clear the date registers and duration settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella i registri di data e le impostazioni di durata</translation>
     </message>
     <message>
         <source>The current date and time</source>
-        <translation type="unfinished"></translation>
+        <translation>La data e l’ora attuali</translation>
     </message>
     <message>
         <source>Date: X typed as Y.MMDD becomes a date</source>
-        <translation type="unfinished"></translation>
+        <translation>Data: X scritto come A.MMGG diventa una data</translation>
     </message>
     <message>
         <source>Time: X typed as H.MMSS becomes a clock time</source>
-        <translation type="unfinished"></translation>
+        <translation>Ora: X scritto come H.MMSS diventa un orario</translation>
     </message>
     <message>
         <source>Years</source>
-        <translation type="unfinished"></translation>
+        <translation>Anni</translation>
     </message>
     <message>
         <source>Months</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesi</translation>
     </message>
     <message>
         <source>Weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>Settimane</translation>
     </message>
     <message>
         <source>Days</source>
-        <translation type="unfinished"></translation>
+        <translation>Giorni</translation>
     </message>
     <message>
         <source>Hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Ore</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minuti</translation>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondi</translation>
     </message>
     <message>
         <source>Frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotogrammi</translation>
     </message>
     <message>
         <source>Hours.minutes-seconds (h.mmss) to frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Da ore.minuti-secondi (h.mmss) a fotogrammi</translation>
     </message>
     <message>
         <source>Days per year</source>
-        <translation type="unfinished"></translation>
+        <translation>Giorni per anno</translation>
     </message>
     <message>
         <source>Days per month</source>
-        <translation type="unfinished"></translation>
+        <translation>Giorni per mese</translation>
     </message>
     <message>
         <source>Days per week</source>
-        <translation type="unfinished"></translation>
+        <translation>Giorni per settimana</translation>
     </message>
     <message>
         <source>Hours per day</source>
-        <translation type="unfinished"></translation>
+        <translation>Ore per giorno</translation>
     </message>
     <message>
         <source>Frames per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotogrammi al secondo</translation>
     </message>
     <message>
         <source>Date part of a date and time</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte data di una data e ora</translation>
     </message>
     <message>
         <source>Time part of a date and time</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte ora di una data e ora</translation>
     </message>
     <message>
         <source>Fraction of a duration in the next smaller unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Frazione di una durata nell’unità inferiore</translation>
     </message>
     <message>
         <source>Enter (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Invio (secondo tasto)</translation>
     </message>
     <message>
         <source>Rotate the three lowest levels</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruota i tre livelli più bassi</translation>
     </message>
     <message>
         <source>Over: a copy of Y onto the stack</source>
-        <translation type="unfinished"></translation>
+        <translation>Over: una copia di Y nello stack</translation>
     </message>
     <message>
         <source>Simple input: in the order entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserimento semplice: nell’ordine inserito</translation>
     </message>
     <message>
         <source>Precedence input: × and ÷ before + and −</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserimento con precedenza: × e ÷ prima di + e −</translation>
     </message>
     <message>
         <source>RPN input: operands first</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserimento RPN: prima gli operandi</translation>
     </message>
     <message>
         <source>Record a macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Registra una macro</translation>
     </message>
     <message>
         <source>Play the macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Esegui la macro</translation>
     </message>
     <message>
         <source>Pause the macro for input</source>
-        <translation type="unfinished"></translation>
+        <translation>Sospendi la macro per un inserimento</translation>
     </message>
     <message>
         <source>Stop recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Ferma la registrazione</translation>
     </message>
     <message>
         <source>Centimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Centimetri</translation>
     </message>
     <message>
         <source>Millimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Millimetri</translation>
     </message>
     <message>
         <source>Yards</source>
-        <translation type="unfinished"></translation>
+        <translation>Iarde</translation>
     </message>
     <message>
         <source>Kilometers</source>
-        <translation type="unfinished"></translation>
+        <translation>Chilometri</translation>
     </message>
     <message>
         <source>Nautical miles</source>
-        <translation type="unfinished"></translation>
+        <translation>Miglia nautiche</translation>
     </message>
     <message>
         <source>Square millimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Millimetri quadrati</translation>
     </message>
     <message>
         <source>Square centimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Centimetri quadrati</translation>
     </message>
     <message>
         <source>Square kilometers</source>
-        <translation type="unfinished"></translation>
+        <translation>Chilometri quadrati</translation>
     </message>
     <message>
         <source>Square yards</source>
-        <translation type="unfinished"></translation>
+        <translation>Iarde quadrate</translation>
     </message>
     <message>
         <source>Acres</source>
-        <translation type="unfinished"></translation>
+        <translation>Acri</translation>
     </message>
     <message>
         <source>Short tons (2,000 pounds)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tonnellate corte (2.000 libbre)</translation>
     </message>
     <message>
         <source>Milligrams</source>
-        <translation type="unfinished"></translation>
+        <translation>Milligrammi</translation>
     </message>
     <message>
         <source>Knots</source>
-        <translation type="unfinished"></translation>
+        <translation>Nodi</translation>
     </message>
     <message>
         <source>Cubic meters</source>
-        <translation type="unfinished"></translation>
+        <translation>Metri cubi</translation>
     </message>
     <message>
         <source>Cubic centimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Centimetri cubi</translation>
     </message>
     <message>
         <source>Cubic yards</source>
-        <translation type="unfinished"></translation>
+        <translation>Iarde cubiche</translation>
     </message>
     <message>
         <source>Cubic feet</source>
-        <translation type="unfinished"></translation>
+        <translation>Piedi cubi</translation>
     </message>
     <message>
         <source>Cubic inches</source>
-        <translation type="unfinished"></translation>
+        <translation>Pollici cubi</translation>
     </message>
     <message>
         <source>US quarts</source>
-        <translation type="unfinished"></translation>
+        <translation>Quarti USA</translation>
     </message>
     <message>
         <source>US pints</source>
-        <translation type="unfinished"></translation>
+        <translation>Pinte USA</translation>
     </message>
     <message>
         <source>US cups</source>
-        <translation type="unfinished"></translation>
+        <translation>Tazze USA</translation>
     </message>
     <message>
         <source>Tablespoons</source>
-        <translation type="unfinished"></translation>
+        <translation>Cucchiai</translation>
     </message>
     <message>
         <source>Teaspoons</source>
-        <translation type="unfinished"></translation>
+        <translation>Cucchiaini</translation>
     </message>
     <message>
         <source>Imperial gallons</source>
-        <translation type="unfinished"></translation>
+        <translation>Galloni imperiali</translation>
     </message>
     <message>
         <source>Imperial fluid ounces</source>
-        <translation type="unfinished"></translation>
+        <translation>Once liquide imperiali</translation>
     </message>
     <message>
         <source>Amortize a range of payments (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ammortizza una serie di rate (secondo tasto)</translation>
     </message>
     <message>
         <source>Recall one of 100 registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Richiama uno dei 100 registri</translation>
     </message>
     <message>
         <source>Exchange X with one of 100 registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Scambia X con uno dei 100 registri</translation>
     </message>
     <message>
         <source>Store X in one of 100 registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Memorizza X in uno dei 100 registri</translation>
     </message>
     <message>
         <source>First shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Primo Maiusc</translation>
     </message>
     <message>
         <source>Second shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondo Maiusc</translation>
     </message>
 </context>
 <context>
@@ -1139,7 +1139,7 @@
     </message>
     <message>
         <source>The Keyboard dialog can be used to assign a function to this button.</source>
-        <translation type="unfinished"></translation>
+        <translation>La finestra Tastiera permette di assegnare una funzione a questo tasto.</translation>
     </message>
     <message>
         <source>Clear All</source>
@@ -1147,7 +1147,7 @@
     </message>
     <message>
         <source>This operation will clear the operating stack and all user, financial, statistical, and date registers, and the keyboard macro.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa operazione cancella lo stack operativo, tutti i registri utente, finanziari, statistici e di data, e la macro di tastiera.</translation>
     </message>
     <message>
         <source>Nothing to Undo</source>
@@ -1155,7 +1155,7 @@
     </message>
     <message>
         <source>There are no operations to be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non ci sono operazioni da annullare.</translation>
     </message>
     <message>
         <source>Nothing to Redo</source>
@@ -1163,7 +1163,7 @@
     </message>
     <message>
         <source>There are no undo actions to be redone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non ci sono azioni annullate da ripetere.</translation>
     </message>
     <message>
         <source>No Macro</source>
@@ -1171,50 +1171,50 @@
     </message>
     <message>
         <source>A macro must be recorded before it can be played back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una macro va registrata prima di poterla eseguire.</translation>
     </message>
     <message>
         <source>Macro Length Exceeded</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro troppo lunga</translation>
     </message>
     <message>
         <source>The macro length has been exceeded and the last key could not be recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lunghezza massima della macro è stata superata e l’ultimo tasto non è stato registrato.</translation>
     </message>
 </context>
 <context>
     <name>Theme</name>
     <message>
         <source>Default Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore predefinito</translation>
     </message>
     <message>
         <source>Default Grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>Grigi predefinito</translation>
     </message>
     <message>
         <source>Default B&amp;W</source>
-        <translation type="unfinished"></translation>
+        <translation>Bianco e nero predefinito</translation>
     </message>
     <message>
         <source>Original Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore originale</translation>
     </message>
     <message>
         <source>Original Grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>Grigi originale</translation>
     </message>
     <message>
         <source>Original B&amp;W</source>
-        <translation type="unfinished"></translation>
+        <translation>Bianco e nero originale</translation>
     </message>
     <message>
         <source>Light Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Sfondo chiaro</translation>
     </message>
     <message>
         <source>Dark Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Sfondo scuro</translation>
     </message>
 </context>
 <context>
@@ -1243,7 +1243,17 @@
 - The input method can be specified  at any time in the Preferences dialog
 
 - See the Comparison of Input Methods section of the User Guide for more details</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegliere un metodo di inserimento che determina come Brinto esegue i calcoli:
+
+- Semplice è un ordine infisso in cui le operazioni sono eseguite nell’ordine di inserimento; ad esempio, 2 + 3 * 5 = dà 25
+
+- Precedenza è anch’esso un ordine infisso in cui le operazioni binarie precedono moltiplicazione e divisione, che a loro volta precedono addizione e sottrazione, riducendo il bisogno di parentesi; ad esempio, 2 + 3 * 5 = dà 17
+
+- RPN (notazione polacca inversa) è un ordine postfisso in cui gli operandi sono inseriti prima dell’operazione; ad esempio, 2 Invio 3 + 5 * dà 25 e 2 Invio 3 Invio 5 * + dà 17
+
+- Il metodo di inserimento può essere cambiato in qualsiasi momento nelle Preferenze
+
+- Vedere la sezione «Comparison of Input Methods» della guida utente (in inglese) per maggiori dettagli</translation>
     </message>
     <message>
         <source>Input Method</source>
@@ -1275,7 +1285,7 @@
     </message>
     <message>
         <source>sqrt, x^2, pv, Square root...</source>
-        <translation type="unfinished"></translation>
+        <translation>sqrt, x^2, pv, Radice quadrata...</translation>
     </message>
     <message>
         <source>&amp;Matching keys:</source>
@@ -1463,31 +1473,31 @@
     </message>
     <message>
         <source>Gen</source>
-        <translation type="unfinished"></translation>
+        <translation>Gen</translation>
     </message>
     <message>
         <source>Fin</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin</translation>
     </message>
     <message>
         <source>Sci</source>
-        <translation type="unfinished"></translation>
+        <translation>Sci</translation>
     </message>
     <message>
         <source>Stat</source>
-        <translation type="unfinished"></translation>
+        <translation>Stat</translation>
     </message>
     <message>
         <source>Prog</source>
-        <translation type="unfinished"></translation>
+        <translation>Prog</translation>
     </message>
     <message>
         <source>Conv 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Conv 1</translation>
     </message>
     <message>
         <source>Conv 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Conv 2</translation>
     </message>
     <message>
         <source>Date</source>
@@ -1496,12 +1506,14 @@
     <message>
         <source>Conv
 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Conv
+1</translation>
     </message>
     <message>
         <source>Conv
 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Conv
+2</translation>
     </message>
     <message>
         <source>The calculator could not be saved.</source>
@@ -1517,7 +1529,7 @@
     </message>
     <message>
         <source>Tape lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Righe del nastro</translation>
     </message>
     <message>
         <source>Result</source>
@@ -1525,7 +1537,7 @@
     </message>
     <message>
         <source>Double click or Return recalls a result into X; Ctrl+C copies it</source>
-        <translation type="unfinished"></translation>
+        <translation>Doppio clic o Invio richiama un risultato in X; Ctrl+C lo copia</translation>
     </message>
     <message>
         <source>&amp;Recall</source>
@@ -1533,11 +1545,11 @@
     </message>
     <message>
         <source>Recall the selected result into X</source>
-        <translation type="unfinished"></translation>
+        <translation>Richiama il risultato scelto in X</translation>
     </message>
     <message>
         <source>Copy the selected result</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia il risultato scelto</translation>
     </message>
     <message>
         <source>&amp;Save As...</source>
@@ -1545,7 +1557,7 @@
     </message>
     <message>
         <source>Save the tape as text or CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva il nastro come testo o CSV</translation>
     </message>
     <message>
         <source>C&amp;lear</source>
@@ -1553,19 +1565,19 @@
     </message>
     <message>
         <source>Clear the tape</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancella il nastro</translation>
     </message>
     <message>
         <source>The tape could not be saved to %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile salvare il nastro in %1: %2</translation>
     </message>
     <message>
         <source>Save Tape</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva nastro</translation>
     </message>
     <message>
         <source>Text (*.txt);;CSV (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo (*.txt);;CSV (*.csv)</translation>
     </message>
     <message>
         <source>Color Chooser</source>
@@ -1601,27 +1613,27 @@
     </message>
     <message>
         <source>Standard:</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard:</translation>
     </message>
     <message>
         <source>Number:</source>
-        <translation type="unfinished"></translation>
+        <translation>Numero:</translation>
     </message>
     <message>
         <source>Register:</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro:</translation>
     </message>
     <message>
         <source>Clear:</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancellazione:</translation>
     </message>
     <message>
         <source>%1 text color</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore del testo %1</translation>
     </message>
     <message>
         <source>%1 background color</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore di sfondo %1</translation>
     </message>
     <message>
         <source>Default</source>
@@ -1633,23 +1645,23 @@
     </message>
     <message>
         <source>Days per year (dpy):</source>
-        <translation type="unfinished"></translation>
+        <translation>Giorni per anno (dpy):</translation>
     </message>
     <message>
         <source>Days per month (dpm):</source>
-        <translation type="unfinished"></translation>
+        <translation>Giorni per mese (dpm):</translation>
     </message>
     <message>
         <source>Days per week (dpw):</source>
-        <translation type="unfinished"></translation>
+        <translation>Giorni per settimana (dpw):</translation>
     </message>
     <message>
         <source>Hours per day (hpd):</source>
-        <translation type="unfinished"></translation>
+        <translation>Ore per giorno (hpd):</translation>
     </message>
     <message>
         <source>Frames per second (fps):</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotogrammi al secondo (fps):</translation>
     </message>
     <message>
         <source>Enter Date</source>
@@ -1661,15 +1673,15 @@
     </message>
     <message>
         <source>Hour</source>
-        <translation type="unfinished"></translation>
+        <translation>Ora</translation>
     </message>
     <message>
         <source>Tens of minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Decine di minuti</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minuti</translation>
     </message>
     <message>
         <source>&amp;Hour:</source>
@@ -1681,11 +1693,11 @@
     </message>
     <message>
         <source>AM</source>
-        <translation type="unfinished"></translation>
+        <translation>AM</translation>
     </message>
     <message>
         <source>PM</source>
-        <translation type="unfinished"></translation>
+        <translation>PM</translation>
     </message>
     <message>
         <source>Durations</source>
@@ -1705,15 +1717,15 @@
     </message>
     <message>
         <source>No Cash Flow Entries</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun flusso di cassa</translation>
     </message>
     <message>
         <source>There are no cash flow entries to display.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non ci sono flussi di cassa da mostrare.</translation>
     </message>
     <message>
         <source>&lt;h2&gt;User guide missing&lt;/h2&gt;&lt;p&gt;The user guide was not built into this copy of Brinto, so help cannot be shown.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h2&gt;Guida utente mancante&lt;/h2&gt;&lt;p&gt;La guida utente non è stata inclusa in questa copia di Brinto, quindi la guida non può essere mostrata.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Brinto Help</source>
@@ -1733,11 +1745,11 @@
     </message>
     <message>
         <source>Key %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasto %1: %2</translation>
     </message>
     <message>
         <source>no function</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuna funzione</translation>
     </message>
     <message>
         <source>Customize Keyboard</source>
@@ -1753,7 +1765,7 @@
     </message>
     <message>
         <source>Shifted</source>
-        <translation type="unfinished"></translation>
+        <translation>Con Maiusc</translation>
     </message>
     <message>
         <source>Available Keys:</source>
@@ -1761,7 +1773,7 @@
     </message>
     <message>
         <source>Available keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastiera disponibile</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -1773,15 +1785,15 @@
     </message>
     <message>
         <source>Amortization chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Grafico di ammortamento</translation>
     </message>
     <message>
         <source>Balance after each payment; interest and principal by year</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo dopo ogni rata; interessi e capitale per anno</translation>
     </message>
     <message>
         <source>Balance after each payment; interest and principal of each payment</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo dopo ogni rata; interessi e capitale di ogni rata</translation>
     </message>
     <message>
         <source>Year</source>
@@ -1805,15 +1817,15 @@
     </message>
     <message>
         <source>(by year)</source>
-        <translation type="unfinished"></translation>
+        <translation>(per anno)</translation>
     </message>
     <message>
         <source>(by payment)</source>
-        <translation type="unfinished"></translation>
+        <translation>(per rata)</translation>
     </message>
     <message>
         <source>Cash-flow diagram</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagramma dei flussi di cassa</translation>
     </message>
     <message>
         <source>All</source>
@@ -1821,7 +1833,7 @@
     </message>
     <message>
         <source>Standard</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard</translation>
     </message>
     <message>
         <source>Fixed</source>
@@ -1829,79 +1841,79 @@
     </message>
     <message>
         <source>Engineering</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingegneristico</translation>
     </message>
     <message>
         <source>RPN</source>
-        <translation type="unfinished"></translation>
+        <translation>RPN</translation>
     </message>
     <message>
         <source>8-bit unsigned</source>
-        <translation type="unfinished"></translation>
+        <translation>8 bit senza segno</translation>
     </message>
     <message>
         <source>8-bit signed</source>
-        <translation type="unfinished"></translation>
+        <translation>8 bit con segno</translation>
     </message>
     <message>
         <source>16-bit unsigned</source>
-        <translation type="unfinished"></translation>
+        <translation>16 bit senza segno</translation>
     </message>
     <message>
         <source>16-bit signed</source>
-        <translation type="unfinished"></translation>
+        <translation>16 bit con segno</translation>
     </message>
     <message>
         <source>32-bit unsigned</source>
-        <translation type="unfinished"></translation>
+        <translation>32 bit senza segno</translation>
     </message>
     <message>
         <source>32-bit signed</source>
-        <translation type="unfinished"></translation>
+        <translation>32 bit con segno</translation>
     </message>
     <message>
         <source>Sticky</source>
-        <translation type="unfinished"></translation>
+        <translation>Persistente</translation>
     </message>
     <message>
         <source>Locking</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloccato</translation>
     </message>
     <message>
         <source>Do nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>Non fare nulla</translation>
     </message>
     <message>
         <source>Shift keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia tastiera</translation>
     </message>
     <message>
         <source>Repeat last key</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripeti l’ultimo tasto</translation>
     </message>
     <message>
         <source>Open last form</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri l’ultimo modulo</translation>
     </message>
     <message>
         <source>Play macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Esegui macro</translation>
     </message>
     <message>
         <source>100 Registers</source>
-        <translation type="unfinished"></translation>
+        <translation>100 registri</translation>
     </message>
     <message>
         <source>Long Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Data estesa</translation>
     </message>
     <message>
         <source>Backspace Drops</source>
-        <translation type="unfinished"></translation>
+        <translation>Backspace elimina X</translation>
     </message>
     <message>
         <source>Comma Radix</source>
-        <translation type="unfinished"></translation>
+        <translation>Virgola decimale</translation>
     </message>
     <message>
         <source>Format:</source>
@@ -1913,7 +1925,7 @@
     </message>
     <message>
         <source>How many digits the number format shows; All: every digit</source>
-        <translation type="unfinished"></translation>
+        <translation>Quante cifre mostra il formato; Tutte: ogni cifra</translation>
     </message>
     <message>
         <source>Input:</source>
@@ -1925,7 +1937,7 @@
     </message>
     <message>
         <source>How many levels the operating stack has</source>
-        <translation type="unfinished"></translation>
+        <translation>Quanti livelli ha lo stack operativo</translation>
     </message>
     <message>
         <source>Integer:</source>
@@ -1933,7 +1945,7 @@
     </message>
     <message>
         <source>Shift:</source>
-        <translation type="unfinished"></translation>
+        <translation>Maiusc:</translation>
     </message>
     <message>
         <source>Action:</source>
@@ -1953,7 +1965,7 @@
     </message>
     <message>
         <source>Stack</source>
-        <translation type="unfinished"></translation>
+        <translation>Stack</translation>
     </message>
     <message>
         <source>User Registers</source>
@@ -1961,7 +1973,7 @@
     </message>
     <message>
         <source>TVM</source>
-        <translation type="unfinished"></translation>
+        <translation>Valore temporale (TVM)</translation>
     </message>
     <message>
         <source>Amortization</source>
@@ -1973,7 +1985,7 @@
     </message>
     <message>
         <source>Basic also</source>
-        <translation type="unfinished"></translation>
+        <translation>Anche base</translation>
     </message>
     <message>
         <source>Small</source>
@@ -1997,7 +2009,7 @@
     </message>
     <message>
         <source>Quick Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambio rapido</translation>
     </message>
     <message>
         <source>Colors...</source>
@@ -2005,7 +2017,7 @@
     </message>
     <message>
         <source>Tap:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tocco:</translation>
     </message>
     <message>
         <source>Theme:</source>
@@ -2025,43 +2037,43 @@
     </message>
     <message>
         <source>Above</source>
-        <translation type="unfinished"></translation>
+        <translation>Sopra</translation>
     </message>
     <message>
         <source>Within</source>
-        <translation type="unfinished"></translation>
+        <translation>Dentro</translation>
     </message>
     <message>
         <source>Static</source>
-        <translation type="unfinished"></translation>
+        <translation>Fissi</translation>
     </message>
     <message>
         <source>Swapped</source>
-        <translation type="unfinished"></translation>
+        <translation>Scambiato</translation>
     </message>
     <message>
         <source>Zoomed</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingranditi</translation>
     </message>
     <message>
         <source>Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Maiusc</translation>
     </message>
     <message>
         <source>Foreground</source>
-        <translation type="unfinished"></translation>
+        <translation>Primo piano</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normale</translation>
     </message>
     <message>
         <source>Strong</source>
-        <translation type="unfinished"></translation>
+        <translation>Forte</translation>
     </message>
     <message>
         <source>Heavy</source>
-        <translation type="unfinished"></translation>
+        <translation>Molto forte</translation>
     </message>
     <message>
         <source>Show:</source>
@@ -2081,7 +2093,7 @@
     </message>
     <message>
         <source>Active:</source>
-        <translation type="unfinished"></translation>
+        <translation>Attivo:</translation>
     </message>
     <message>
         <source>Shadow:</source>
@@ -2101,7 +2113,7 @@
     </message>
     <message>
         <source>%1: %2 unchanged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 invariato</translation>
     </message>
     <message>
         <source>Amount</source>
@@ -2109,7 +2121,7 @@
     </message>
     <message>
         <source>Schedule...</source>
-        <translation type="unfinished"></translation>
+        <translation>Piano...</translation>
     </message>
     <message>
         <source>Solve</source>
@@ -2129,15 +2141,15 @@
     </message>
     <message>
         <source>Int</source>
-        <translation type="unfinished"></translation>
+        <translation>Int</translation>
     </message>
     <message>
         <source>Prin</source>
-        <translation type="unfinished"></translation>
+        <translation>Cap</translation>
     </message>
     <message>
         <source>Bal</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo</translation>
     </message>
     <message>
         <source>Export CSV...</source>
@@ -2149,7 +2161,7 @@
     </message>
     <message>
         <source>Listed up to payment %1 of %2: the amortization keys reach no further.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elencato fino alla rata %1 di %2: i tasti di ammortamento non vanno oltre.</translation>
     </message>
     <message>
         <source>Export CSV</source>
@@ -2157,11 +2169,11 @@
     </message>
     <message>
         <source>CSV files (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>File CSV (*.csv)</translation>
     </message>
     <message>
         <source>The schedule could not be written to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile scrivere il piano in %1.</translation>
     </message>
     <message>
         <source>Date &amp; Time</source>
@@ -2169,11 +2181,11 @@
     </message>
     <message>
         <source>Stack levels</source>
-        <translation type="unfinished"></translation>
+        <translation>Livelli dello stack</translation>
     </message>
     <message>
         <source>Try again, or quit without saving what changed since the last save?</source>
-        <translation type="unfinished"></translation>
+        <translation>Riprovare, o uscire senza salvare le modifiche dall’ultimo salvataggio?</translation>
     </message>
 </context>
 </TS>

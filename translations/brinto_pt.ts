@@ -5,222 +5,222 @@
     <name>Constant</name>
     <message>
         <source>Avogadro&apos;s number, NA</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de Avogadro, NA</translation>
     </message>
     <message>
         <source>Boltzmann constant, k</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de Boltzmann, k</translation>
     </message>
     <message>
         <source>Molar volume, Vm</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume molar, Vm</translation>
     </message>
     <message>
         <source>Universal gas constant, R</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante universal dos gases, R</translation>
     </message>
     <message>
         <source>Standard temperature, StdT</source>
-        <translation type="unfinished"></translation>
+        <translation>Temperatura normal, StdT</translation>
     </message>
     <message>
         <source>Standard pressure, StdP</source>
-        <translation type="unfinished"></translation>
+        <translation>Pressão normal, StdP</translation>
     </message>
     <message>
         <source>Stefan-Boltzmann constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de Stefan-Boltzmann</translation>
     </message>
     <message>
         <source>Speed of light in vacuum, c</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidade da luz no vácuo, c</translation>
     </message>
     <message>
         <source>Permittivity of vacuum</source>
-        <translation type="unfinished"></translation>
+        <translation>Permitividade do vácuo</translation>
     </message>
     <message>
         <source>Permeability of vacuum</source>
-        <translation type="unfinished"></translation>
+        <translation>Permeabilidade do vácuo</translation>
     </message>
     <message>
         <source>Acceleration of gravity, g</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceleração da gravidade, g</translation>
     </message>
     <message>
         <source>Gravitational constant, G</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante gravitacional, G</translation>
     </message>
     <message>
         <source>Planck&apos;s constant, h</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de Planck, h</translation>
     </message>
     <message>
         <source>Dirac&apos;s constant, hbar</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de Planck reduzida, hbar</translation>
     </message>
     <message>
         <source>Electron charge, q</source>
-        <translation type="unfinished"></translation>
+        <translation>Carga do eletrão, q</translation>
     </message>
     <message>
         <source>Electron rest mass, me</source>
-        <translation type="unfinished"></translation>
+        <translation>Massa em repouso do eletrão, me</translation>
     </message>
     <message>
         <source>q/me, qme</source>
-        <translation type="unfinished"></translation>
+        <translation>q/me, qme</translation>
     </message>
     <message>
         <source>Proton rest mass, mp</source>
-        <translation type="unfinished"></translation>
+        <translation>Massa em repouso do protão, mp</translation>
     </message>
     <message>
         <source>mp/me, mpme</source>
-        <translation type="unfinished"></translation>
+        <translation>mp/me, mpme</translation>
     </message>
     <message>
         <source>Fine structure constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de estrutura fina</translation>
     </message>
     <message>
         <source>Magnetic flux quantum</source>
-        <translation type="unfinished"></translation>
+        <translation>Quantum de fluxo magnético</translation>
     </message>
     <message>
         <source>Faraday constant, F</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de Faraday, F</translation>
     </message>
     <message>
         <source>Rydberg constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de Rydberg</translation>
     </message>
     <message>
         <source>Bohr radius, a0</source>
-        <translation type="unfinished"></translation>
+        <translation>Raio de Bohr, a0</translation>
     </message>
     <message>
         <source>Bohr magneton</source>
-        <translation type="unfinished"></translation>
+        <translation>Magnetão de Bohr</translation>
     </message>
     <message>
         <source>Nuclear magneton</source>
-        <translation type="unfinished"></translation>
+        <translation>Magnetão nuclear</translation>
     </message>
     <message>
         <source>Photon wavelength (ch/e)</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprimento de onda do fotão (ch/e)</translation>
     </message>
     <message>
         <source>Photon frequency (e/h)</source>
-        <translation type="unfinished"></translation>
+        <translation>Frequência do fotão (e/h)</translation>
     </message>
     <message>
         <source>Compton wavelength</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprimento de onda de Compton</translation>
     </message>
     <message>
         <source>Wien displacement constant, c3</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante de deslocamento de Wien, c3</translation>
     </message>
     <message>
         <source>Dielectric constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante dielétrica</translation>
     </message>
     <message>
         <source>SiO2 dielectric constant</source>
-        <translation type="unfinished"></translation>
+        <translation>Constante dielétrica do SiO2</translation>
     </message>
     <message>
         <source>Reference intensity, I0</source>
-        <translation type="unfinished"></translation>
+        <translation>Intensidade de referência, I0</translation>
     </message>
 </context>
 <context>
     <name>KeyMeaning</name>
     <message>
         <source>Digit 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Algarismo 0</translation>
     </message>
     <message>
         <source>Digit 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Algarismo 1</translation>
     </message>
     <message>
         <source>Digit 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Algarismo 2</translation>
     </message>
     <message>
         <source>Digit 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Algarismo 3</translation>
     </message>
     <message>
         <source>Digit 4</source>
-        <translation type="unfinished"></translation>
+        <translation>Algarismo 4</translation>
     </message>
     <message>
         <source>Digit 5</source>
-        <translation type="unfinished"></translation>
+        <translation>Algarismo 5</translation>
     </message>
     <message>
         <source>Digit 6</source>
-        <translation type="unfinished"></translation>
+        <translation>Algarismo 6</translation>
     </message>
     <message>
         <source>Digit 7</source>
-        <translation type="unfinished"></translation>
+        <translation>Algarismo 7</translation>
     </message>
     <message>
         <source>Digit 8</source>
-        <translation type="unfinished"></translation>
+        <translation>Algarismo 8</translation>
     </message>
     <message>
         <source>Digit 9</source>
-        <translation type="unfinished"></translation>
+        <translation>Algarismo 9</translation>
     </message>
     <message>
         <source>Hexadecimal digit A (10)</source>
-        <translation type="unfinished"></translation>
+        <translation>Algarismo hexadecimal A (10)</translation>
     </message>
     <message>
         <source>Hexadecimal digit B (11)</source>
-        <translation type="unfinished"></translation>
+        <translation>Algarismo hexadecimal B (11)</translation>
     </message>
     <message>
         <source>Hexadecimal digit C (12)</source>
-        <translation type="unfinished"></translation>
+        <translation>Algarismo hexadecimal C (12)</translation>
     </message>
     <message>
         <source>Hexadecimal digit D (13)</source>
-        <translation type="unfinished"></translation>
+        <translation>Algarismo hexadecimal D (13)</translation>
     </message>
     <message>
         <source>Hexadecimal digit E (14)</source>
-        <translation type="unfinished"></translation>
+        <translation>Algarismo hexadecimal E (14)</translation>
     </message>
     <message>
         <source>E (in an integer base)</source>
-        <translation type="unfinished"></translation>
+        <translation>E (numa base inteira)</translation>
     </message>
     <message>
         <source>Hexadecimal digit F (15)</source>
-        <translation type="unfinished"></translation>
+        <translation>Algarismo hexadecimal F (15)</translation>
     </message>
     <message>
         <source>Decimal point</source>
-        <translation type="unfinished"></translation>
+        <translation>Separador decimal</translation>
     </message>
     <message>
         <source>. or ,</source>
-        <translation type="unfinished"></translation>
+        <translation>. ou ,</translation>
     </message>
     <message>
         <source>Decimal point (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Separador decimal (segunda tecla)</translation>
     </message>
     <message>
         <source>Enter exponent</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduzir expoente</translation>
     </message>
     <message>
         <source>Change sign</source>
@@ -228,15 +228,15 @@
     </message>
     <message>
         <source>Backspace</source>
-        <translation type="unfinished"></translation>
+        <translation>Retrocesso</translation>
     </message>
     <message>
         <source>Enter</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter</translation>
     </message>
     <message>
         <source>Enter (RPN)</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter (RPN)</translation>
     </message>
     <message>
         <source>Add</source>
@@ -252,7 +252,7 @@
     </message>
     <message>
         <source>* or X</source>
-        <translation type="unfinished"></translation>
+        <translation>* ou X</translation>
     </message>
     <message>
         <source>Divide</source>
@@ -260,111 +260,111 @@
     </message>
     <message>
         <source>Equals: complete the calculation</source>
-        <translation type="unfinished"></translation>
+        <translation>Igual: concluir o cálculo</translation>
     </message>
     <message>
         <source>= or Enter</source>
-        <translation type="unfinished"></translation>
+        <translation>= ou Enter</translation>
     </message>
     <message>
         <source>Shift: the keys&apos; second functions</source>
-        <translation type="unfinished"></translation>
+        <translation>Shift: as segundas funções das teclas</translation>
     </message>
     <message>
         <source>Show all digits, dates as numbers (toggle)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar todos os dígitos, datas como números (alternar)</translation>
     </message>
     <message>
         <source>Clear all: stack, registers and macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar tudo: pilha, registos e macro</translation>
     </message>
     <message>
         <source>Clear stack</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar a pilha</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Delete</translation>
     </message>
     <message>
         <source>Clear X</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar X</translation>
     </message>
     <message>
         <source>Clear all (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar tudo (segunda tecla)</translation>
     </message>
     <message>
         <source>Clear stack (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar a pilha (segunda tecla)</translation>
     </message>
     <message>
         <source>Clear X (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar X (segunda tecla)</translation>
     </message>
     <message>
         <source>Clear user, financial and statistical registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar os registos do utilizador, financeiros e estatísticos</translation>
     </message>
     <message>
         <source>Clear the financial registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar os registos financeiros</translation>
     </message>
     <message>
         <source>Clear the statistical sums</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar as somas estatísticas</translation>
     </message>
     <message>
         <source>Roll the stack down</source>
-        <translation type="unfinished"></translation>
+        <translation>Rodar a pilha para baixo</translation>
     </message>
     <message>
         <source>Roll the stack up</source>
-        <translation type="unfinished"></translation>
+        <translation>Rodar a pilha para cima</translation>
     </message>
     <message>
         <source>Drop X</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirar X</translation>
     </message>
     <message>
         <source>Fill the stack with X</source>
-        <translation type="unfinished"></translation>
+        <translation>Encher a pilha com X</translation>
     </message>
     <message>
         <source>Exchange X and Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Trocar X e Y</translation>
     </message>
     <message>
         <source>Store X in a register</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar X num registo</translation>
     </message>
     <message>
         <source>Last X</source>
-        <translation type="unfinished"></translation>
+        <translation>Último X</translation>
     </message>
     <message>
         <source>Recall a register</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuperar um registo</translation>
     </message>
     <message>
         <source>Exchange X with a register</source>
-        <translation type="unfinished"></translation>
+        <translation>Trocar X com um registo</translation>
     </message>
     <message>
         <source>Open parenthesis</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir parêntese</translation>
     </message>
     <message>
         <source>Close parenthesis</source>
-        <translation type="unfinished"></translation>
+        <translation>Fechar parêntese</translation>
     </message>
     <message>
         <source>Percent of total: X as a percentage of Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Percentagem do total: X em percentagem de Y</translation>
     </message>
     <message>
         <source>Percent change from Y to X</source>
-        <translation type="unfinished"></translation>
+        <translation>Variação percentual de Y para X</translation>
     </message>
     <message>
         <source>Percent</source>
@@ -372,15 +372,15 @@
     </message>
     <message>
         <source>Round X to the digits shown</source>
-        <translation type="unfinished"></translation>
+        <translation>Arredondar X aos dígitos mostrados</translation>
     </message>
     <message>
         <source>Integer part</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte inteira</translation>
     </message>
     <message>
         <source>Absolute value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor absoluto</translation>
     </message>
     <message>
         <source>Square root</source>
@@ -392,39 +392,39 @@
     </message>
     <message>
         <source>Cube root</source>
-        <translation type="unfinished"></translation>
+        <translation>Raiz cúbica</translation>
     </message>
     <message>
         <source>Cube</source>
-        <translation type="unfinished"></translation>
+        <translation>Cubo</translation>
     </message>
     <message>
         <source>Power: Y raised to X</source>
-        <translation type="unfinished"></translation>
+        <translation>Potência: Y elevado a X</translation>
     </message>
     <message>
         <source>Reciprocal</source>
-        <translation type="unfinished"></translation>
+        <translation>Inverso</translation>
     </message>
     <message>
         <source>Fractional part</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte fracionária</translation>
     </message>
     <message>
         <source>Remainder of Y divided by X</source>
-        <translation type="unfinished"></translation>
+        <translation>Resto de Y a dividir por X</translation>
     </message>
     <message>
         <source>Payments at the beginning or end of periods (toggle)</source>
-        <translation type="unfinished"></translation>
+        <translation>Prestações no início ou no fim dos períodos (alternar)</translation>
     </message>
     <message>
         <source>Number of payments</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de prestações</translation>
     </message>
     <message>
         <source>Nominal annual interest rate, percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Taxa de juro nominal anual, em percentagem</translation>
     </message>
     <message>
         <source>Present value</source>
@@ -432,7 +432,7 @@
     </message>
     <message>
         <source>Payment per period</source>
-        <translation type="unfinished"></translation>
+        <translation>Prestação por período</translation>
     </message>
     <message>
         <source>Future value</source>
@@ -440,63 +440,63 @@
     </message>
     <message>
         <source>Payments per year</source>
-        <translation type="unfinished"></translation>
+        <translation>Prestações por ano</translation>
     </message>
     <message>
         <source>Nominal annual interest rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Taxa de juro nominal anual</translation>
     </message>
     <message>
         <source>Effective annual interest rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Taxa de juro efetiva anual</translation>
     </message>
     <message>
         <source>Years times payments per year, stored in N</source>
-        <translation type="unfinished"></translation>
+        <translation>Anos vezes prestações por ano, guardado em N</translation>
     </message>
     <message>
         <source>Divide by payments per year</source>
-        <translation type="unfinished"></translation>
+        <translation>Dividir pelas prestações por ano</translation>
     </message>
     <message>
         <source>Cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Custo</translation>
     </message>
     <message>
         <source>Price</source>
-        <translation type="unfinished"></translation>
+        <translation>Preço</translation>
     </message>
     <message>
         <source>Margin, percent of price</source>
-        <translation type="unfinished"></translation>
+        <translation>Margem, percentagem do preço</translation>
     </message>
     <message>
         <source>Markup, percent of cost</source>
-        <translation type="unfinished"></translation>
+        <translation>Acréscimo, percentagem do custo</translation>
     </message>
     <message>
         <source>Amortize a range of payments</source>
-        <translation type="unfinished"></translation>
+        <translation>Amortizar uma série de prestações</translation>
     </message>
     <message>
         <source>Amortize the next range of payments</source>
-        <translation type="unfinished"></translation>
+        <translation>Amortizar a série de prestações seguinte</translation>
     </message>
     <message>
         <source>Cash flow: append X to the cash flows</source>
-        <translation type="unfinished"></translation>
+        <translation>Fluxo de caixa: acrescentar X aos fluxos</translation>
     </message>
     <message>
         <source>Times the last cash flow repeats</source>
-        <translation type="unfinished"></translation>
+        <translation>Repetições do último fluxo</translation>
     </message>
     <message>
         <source>Net present value</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor atual líquido</translation>
     </message>
     <message>
         <source>Internal rate of return per year</source>
-        <translation type="unfinished"></translation>
+        <translation>Taxa interna de rendibilidade anual</translation>
     </message>
     <message>
         <source>Sine</source>
@@ -512,623 +512,623 @@
     </message>
     <message>
         <source>Arc sine</source>
-        <translation type="unfinished"></translation>
+        <translation>Arco-seno</translation>
     </message>
     <message>
         <source>Arc cosine</source>
-        <translation type="unfinished"></translation>
+        <translation>Arco-cosseno</translation>
     </message>
     <message>
         <source>Arc tangent</source>
-        <translation type="unfinished"></translation>
+        <translation>Arco-tangente</translation>
     </message>
     <message>
         <source>Pi</source>
-        <translation type="unfinished"></translation>
+        <translation>Pi</translation>
     </message>
     <message>
         <source>Hyperbolic prefix for the next function</source>
-        <translation type="unfinished"></translation>
+        <translation>Prefixo hiperbólico para a função seguinte</translation>
     </message>
     <message>
         <source>Natural logarithm</source>
-        <translation type="unfinished"></translation>
+        <translation>Logaritmo natural</translation>
     </message>
     <message>
         <source>Common logarithm</source>
-        <translation type="unfinished"></translation>
+        <translation>Logaritmo decimal</translation>
     </message>
     <message>
         <source>Natural exponential</source>
-        <translation type="unfinished"></translation>
+        <translation>Exponencial</translation>
     </message>
     <message>
         <source>Power of ten</source>
-        <translation type="unfinished"></translation>
+        <translation>Potência de dez</translation>
     </message>
     <message>
         <source>Angles in degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Ângulos em graus</translation>
     </message>
     <message>
         <source>Angles in radians</source>
-        <translation type="unfinished"></translation>
+        <translation>Ângulos em radianos</translation>
     </message>
     <message>
         <source>Angles in grads</source>
-        <translation type="unfinished"></translation>
+        <translation>Ângulos em grados</translation>
     </message>
     <message>
         <source>Radians to degrees</source>
-        <translation type="unfinished"></translation>
+        <translation>Radianos para graus</translation>
     </message>
     <message>
         <source>Degrees to radians</source>
-        <translation type="unfinished"></translation>
+        <translation>Graus para radianos</translation>
     </message>
     <message>
         <source>Polar to rectangular</source>
-        <translation type="unfinished"></translation>
+        <translation>Polar para retangular</translation>
     </message>
     <message>
         <source>Rectangular to polar</source>
-        <translation type="unfinished"></translation>
+        <translation>Retangular para polar</translation>
     </message>
     <message>
         <source>Hours to hours.minutes-seconds (h.mmss)</source>
-        <translation type="unfinished"></translation>
+        <translation>Horas para horas.minutos-segundos (h.mmss)</translation>
     </message>
     <message>
         <source>Hours.minutes-seconds (h.mmss) to hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Horas.minutos-segundos (h.mmss) para horas</translation>
     </message>
     <message>
         <source>Add the point (X, Y) to the sums</source>
-        <translation type="unfinished"></translation>
+        <translation>Acrescentar o ponto (X, Y) às somas</translation>
     </message>
     <message>
         <source>Remove the point (X, Y) from the sums</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirar o ponto (X, Y) das somas</translation>
     </message>
     <message>
         <source>Sum of x</source>
-        <translation type="unfinished"></translation>
+        <translation>Soma dos x</translation>
     </message>
     <message>
         <source>Sum of x squared</source>
-        <translation type="unfinished"></translation>
+        <translation>Soma dos quadrados de x</translation>
     </message>
     <message>
         <source>Sum of y</source>
-        <translation type="unfinished"></translation>
+        <translation>Soma dos y</translation>
     </message>
     <message>
         <source>Sum of y squared</source>
-        <translation type="unfinished"></translation>
+        <translation>Soma dos quadrados de y</translation>
     </message>
     <message>
         <source>Sum of the products xy</source>
-        <translation type="unfinished"></translation>
+        <translation>Soma dos produtos xy</translation>
     </message>
     <message>
         <source>Number of points</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de pontos</translation>
     </message>
     <message>
         <source>Mean of x</source>
-        <translation type="unfinished"></translation>
+        <translation>Média de x</translation>
     </message>
     <message>
         <source>Mean of x weighted by y</source>
-        <translation type="unfinished"></translation>
+        <translation>Média de x ponderada por y</translation>
     </message>
     <message>
         <source>Mean of y</source>
-        <translation type="unfinished"></translation>
+        <translation>Média de y</translation>
     </message>
     <message>
         <source>Estimated x for the y in X; r in Y</source>
-        <translation type="unfinished"></translation>
+        <translation>x estimado para o y em X; r em Y</translation>
     </message>
     <message>
         <source>Estimated y for the x in X; slope in Y</source>
-        <translation type="unfinished"></translation>
+        <translation>y estimado para o x em X; declive em Y</translation>
     </message>
     <message>
         <source>Random number</source>
-        <translation type="unfinished"></translation>
+        <translation>Número aleatório</translation>
     </message>
     <message>
         <source>Factorial</source>
-        <translation type="unfinished"></translation>
+        <translation>Fatorial</translation>
     </message>
     <message>
         <source>Logarithm of the gamma function</source>
-        <translation type="unfinished"></translation>
+        <translation>Logaritmo da função gama</translation>
     </message>
     <message>
         <source>Sample standard deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>Desvio padrão da amostra</translation>
     </message>
     <message>
         <source>Population standard deviation</source>
-        <translation type="unfinished"></translation>
+        <translation>Desvio padrão da população</translation>
     </message>
     <message>
         <source>Combinations of X items from Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinações de X elementos de Y</translation>
     </message>
     <message>
         <source>Permutations of X items from Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Arranjos de X elementos de Y</translation>
     </message>
     <message>
         <source>Binary entry and display</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada e visualização binárias</translation>
     </message>
     <message>
         <source>Octal entry and display</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada e visualização octais</translation>
     </message>
     <message>
         <source>Decimal integer entry and display</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada e visualização de inteiros decimais</translation>
     </message>
     <message>
         <source>Hexadecimal entry and display</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada e visualização hexadecimais</translation>
     </message>
     <message>
         <source>Bitwise AND</source>
-        <translation type="unfinished"></translation>
+        <translation>E bit a bit</translation>
     </message>
     <message>
         <source>Bitwise OR</source>
-        <translation type="unfinished"></translation>
+        <translation>OU bit a bit</translation>
     </message>
     <message>
         <source>Bitwise exclusive OR</source>
-        <translation type="unfinished"></translation>
+        <translation>OU exclusivo bit a bit</translation>
     </message>
     <message>
         <source>Bitwise NOT</source>
-        <translation type="unfinished"></translation>
+        <translation>NÃO bit a bit</translation>
     </message>
     <message>
         <source>Shift Y left by X bits</source>
-        <translation type="unfinished"></translation>
+        <translation>Deslocar Y X bits para a esquerda</translation>
     </message>
     <message>
         <source>Shift Y right by X bits (logical)</source>
-        <translation type="unfinished"></translation>
+        <translation>Deslocar Y X bits para a direita (lógico)</translation>
     </message>
     <message>
         <source>Arithmetic shift right, keeping the sign</source>
-        <translation type="unfinished"></translation>
+        <translation>Deslocamento aritmético para a direita, mantendo o sinal</translation>
     </message>
     <message>
         <source>Rotate Y right by X bits</source>
-        <translation type="unfinished"></translation>
+        <translation>Rodar Y X bits para a direita</translation>
     </message>
     <message>
         <source>Inches</source>
-        <translation type="unfinished"></translation>
+        <translation>Polegadas</translation>
     </message>
     <message>
         <source>Feet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pés</translation>
     </message>
     <message>
         <source>Miles</source>
-        <translation type="unfinished"></translation>
+        <translation>Milhas</translation>
     </message>
     <message>
         <source>Meters</source>
-        <translation type="unfinished"></translation>
+        <translation>Metros</translation>
     </message>
     <message>
         <source>Square inches</source>
-        <translation type="unfinished"></translation>
+        <translation>Polegadas quadradas</translation>
     </message>
     <message>
         <source>Square feet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pés quadrados</translation>
     </message>
     <message>
         <source>Square miles</source>
-        <translation type="unfinished"></translation>
+        <translation>Milhas quadradas</translation>
     </message>
     <message>
         <source>Square meters</source>
-        <translation type="unfinished"></translation>
+        <translation>Metros quadrados</translation>
     </message>
     <message>
         <source>Pounds</source>
-        <translation type="unfinished"></translation>
+        <translation>Libras</translation>
     </message>
     <message>
         <source>Ounces</source>
-        <translation type="unfinished"></translation>
+        <translation>Onças</translation>
     </message>
     <message>
         <source>Kilograms</source>
-        <translation type="unfinished"></translation>
+        <translation>Quilogramas</translation>
     </message>
     <message>
         <source>Grams</source>
-        <translation type="unfinished"></translation>
+        <translation>Gramas</translation>
     </message>
     <message>
         <source>Inches per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Polegadas por segundo</translation>
     </message>
     <message>
         <source>Feet per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Pés por segundo</translation>
     </message>
     <message>
         <source>Meters per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Metros por segundo</translation>
     </message>
     <message>
         <source>Miles per hour</source>
-        <translation type="unfinished"></translation>
+        <translation>Milhas por hora</translation>
     </message>
     <message>
         <source>Kilometers per hour</source>
-        <translation type="unfinished"></translation>
+        <translation>Quilómetros por hora</translation>
     </message>
     <message>
         <source>Centimeters per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Centímetros por segundo</translation>
     </message>
     <message>
         <source>US gallons</source>
-        <translation type="unfinished"></translation>
+        <translation>Galões americanos</translation>
     </message>
     <message>
         <source>Milliliters</source>
-        <translation type="unfinished"></translation>
+        <translation>Mililitros</translation>
     </message>
     <message>
         <source>Liters</source>
-        <translation type="unfinished"></translation>
+        <translation>Litros</translation>
     </message>
     <message>
         <source>US fluid ounces</source>
-        <translation type="unfinished"></translation>
+        <translation>Onças líquidas americanas</translation>
     </message>
     <message>
         <source>Degrees Celsius</source>
-        <translation type="unfinished"></translation>
+        <translation>Graus Celsius</translation>
     </message>
     <message>
         <source>Degrees Fahrenheit</source>
-        <translation type="unfinished"></translation>
+        <translation>Graus Fahrenheit</translation>
     </message>
     <message>
         <source>X-th root of Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Raiz de índice X de Y</translation>
     </message>
     <message>
         <source>8-bit unsigned integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Inteiro de 8 bits sem sinal</translation>
     </message>
     <message>
         <source>8-bit signed integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Inteiro de 8 bits com sinal</translation>
     </message>
     <message>
         <source>16-bit unsigned integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Inteiro de 16 bits sem sinal</translation>
     </message>
     <message>
         <source>16-bit signed integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Inteiro de 16 bits com sinal</translation>
     </message>
     <message>
         <source>32-bit unsigned integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Inteiro de 32 bits sem sinal</translation>
     </message>
     <message>
         <source>32-bit signed integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Inteiro de 32 bits com sinal</translation>
     </message>
     <message>
         <source>Standard number format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato numérico padrão</translation>
     </message>
     <message>
         <source>Scientific format: digits follow</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato científico: seguem-se os dígitos</translation>
     </message>
     <message>
         <source>Engineering format: digits follow</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de engenharia: seguem-se os dígitos</translation>
     </message>
     <message>
         <source>Largest whole number not above X</source>
-        <translation type="unfinished"></translation>
+        <translation>Maior inteiro não superior a X</translation>
     </message>
     <message>
         <source>Smallest whole number not below X</source>
-        <translation type="unfinished"></translation>
+        <translation>Menor inteiro não inferior a X</translation>
     </message>
     <message>
         <source>Change sign of an integer</source>
-        <translation type="unfinished"></translation>
+        <translation>Mudar o sinal de um inteiro</translation>
     </message>
     <message>
         <source>X as an integer of the default format</source>
-        <translation type="unfinished"></translation>
+        <translation>X como inteiro do formato predefinido</translation>
     </message>
     <message>
         <source>Integer add</source>
-        <translation type="unfinished"></translation>
+        <translation>Soma inteira</translation>
     </message>
     <message>
         <source>Integer subtract</source>
-        <translation type="unfinished"></translation>
+        <translation>Subtração inteira</translation>
     </message>
     <message>
         <source>Integer multiply</source>
-        <translation type="unfinished"></translation>
+        <translation>Multiplicação inteira</translation>
     </message>
     <message>
         <source>Integer divide</source>
-        <translation type="unfinished"></translation>
+        <translation>Divisão inteira</translation>
     </message>
     <message>
         <source>Fixed format: digits follow</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato fixo: seguem-se os dígitos</translation>
     </message>
     <message>
         <source>Clear the date registers and duration settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar os registos de data e as definições de duração</translation>
     </message>
     <message>
         <source>The current date and time</source>
-        <translation type="unfinished"></translation>
+        <translation>A data e hora atuais</translation>
     </message>
     <message>
         <source>Date: X typed as Y.MMDD becomes a date</source>
-        <translation type="unfinished"></translation>
+        <translation>Data: X escrito como A.MMDD passa a ser uma data</translation>
     </message>
     <message>
         <source>Time: X typed as H.MMSS becomes a clock time</source>
-        <translation type="unfinished"></translation>
+        <translation>Hora: X escrito como H.MMSS passa a ser uma hora</translation>
     </message>
     <message>
         <source>Years</source>
-        <translation type="unfinished"></translation>
+        <translation>Anos</translation>
     </message>
     <message>
         <source>Months</source>
-        <translation type="unfinished"></translation>
+        <translation>Meses</translation>
     </message>
     <message>
         <source>Weeks</source>
-        <translation type="unfinished"></translation>
+        <translation>Semanas</translation>
     </message>
     <message>
         <source>Days</source>
-        <translation type="unfinished"></translation>
+        <translation>Dias</translation>
     </message>
     <message>
         <source>Hours</source>
-        <translation type="unfinished"></translation>
+        <translation>Horas</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutos</translation>
     </message>
     <message>
         <source>Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundos</translation>
     </message>
     <message>
         <source>Frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagens</translation>
     </message>
     <message>
         <source>Hours.minutes-seconds (h.mmss) to frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Horas.minutos-segundos (h.mmss) para imagens</translation>
     </message>
     <message>
         <source>Days per year</source>
-        <translation type="unfinished"></translation>
+        <translation>Dias por ano</translation>
     </message>
     <message>
         <source>Days per month</source>
-        <translation type="unfinished"></translation>
+        <translation>Dias por mês</translation>
     </message>
     <message>
         <source>Days per week</source>
-        <translation type="unfinished"></translation>
+        <translation>Dias por semana</translation>
     </message>
     <message>
         <source>Hours per day</source>
-        <translation type="unfinished"></translation>
+        <translation>Horas por dia</translation>
     </message>
     <message>
         <source>Frames per second</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagens por segundo</translation>
     </message>
     <message>
         <source>Date part of a date and time</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte de data de uma data e hora</translation>
     </message>
     <message>
         <source>Time part of a date and time</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte de hora de uma data e hora</translation>
     </message>
     <message>
         <source>Fraction of a duration in the next smaller unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Fração de uma duração na unidade menor seguinte</translation>
     </message>
     <message>
         <source>Enter (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Enter (segunda tecla)</translation>
     </message>
     <message>
         <source>Rotate the three lowest levels</source>
-        <translation type="unfinished"></translation>
+        <translation>Rodar os três níveis inferiores</translation>
     </message>
     <message>
         <source>Over: a copy of Y onto the stack</source>
-        <translation type="unfinished"></translation>
+        <translation>Over: uma cópia de Y para a pilha</translation>
     </message>
     <message>
         <source>Simple input: in the order entered</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada simples: pela ordem introduzida</translation>
     </message>
     <message>
         <source>Precedence input: × and ÷ before + and −</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada com precedência: × e ÷ antes de + e −</translation>
     </message>
     <message>
         <source>RPN input: operands first</source>
-        <translation type="unfinished"></translation>
+        <translation>Entrada RPN: primeiro os operandos</translation>
     </message>
     <message>
         <source>Record a macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Gravar uma macro</translation>
     </message>
     <message>
         <source>Play the macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproduzir a macro</translation>
     </message>
     <message>
         <source>Pause the macro for input</source>
-        <translation type="unfinished"></translation>
+        <translation>Pausar a macro para uma entrada</translation>
     </message>
     <message>
         <source>Stop recording</source>
-        <translation type="unfinished"></translation>
+        <translation>Parar a gravação</translation>
     </message>
     <message>
         <source>Centimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Centímetros</translation>
     </message>
     <message>
         <source>Millimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Milímetros</translation>
     </message>
     <message>
         <source>Yards</source>
-        <translation type="unfinished"></translation>
+        <translation>Jardas</translation>
     </message>
     <message>
         <source>Kilometers</source>
-        <translation type="unfinished"></translation>
+        <translation>Quilómetros</translation>
     </message>
     <message>
         <source>Nautical miles</source>
-        <translation type="unfinished"></translation>
+        <translation>Milhas náuticas</translation>
     </message>
     <message>
         <source>Square millimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Milímetros quadrados</translation>
     </message>
     <message>
         <source>Square centimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Centímetros quadrados</translation>
     </message>
     <message>
         <source>Square kilometers</source>
-        <translation type="unfinished"></translation>
+        <translation>Quilómetros quadrados</translation>
     </message>
     <message>
         <source>Square yards</source>
-        <translation type="unfinished"></translation>
+        <translation>Jardas quadradas</translation>
     </message>
     <message>
         <source>Acres</source>
-        <translation type="unfinished"></translation>
+        <translation>Acres</translation>
     </message>
     <message>
         <source>Short tons (2,000 pounds)</source>
-        <translation type="unfinished"></translation>
+        <translation>Toneladas curtas (2000 libras)</translation>
     </message>
     <message>
         <source>Milligrams</source>
-        <translation type="unfinished"></translation>
+        <translation>Miligramas</translation>
     </message>
     <message>
         <source>Knots</source>
-        <translation type="unfinished"></translation>
+        <translation>Nós</translation>
     </message>
     <message>
         <source>Cubic meters</source>
-        <translation type="unfinished"></translation>
+        <translation>Metros cúbicos</translation>
     </message>
     <message>
         <source>Cubic centimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Centímetros cúbicos</translation>
     </message>
     <message>
         <source>Cubic yards</source>
-        <translation type="unfinished"></translation>
+        <translation>Jardas cúbicas</translation>
     </message>
     <message>
         <source>Cubic feet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pés cúbicos</translation>
     </message>
     <message>
         <source>Cubic inches</source>
-        <translation type="unfinished"></translation>
+        <translation>Polegadas cúbicas</translation>
     </message>
     <message>
         <source>US quarts</source>
-        <translation type="unfinished"></translation>
+        <translation>Quartos americanos</translation>
     </message>
     <message>
         <source>US pints</source>
-        <translation type="unfinished"></translation>
+        <translation>Pintas americanas</translation>
     </message>
     <message>
         <source>US cups</source>
-        <translation type="unfinished"></translation>
+        <translation>Chávenas americanas</translation>
     </message>
     <message>
         <source>Tablespoons</source>
-        <translation type="unfinished"></translation>
+        <translation>Colheres de sopa</translation>
     </message>
     <message>
         <source>Teaspoons</source>
-        <translation type="unfinished"></translation>
+        <translation>Colheres de chá</translation>
     </message>
     <message>
         <source>Imperial gallons</source>
-        <translation type="unfinished"></translation>
+        <translation>Galões imperiais</translation>
     </message>
     <message>
         <source>Imperial fluid ounces</source>
-        <translation type="unfinished"></translation>
+        <translation>Onças líquidas imperiais</translation>
     </message>
     <message>
         <source>Amortize a range of payments (second key)</source>
-        <translation type="unfinished"></translation>
+        <translation>Amortizar uma série de prestações (segunda tecla)</translation>
     </message>
     <message>
         <source>Recall one of 100 registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuperar um de 100 registos</translation>
     </message>
     <message>
         <source>Exchange X with one of 100 registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Trocar X com um de 100 registos</translation>
     </message>
     <message>
         <source>Store X in one of 100 registers</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar X num de 100 registos</translation>
     </message>
     <message>
         <source>First shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Primeiro Shift</translation>
     </message>
     <message>
         <source>Second shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Segundo Shift</translation>
     </message>
 </context>
 <context>
@@ -1139,7 +1139,7 @@
     </message>
     <message>
         <source>The Keyboard dialog can be used to assign a function to this button.</source>
-        <translation type="unfinished"></translation>
+        <translation>O diálogo Teclado permite atribuir uma função a esta tecla.</translation>
     </message>
     <message>
         <source>Clear All</source>
@@ -1147,7 +1147,7 @@
     </message>
     <message>
         <source>This operation will clear the operating stack and all user, financial, statistical, and date registers, and the keyboard macro.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta operação limpa a pilha de operações, todos os registos do utilizador, financeiros, estatísticos e de data, e a macro de teclado.</translation>
     </message>
     <message>
         <source>Nothing to Undo</source>
@@ -1155,7 +1155,7 @@
     </message>
     <message>
         <source>There are no operations to be undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não há operações para desfazer.</translation>
     </message>
     <message>
         <source>Nothing to Redo</source>
@@ -1163,7 +1163,7 @@
     </message>
     <message>
         <source>There are no undo actions to be redone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não há ações desfeitas para refazer.</translation>
     </message>
     <message>
         <source>No Macro</source>
@@ -1171,50 +1171,50 @@
     </message>
     <message>
         <source>A macro must be recorded before it can be played back.</source>
-        <translation type="unfinished"></translation>
+        <translation>É preciso gravar uma macro antes de a reproduzir.</translation>
     </message>
     <message>
         <source>Macro Length Exceeded</source>
-        <translation type="unfinished"></translation>
+        <translation>Macro demasiado longa</translation>
     </message>
     <message>
         <source>The macro length has been exceeded and the last key could not be recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>O comprimento máximo da macro foi excedido e a última tecla não pôde ser gravada.</translation>
     </message>
 </context>
 <context>
     <name>Theme</name>
     <message>
         <source>Default Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Cor predefinida</translation>
     </message>
     <message>
         <source>Default Grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>Cinzentos predefinido</translation>
     </message>
     <message>
         <source>Default B&amp;W</source>
-        <translation type="unfinished"></translation>
+        <translation>Preto e branco predefinido</translation>
     </message>
     <message>
         <source>Original Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Cor original</translation>
     </message>
     <message>
         <source>Original Grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>Cinzentos original</translation>
     </message>
     <message>
         <source>Original B&amp;W</source>
-        <translation type="unfinished"></translation>
+        <translation>Preto e branco original</translation>
     </message>
     <message>
         <source>Light Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Fundo claro</translation>
     </message>
     <message>
         <source>Dark Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Fundo escuro</translation>
     </message>
 </context>
 <context>
@@ -1243,7 +1243,17 @@
 - The input method can be specified  at any time in the Preferences dialog
 
 - See the Comparison of Input Methods section of the User Guide for more details</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha um método de entrada que determina como o Brinto calcula:
+
+- Simples é uma ordem infixa em que as operações são feitas pela ordem em que são introduzidas; por exemplo, 2 + 3 * 5 = dá 25
+
+- Precedência é também uma ordem infixa em que as operações binárias são feitas antes da multiplicação e da divisão, e estas antes da adição e da subtração, o que reduz a necessidade de parênteses; por exemplo, 2 + 3 * 5 = dá 17
+
+- RPN (notação polaca inversa) é uma ordem pós-fixa em que os operandos são introduzidos antes da operação; por exemplo, 2 Enter 3 + 5 * dá 25 e 2 Enter 3 Enter 5 * + dá 17
+
+- O método de entrada pode ser mudado a qualquer momento nas Preferências
+
+- Veja a secção «Comparison of Input Methods» do guia do utilizador (em inglês) para mais pormenores</translation>
     </message>
     <message>
         <source>Input Method</source>
@@ -1275,7 +1285,7 @@
     </message>
     <message>
         <source>sqrt, x^2, pv, Square root...</source>
-        <translation type="unfinished"></translation>
+        <translation>sqrt, x^2, pv, Raiz quadrada...</translation>
     </message>
     <message>
         <source>&amp;Matching keys:</source>
@@ -1463,31 +1473,31 @@
     </message>
     <message>
         <source>Gen</source>
-        <translation type="unfinished"></translation>
+        <translation>Ger</translation>
     </message>
     <message>
         <source>Fin</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin</translation>
     </message>
     <message>
         <source>Sci</source>
-        <translation type="unfinished"></translation>
+        <translation>Cien</translation>
     </message>
     <message>
         <source>Stat</source>
-        <translation type="unfinished"></translation>
+        <translation>Est</translation>
     </message>
     <message>
         <source>Prog</source>
-        <translation type="unfinished"></translation>
+        <translation>Prog</translation>
     </message>
     <message>
         <source>Conv 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Conv 1</translation>
     </message>
     <message>
         <source>Conv 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Conv 2</translation>
     </message>
     <message>
         <source>Date</source>
@@ -1496,12 +1506,14 @@
     <message>
         <source>Conv
 1</source>
-        <translation type="unfinished"></translation>
+        <translation>Conv
+1</translation>
     </message>
     <message>
         <source>Conv
 2</source>
-        <translation type="unfinished"></translation>
+        <translation>Conv
+2</translation>
     </message>
     <message>
         <source>The calculator could not be saved.</source>
@@ -1517,7 +1529,7 @@
     </message>
     <message>
         <source>Tape lines</source>
-        <translation type="unfinished"></translation>
+        <translation>Linhas da fita</translation>
     </message>
     <message>
         <source>Result</source>
@@ -1525,7 +1537,7 @@
     </message>
     <message>
         <source>Double click or Return recalls a result into X; Ctrl+C copies it</source>
-        <translation type="unfinished"></translation>
+        <translation>Duplo clique ou Enter recupera um resultado para X; Ctrl+C copia-o</translation>
     </message>
     <message>
         <source>&amp;Recall</source>
@@ -1533,11 +1545,11 @@
     </message>
     <message>
         <source>Recall the selected result into X</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuperar o resultado escolhido para X</translation>
     </message>
     <message>
         <source>Copy the selected result</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar o resultado escolhido</translation>
     </message>
     <message>
         <source>&amp;Save As...</source>
@@ -1545,7 +1557,7 @@
     </message>
     <message>
         <source>Save the tape as text or CSV</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar a fita como texto ou CSV</translation>
     </message>
     <message>
         <source>C&amp;lear</source>
@@ -1553,19 +1565,19 @@
     </message>
     <message>
         <source>Clear the tape</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpar a fita</translation>
     </message>
     <message>
         <source>The tape could not be saved to %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível guardar a fita em %1: %2</translation>
     </message>
     <message>
         <source>Save Tape</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar fita</translation>
     </message>
     <message>
         <source>Text (*.txt);;CSV (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto (*.txt);;CSV (*.csv)</translation>
     </message>
     <message>
         <source>Color Chooser</source>
@@ -1601,27 +1613,27 @@
     </message>
     <message>
         <source>Standard:</source>
-        <translation type="unfinished"></translation>
+        <translation>Padrão:</translation>
     </message>
     <message>
         <source>Number:</source>
-        <translation type="unfinished"></translation>
+        <translation>Número:</translation>
     </message>
     <message>
         <source>Register:</source>
-        <translation type="unfinished"></translation>
+        <translation>Registo:</translation>
     </message>
     <message>
         <source>Clear:</source>
-        <translation type="unfinished"></translation>
+        <translation>Limpeza:</translation>
     </message>
     <message>
         <source>%1 text color</source>
-        <translation type="unfinished"></translation>
+        <translation>Cor do texto %1</translation>
     </message>
     <message>
         <source>%1 background color</source>
-        <translation type="unfinished"></translation>
+        <translation>Cor de fundo %1</translation>
     </message>
     <message>
         <source>Default</source>
@@ -1633,23 +1645,23 @@
     </message>
     <message>
         <source>Days per year (dpy):</source>
-        <translation type="unfinished"></translation>
+        <translation>Dias por ano (dpy):</translation>
     </message>
     <message>
         <source>Days per month (dpm):</source>
-        <translation type="unfinished"></translation>
+        <translation>Dias por mês (dpm):</translation>
     </message>
     <message>
         <source>Days per week (dpw):</source>
-        <translation type="unfinished"></translation>
+        <translation>Dias por semana (dpw):</translation>
     </message>
     <message>
         <source>Hours per day (hpd):</source>
-        <translation type="unfinished"></translation>
+        <translation>Horas por dia (hpd):</translation>
     </message>
     <message>
         <source>Frames per second (fps):</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagens por segundo (fps):</translation>
     </message>
     <message>
         <source>Enter Date</source>
@@ -1661,15 +1673,15 @@
     </message>
     <message>
         <source>Hour</source>
-        <translation type="unfinished"></translation>
+        <translation>Hora</translation>
     </message>
     <message>
         <source>Tens of minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Dezenas de minutos</translation>
     </message>
     <message>
         <source>Minutes</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutos</translation>
     </message>
     <message>
         <source>&amp;Hour:</source>
@@ -1681,11 +1693,11 @@
     </message>
     <message>
         <source>AM</source>
-        <translation type="unfinished"></translation>
+        <translation>AM</translation>
     </message>
     <message>
         <source>PM</source>
-        <translation type="unfinished"></translation>
+        <translation>PM</translation>
     </message>
     <message>
         <source>Durations</source>
@@ -1705,15 +1717,15 @@
     </message>
     <message>
         <source>No Cash Flow Entries</source>
-        <translation type="unfinished"></translation>
+        <translation>Sem fluxos de caixa</translation>
     </message>
     <message>
         <source>There are no cash flow entries to display.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não há fluxos de caixa para mostrar.</translation>
     </message>
     <message>
         <source>&lt;h2&gt;User guide missing&lt;/h2&gt;&lt;p&gt;The user guide was not built into this copy of Brinto, so help cannot be shown.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h2&gt;Guia do utilizador em falta&lt;/h2&gt;&lt;p&gt;O guia do utilizador não foi incluído nesta cópia do Brinto, por isso a ajuda não pode ser mostrada.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>Brinto Help</source>
@@ -1733,11 +1745,11 @@
     </message>
     <message>
         <source>Key %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Tecla %1: %2</translation>
     </message>
     <message>
         <source>no function</source>
-        <translation type="unfinished"></translation>
+        <translation>sem função</translation>
     </message>
     <message>
         <source>Customize Keyboard</source>
@@ -1753,7 +1765,7 @@
     </message>
     <message>
         <source>Shifted</source>
-        <translation type="unfinished"></translation>
+        <translation>Com Shift</translation>
     </message>
     <message>
         <source>Available Keys:</source>
@@ -1761,7 +1773,7 @@
     </message>
     <message>
         <source>Available keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Teclado disponível</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -1773,15 +1785,15 @@
     </message>
     <message>
         <source>Amortization chart</source>
-        <translation type="unfinished"></translation>
+        <translation>Gráfico de amortização</translation>
     </message>
     <message>
         <source>Balance after each payment; interest and principal by year</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo após cada prestação; juros e capital por ano</translation>
     </message>
     <message>
         <source>Balance after each payment; interest and principal of each payment</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo após cada prestação; juros e capital de cada prestação</translation>
     </message>
     <message>
         <source>Year</source>
@@ -1805,15 +1817,15 @@
     </message>
     <message>
         <source>(by year)</source>
-        <translation type="unfinished"></translation>
+        <translation>(por ano)</translation>
     </message>
     <message>
         <source>(by payment)</source>
-        <translation type="unfinished"></translation>
+        <translation>(por prestação)</translation>
     </message>
     <message>
         <source>Cash-flow diagram</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagrama de fluxos de caixa</translation>
     </message>
     <message>
         <source>All</source>
@@ -1821,7 +1833,7 @@
     </message>
     <message>
         <source>Standard</source>
-        <translation type="unfinished"></translation>
+        <translation>Padrão</translation>
     </message>
     <message>
         <source>Fixed</source>
@@ -1829,79 +1841,79 @@
     </message>
     <message>
         <source>Engineering</source>
-        <translation type="unfinished"></translation>
+        <translation>Engenharia</translation>
     </message>
     <message>
         <source>RPN</source>
-        <translation type="unfinished"></translation>
+        <translation>RPN</translation>
     </message>
     <message>
         <source>8-bit unsigned</source>
-        <translation type="unfinished"></translation>
+        <translation>8 bits sem sinal</translation>
     </message>
     <message>
         <source>8-bit signed</source>
-        <translation type="unfinished"></translation>
+        <translation>8 bits com sinal</translation>
     </message>
     <message>
         <source>16-bit unsigned</source>
-        <translation type="unfinished"></translation>
+        <translation>16 bits sem sinal</translation>
     </message>
     <message>
         <source>16-bit signed</source>
-        <translation type="unfinished"></translation>
+        <translation>16 bits com sinal</translation>
     </message>
     <message>
         <source>32-bit unsigned</source>
-        <translation type="unfinished"></translation>
+        <translation>32 bits sem sinal</translation>
     </message>
     <message>
         <source>32-bit signed</source>
-        <translation type="unfinished"></translation>
+        <translation>32 bits com sinal</translation>
     </message>
     <message>
         <source>Sticky</source>
-        <translation type="unfinished"></translation>
+        <translation>Persistente</translation>
     </message>
     <message>
         <source>Locking</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloqueado</translation>
     </message>
     <message>
         <source>Do nothing</source>
-        <translation type="unfinished"></translation>
+        <translation>Não fazer nada</translation>
     </message>
     <message>
         <source>Shift keyboard</source>
-        <translation type="unfinished"></translation>
+        <translation>Mudar teclado</translation>
     </message>
     <message>
         <source>Repeat last key</source>
-        <translation type="unfinished"></translation>
+        <translation>Repetir a última tecla</translation>
     </message>
     <message>
         <source>Open last form</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir o último formulário</translation>
     </message>
     <message>
         <source>Play macro</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproduzir macro</translation>
     </message>
     <message>
         <source>100 Registers</source>
-        <translation type="unfinished"></translation>
+        <translation>100 registos</translation>
     </message>
     <message>
         <source>Long Date</source>
-        <translation type="unfinished"></translation>
+        <translation>Data longa</translation>
     </message>
     <message>
         <source>Backspace Drops</source>
-        <translation type="unfinished"></translation>
+        <translation>Retrocesso remove X</translation>
     </message>
     <message>
         <source>Comma Radix</source>
-        <translation type="unfinished"></translation>
+        <translation>Vírgula decimal</translation>
     </message>
     <message>
         <source>Format:</source>
@@ -1913,7 +1925,7 @@
     </message>
     <message>
         <source>How many digits the number format shows; All: every digit</source>
-        <translation type="unfinished"></translation>
+        <translation>Quantos dígitos o formato mostra; Todos: cada dígito</translation>
     </message>
     <message>
         <source>Input:</source>
@@ -1925,7 +1937,7 @@
     </message>
     <message>
         <source>How many levels the operating stack has</source>
-        <translation type="unfinished"></translation>
+        <translation>Quantos níveis tem a pilha de operações</translation>
     </message>
     <message>
         <source>Integer:</source>
@@ -1933,7 +1945,7 @@
     </message>
     <message>
         <source>Shift:</source>
-        <translation type="unfinished"></translation>
+        <translation>Shift:</translation>
     </message>
     <message>
         <source>Action:</source>
@@ -1961,7 +1973,7 @@
     </message>
     <message>
         <source>TVM</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor temporal (TVM)</translation>
     </message>
     <message>
         <source>Amortization</source>
@@ -1973,7 +1985,7 @@
     </message>
     <message>
         <source>Basic also</source>
-        <translation type="unfinished"></translation>
+        <translation>Também básico</translation>
     </message>
     <message>
         <source>Small</source>
@@ -1997,7 +2009,7 @@
     </message>
     <message>
         <source>Quick Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Troca rápida</translation>
     </message>
     <message>
         <source>Colors...</source>
@@ -2005,7 +2017,7 @@
     </message>
     <message>
         <source>Tap:</source>
-        <translation type="unfinished"></translation>
+        <translation>Toque:</translation>
     </message>
     <message>
         <source>Theme:</source>
@@ -2025,43 +2037,43 @@
     </message>
     <message>
         <source>Above</source>
-        <translation type="unfinished"></translation>
+        <translation>Acima</translation>
     </message>
     <message>
         <source>Within</source>
-        <translation type="unfinished"></translation>
+        <translation>Dentro</translation>
     </message>
     <message>
         <source>Static</source>
-        <translation type="unfinished"></translation>
+        <translation>Fixas</translation>
     </message>
     <message>
         <source>Swapped</source>
-        <translation type="unfinished"></translation>
+        <translation>Trocado</translation>
     </message>
     <message>
         <source>Zoomed</source>
-        <translation type="unfinished"></translation>
+        <translation>Ampliadas</translation>
     </message>
     <message>
         <source>Shift</source>
-        <translation type="unfinished"></translation>
+        <translation>Shift</translation>
     </message>
     <message>
         <source>Foreground</source>
-        <translation type="unfinished"></translation>
+        <translation>Primeiro plano</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Strong</source>
-        <translation type="unfinished"></translation>
+        <translation>Forte</translation>
     </message>
     <message>
         <source>Heavy</source>
-        <translation type="unfinished"></translation>
+        <translation>Muito forte</translation>
     </message>
     <message>
         <source>Show:</source>
@@ -2081,7 +2093,7 @@
     </message>
     <message>
         <source>Active:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ativa:</translation>
     </message>
     <message>
         <source>Shadow:</source>
@@ -2101,7 +2113,7 @@
     </message>
     <message>
         <source>%1: %2 unchanged</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 inalterado</translation>
     </message>
     <message>
         <source>Amount</source>
@@ -2109,7 +2121,7 @@
     </message>
     <message>
         <source>Schedule...</source>
-        <translation type="unfinished"></translation>
+        <translation>Plano...</translation>
     </message>
     <message>
         <source>Solve</source>
@@ -2129,15 +2141,15 @@
     </message>
     <message>
         <source>Int</source>
-        <translation type="unfinished"></translation>
+        <translation>Jur</translation>
     </message>
     <message>
         <source>Prin</source>
-        <translation type="unfinished"></translation>
+        <translation>Cap</translation>
     </message>
     <message>
         <source>Bal</source>
-        <translation type="unfinished"></translation>
+        <translation>Saldo</translation>
     </message>
     <message>
         <source>Export CSV...</source>
@@ -2149,7 +2161,7 @@
     </message>
     <message>
         <source>Listed up to payment %1 of %2: the amortization keys reach no further.</source>
-        <translation type="unfinished"></translation>
+        <translation>Listado até à prestação %1 de %2: as teclas de amortização não vão mais longe.</translation>
     </message>
     <message>
         <source>Export CSV</source>
@@ -2157,11 +2169,11 @@
     </message>
     <message>
         <source>CSV files (*.csv)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ficheiros CSV (*.csv)</translation>
     </message>
     <message>
         <source>The schedule could not be written to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível escrever o plano em %1.</translation>
     </message>
     <message>
         <source>Date &amp; Time</source>
@@ -2169,11 +2181,11 @@
     </message>
     <message>
         <source>Stack levels</source>
-        <translation type="unfinished"></translation>
+        <translation>Níveis da pilha</translation>
     </message>
     <message>
         <source>Try again, or quit without saving what changed since the last save?</source>
-        <translation type="unfinished"></translation>
+        <translation>Tentar de novo, ou sair sem guardar o que mudou desde a última gravação?</translation>
     </message>
 </context>
 </TS>

@@ -40,34 +40,40 @@ TEST(German, TheWindowStartsInGermanUnderAGermanLocale) {
     EXPECT_EQ(QLocale::system().decimalPoint(), QStringLiteral(","));
 }
 
-// Every text the window takes from the session and the engine has its German: key meanings and the
-// keyboard keys named beside them, the messages, the constants and the built-in themes.
-TEST(Translations, GermanCarriesEveryTextFromTheSession) {
-    QTranslator german;
-    ASSERT_TRUE(german.load(QStringLiteral(":/i18n/brinto_de.qm")));
-    const auto translated = [&](const char* context, std::string_view english) {
-        return !german.translate(context, std::string(english).c_str()).isEmpty();
-    };
+// Every text the window takes from the session and the engine has its translation in each language:
+// key meanings and the keyboard keys named beside them, the messages, the constants and the
+// keyboard names.
+TEST(Translations, EachLanguageCarriesEveryTextFromTheSession) {
     const auto wordy = [](std::string_view text) {  // "0", "+", "A" name themselves in every language
         return std::count_if(text.begin(), text.end(),
                              [](char c) { return std::isalpha(static_cast<unsigned char>(c)); }) >= 2;
     };
-    for (const KeyLegend& legend : AllLegends()) {
-        EXPECT_TRUE(translated("KeyMeaning", legend.fullName)) << legend.fullName;
-        if (wordy(legend.hardwareKey)) {
-            EXPECT_TRUE(translated("KeyMeaning", legend.hardwareKey)) << legend.hardwareKey;
+    for (const char* language : {"de", "fr", "es", "it", "pt"}) {
+        SCOPED_TRACE(language);
+        QTranslator translation;
+        ASSERT_TRUE(translation.load(QStringLiteral(":/i18n/brinto_%1.qm").arg(QLatin1String(language))));
+        const auto translated = [&](const char* context, std::string_view english) {
+            return !translation.translate(context, std::string(english).c_str()).isEmpty();
+        };
+        for (const KeyLegend& legend : AllLegends()) {
+            EXPECT_TRUE(translated("KeyMeaning", legend.fullName)) << legend.fullName;
+            if (wordy(legend.hardwareKey)) {
+                EXPECT_TRUE(translated("KeyMeaning", legend.hardwareKey)) << legend.hardwareKey;
+            }
         }
+        for (const std::string_view text :
+             {message::NoFunctionCaption, message::NoFunctionText, message::ClearAllCaption,
+              message::ClearAllText, message::NothingToUndoCaption, message::NothingToUndoText,
+              message::NothingToRedoCaption, message::NothingToRedoText, message::NoMacroCaption,
+              message::NoMacroText, message::MacroFullCaption, message::MacroFullText}) {
+            EXPECT_TRUE(translated("Message", text)) << text;
+        }
+        for (int i = 0; i < kConstantCount; ++i) {
+            EXPECT_TRUE(translated("Constant", ConstantName(i))) << ConstantName(i);
+        }
+        for (std::string_view keyboard : kKeyboardNames) EXPECT_TRUE(translated("Ui", keyboard)) << keyboard;
+        EXPECT_TRUE(translated("Ui", "&View"));
     }
-    for (const std::string_view text :
-         {message::NoFunctionCaption, message::NoFunctionText, message::ClearAllCaption,
-          message::ClearAllText, message::NothingToUndoCaption, message::NothingToUndoText,
-          message::NothingToRedoCaption, message::NothingToRedoText, message::NoMacroCaption,
-          message::NoMacroText, message::MacroFullCaption, message::MacroFullText}) {
-        EXPECT_TRUE(translated("Message", text)) << text;
-    }
-    for (int i = 0; i < kConstantCount; ++i)
-        EXPECT_TRUE(translated("Constant", ConstantName(i))) << ConstantName(i);
-    for (std::string_view keyboard : kKeyboardNames) EXPECT_TRUE(translated("Ui", keyboard)) << keyboard;
 }
 
 }  // namespace
