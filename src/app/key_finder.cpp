@@ -19,6 +19,9 @@ constexpr std::size_t kOffersShown = 12;
 
 QString Utf8(const std::string& s) { return QString::fromStdString(s); }
 
+// A key is found by its meaning in the window's language as well as in English.
+std::string MeaningShown(std::string_view fullName) { return KeyMeaningText(fullName).toStdString(); }
+
 }  // namespace
 
 KeyFinder::KeyFinder(QWidget* parent) : QDialog(parent) {
@@ -63,7 +66,7 @@ void KeyFinder::Offer(const QString& typed) {
     m_problem->hide();
     m_offers->clear();
     m_offered.clear();
-    for (const KeyChoice& choice : OfferKeys(typed.toStdString(), kOffersShown)) {
+    for (const KeyChoice& choice : OfferKeys(typed.toStdString(), kOffersShown, MeaningShown)) {
         // As KeyChoice::Caption() writes it, with the key's meaning in the window's language.
         QString caption = Utf8(std::string(choice.name));
         if (choice.face != choice.name) caption += QStringLiteral("  ") + Utf8(std::string(choice.face));
@@ -84,7 +87,7 @@ void KeyFinder::Describe() {
 
 // Return takes the key the text names exactly; else the one picked in the list.
 void KeyFinder::Choose() {
-    std::optional<FunctionId> id = FindKey(m_field->text().toStdString());
+    std::optional<FunctionId> id = FindKey(m_field->text().toStdString(), MeaningShown);
     const int row = m_offers->currentRow();
     const bool listPicked = m_picked || m_offers->hasFocus() || !id;
     if (listPicked && row >= 0 && row < static_cast<int>(m_offered.size())) id = m_offered[static_cast<size_t>(row)];
