@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Writes src/app/dialogs/session_texts.cpp: the texts the window shows from the session and the
-engine (key meanings, keyboard key names, keyboard names, the calculator's messages, the names of
-the physical constants and of the built-in themes), marked for
-the translation tools. Those folders know no Qt, so their texts are listed here instead; run this
+engine (key meanings, keyboard key names, keyboard names, the calculator's messages, the reasons a
+number field refuses its text, the names of the physical constants and of the built-in themes),
+marked for the translation tools. Those folders know no Qt, so their texts are listed here instead; run this
 after changing one of them, then refresh the translations (cmake --build build --target
 update_translations)."""
 import re
@@ -38,6 +38,9 @@ constants = re.findall(r"LabelRow\{ValueTag::\w+, " + literal + r"\}", labels[fi
 
 themes_source = (root / "src/session/theme.cpp").read_text()
 themes = re.findall(r"\{theme_id::\w+, " + literal, themes_source)
+
+reader = (root / "src/session/number_reader.cpp").read_text()
+messages += re.findall(r"return \{std::nullopt, " + literal + r"\}", reader)
 
 def rows(context, texts):
     return "".join(f'    QT_TRANSLATE_NOOP("{context}", "{t}"),\n' for t in texts)

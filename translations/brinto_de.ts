@@ -1181,6 +1181,26 @@
         <source>The macro length has been exceeded and the last key could not be recorded.</source>
         <translation>Die höchste Makrolänge ist erreicht; die letzte Taste konnte nicht aufgezeichnet werden.</translation>
     </message>
+    <message>
+        <source>Not a number</source>
+        <translation>Keine Zahl</translation>
+    </message>
+    <message>
+        <source>Out of range</source>
+        <translation>Außerhalb des Bereichs</translation>
+    </message>
+    <message>
+        <source>Must be above 0</source>
+        <translation>Muss größer als 0 sein</translation>
+    </message>
+    <message>
+        <source>A whole number from 1 to 32767</source>
+        <translation>Eine ganze Zahl von 1 bis 32767</translation>
+    </message>
+    <message>
+        <source>A whole number from 1 up</source>
+        <translation>Eine ganze Zahl ab 1</translation>
+    </message>
 </context>
 <context>
     <name>Theme</name>

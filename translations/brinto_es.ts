@@ -1181,6 +1181,26 @@
         <source>The macro length has been exceeded and the last key could not be recorded.</source>
         <translation>Se ha superado la longitud de la macro y no se pudo grabar la última tecla.</translation>
     </message>
+    <message>
+        <source>Not a number</source>
+        <translation>No es un número</translation>
+    </message>
+    <message>
+        <source>Out of range</source>
+        <translation>Fuera de rango</translation>
+    </message>
+    <message>
+        <source>Must be above 0</source>
+        <translation>Debe ser mayor que 0</translation>
+    </message>
+    <message>
+        <source>A whole number from 1 to 32767</source>
+        <translation>Un número entero de 1 a 32767</translation>
+    </message>
+    <message>
+        <source>A whole number from 1 up</source>
+        <translation>Un número entero desde 1</translation>
+    </message>
 </context>
 <context>
     <name>Theme</name>

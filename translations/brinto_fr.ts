@@ -1181,6 +1181,26 @@
         <source>The macro length has been exceeded and the last key could not be recorded.</source>
         <translation>La longueur maximale de la macro est atteinte : la dernière touche n’a pas pu être enregistrée.</translation>
     </message>
+    <message>
+        <source>Not a number</source>
+        <translation>Pas un nombre</translation>
+    </message>
+    <message>
+        <source>Out of range</source>
+        <translation>Hors limites</translation>
+    </message>
+    <message>
+        <source>Must be above 0</source>
+        <translation>Doit être supérieur à 0</translation>
+    </message>
+    <message>
+        <source>A whole number from 1 to 32767</source>
+        <translation>Un nombre entier de 1 à 32767</translation>
+    </message>
+    <message>
+        <source>A whole number from 1 up</source>
+        <translation>Un nombre entier à partir de 1</translation>
+    </message>
 </context>
 <context>
     <name>Theme</name>

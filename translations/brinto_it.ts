@@ -1181,6 +1181,26 @@
         <source>The macro length has been exceeded and the last key could not be recorded.</source>
         <translation>La lunghezza massima della macro è stata superata e l’ultimo tasto non è stato registrato.</translation>
     </message>
+    <message>
+        <source>Not a number</source>
+        <translation>Non è un numero</translation>
+    </message>
+    <message>
+        <source>Out of range</source>
+        <translation>Fuori intervallo</translation>
+    </message>
+    <message>
+        <source>Must be above 0</source>
+        <translation>Deve essere maggiore di 0</translation>
+    </message>
+    <message>
+        <source>A whole number from 1 to 32767</source>
+        <translation>Un numero intero da 1 a 32767</translation>
+    </message>
+    <message>
+        <source>A whole number from 1 up</source>
+        <translation>Un numero intero da 1 in su</translation>
+    </message>
 </context>
 <context>
     <name>Theme</name>

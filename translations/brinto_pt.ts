@@ -1181,6 +1181,26 @@
         <source>The macro length has been exceeded and the last key could not be recorded.</source>
         <translation>O comprimento máximo da macro foi excedido e a última tecla não pôde ser gravada.</translation>
     </message>
+    <message>
+        <source>Not a number</source>
+        <translation>Não é um número</translation>
+    </message>
+    <message>
+        <source>Out of range</source>
+        <translation>Fora do intervalo</translation>
+    </message>
+    <message>
+        <source>Must be above 0</source>
+        <translation>Tem de ser maior que 0</translation>
+    </message>
+    <message>
+        <source>A whole number from 1 to 32767</source>
+        <translation>Um número inteiro de 1 a 32767</translation>
+    </message>
+    <message>
+        <source>A whole number from 1 up</source>
+        <translation>Um número inteiro a partir de 1</translation>
+    </message>
 </context>
 <context>
     <name>Theme</name>

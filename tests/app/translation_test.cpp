@@ -14,6 +14,7 @@
 #include "engine/keyboards.h"
 #include "ops/constants.h"
 #include "session/key_legends.h"
+#include "session/number_reader.h"
 #include "session/session.h"
 
 namespace brinto::test {
@@ -41,8 +42,8 @@ TEST(German, TheWindowStartsInGermanUnderAGermanLocale) {
 }
 
 // Every text the window takes from the session and the engine has its translation in each language:
-// key meanings and the keyboard keys named beside them, the messages, the constants and the
-// keyboard names.
+// key meanings and the keyboard keys named beside them, the messages, why a number field refuses a
+// text, the constants and the keyboard names.
 TEST(Translations, EachLanguageCarriesEveryTextFromTheSession) {
     const auto wordy = [](std::string_view text) {  // "0", "+", "A" name themselves in every language
         return std::count_if(text.begin(), text.end(),
@@ -67,6 +68,17 @@ TEST(Translations, EachLanguageCarriesEveryTextFromTheSession) {
               message::NothingToRedoCaption, message::NothingToRedoText, message::NoMacroCaption,
               message::NoMacroText, message::MacroFullCaption, message::MacroFullText}) {
             EXPECT_TRUE(translated("Message", text)) << text;
+        }
+        // Why a number field refuses what was typed.
+        const std::pair<const char*, FieldKind> refused[] = {{"abc", FieldKind::Value},
+                                                             {"1e999", FieldKind::Value},
+                                                             {"0", FieldKind::Positive},
+                                                             {"0", FieldKind::Payment},
+                                                             {"0", FieldKind::GroupCount}};
+        for (const auto& [text, kind] : refused) {
+            const FieldReading reading = ReadField(text, NumberSyntax{}, kind);
+            ASSERT_FALSE(reading.value) << text;
+            EXPECT_TRUE(translated("Message", reading.problem)) << reading.problem;
         }
         for (int i = 0; i < kConstantCount; ++i) {
             EXPECT_TRUE(translated("Constant", ConstantName(i))) << ConstantName(i);

@@ -174,7 +174,7 @@ void DurationsDialog::accept() {
     for (std::size_t i = 0; i < m_fields.size(); ++i) {
         const FieldReading reading = ReadNumberField(e, m_fields[i]->text(), FieldKind::Positive);
         if (!reading.value) {
-            m_problem->setText(ToQString(reading.problem));
+            m_problem->setText(MessageText(reading.problem));
             m_problem->show();
             m_fields[i]->setFocus();
             m_fields[i]->selectAll();

@@ -84,7 +84,7 @@ public:
         }
         const FieldReading reading = ReadNumberField(m_view->m_session.engine(), edit->text(), m_view->KindAt(index.row(), index.column()));
         const QString label = m_view->m_table->item(index.row(), kLabelColumn)->text();
-        m_view->m_problem->setText(Ui::tr("%1: %2 unchanged").arg(ToQString(reading.problem), label));
+        m_view->m_problem->setText(Ui::tr("%1: %2 unchanged").arg(MessageText(reading.problem), label));
         m_view->m_problem->show();
         m_refusedOnClose = true;
     }
@@ -298,7 +298,7 @@ void RegisterView::Edited(int row, int column) {
     }
     Refresh();
     // Only text set from outside an editor gets here refused; it is said, not dropped silently.
-    m_problem->setText(reading.value ? QString() : ToQString(reading.problem));
+    m_problem->setText(reading.value ? QString() : MessageText(reading.problem));
     m_problem->setVisible(!reading.value);
     if (stored) emit changed();
 }

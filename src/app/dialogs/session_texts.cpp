@@ -273,7 +273,9 @@ namespace {
     QT_TRANSLATE_NOOP("Message", "No Function"),
     QT_TRANSLATE_NOOP("Message", "The Keyboard dialog can be used to assign a function to this button."),
     QT_TRANSLATE_NOOP("Message", "Clear All"),
-    QT_TRANSLATE_NOOP("Message", "This operation will clear the operating stack and all user, financial, statistical, and date registers, and the keyboard macro."),
+    QT_TRANSLATE_NOOP("Message",
+                      "This operation will clear the operating stack and all user, financial, statistical, "
+                      "and date registers, and the keyboard macro."),
     QT_TRANSLATE_NOOP("Message", "Nothing to Undo"),
     QT_TRANSLATE_NOOP("Message", "There are no operations to be undone."),
     QT_TRANSLATE_NOOP("Message", "Nothing to Redo"),
@@ -281,7 +283,13 @@ namespace {
     QT_TRANSLATE_NOOP("Message", "No Macro"),
     QT_TRANSLATE_NOOP("Message", "A macro must be recorded before it can be played back."),
     QT_TRANSLATE_NOOP("Message", "Macro Length Exceeded"),
-    QT_TRANSLATE_NOOP("Message", "The macro length has been exceeded and the last key could not be recorded."),
+    QT_TRANSLATE_NOOP("Message",
+                      "The macro length has been exceeded and the last key could not be recorded."),
+    QT_TRANSLATE_NOOP("Message", "Not a number"),
+    QT_TRANSLATE_NOOP("Message", "Out of range"),
+    QT_TRANSLATE_NOOP("Message", "Must be above 0"),
+    QT_TRANSLATE_NOOP("Message", "A whole number from 1 to 32767"),
+    QT_TRANSLATE_NOOP("Message", "A whole number from 1 up"),
 };
 
 [[maybe_unused]] constexpr const char* kConstants[] = {
