@@ -2207,5 +2207,41 @@
         <source>Try again, or quit without saving what changed since the last save?</source>
         <translation>Erneut versuchen oder beenden, ohne die Änderungen seit dem letzten Speichern zu sichern?</translation>
     </message>
+    <message>
+        <source>No payments to chart</source>
+        <translation>Keine Zahlungen für ein Diagramm</translation>
+    </message>
+    <message>
+        <source>Balance stays at %1 over 1 payment</source>
+        <translation>Restschuld bleibt bei %1 über 1 Zahlung</translation>
+    </message>
+    <message>
+        <source>Balance stays at %1 over %2 payments</source>
+        <translation>Restschuld bleibt bei %1 über %2 Zahlungen</translation>
+    </message>
+    <message>
+        <source>Balance falls from %1 to %2 over 1 payment</source>
+        <translation>Restschuld fällt von %1 auf %2 über 1 Zahlung</translation>
+    </message>
+    <message>
+        <source>Balance falls from %1 to %2 over %3 payments</source>
+        <translation>Restschuld fällt von %1 auf %2 über %3 Zahlungen</translation>
+    </message>
+    <message>
+        <source>Balance grows from %1 to %2 over 1 payment</source>
+        <translation>Restschuld wächst von %1 auf %2 über 1 Zahlung</translation>
+    </message>
+    <message>
+        <source>Balance grows from %1 to %2 over %3 payments</source>
+        <translation>Restschuld wächst von %1 auf %2 über %3 Zahlungen</translation>
+    </message>
+    <message>
+        <source>Cash flows at period 0: %1 paid, %2 received</source>
+        <translation>Zahlungen in Periode 0: %1 gezahlt, %2 erhalten</translation>
+    </message>
+    <message>
+        <source>Cash flows over periods 0 to %1: %2 paid, %3 received</source>
+        <translation>Zahlungen über die Perioden 0 bis %1: %2 gezahlt, %3 erhalten</translation>
+    </message>
 </context>
 </TS>

@@ -2207,5 +2207,41 @@
         <source>Try again, or quit without saving what changed since the last save?</source>
         <translation>¿Reintentar, o salir sin guardar lo cambiado desde la última vez?</translation>
     </message>
+    <message>
+        <source>No payments to chart</source>
+        <translation>No hay pagos que representar</translation>
+    </message>
+    <message>
+        <source>Balance stays at %1 over 1 payment</source>
+        <translation>El saldo se mantiene en %1 durante 1 pago</translation>
+    </message>
+    <message>
+        <source>Balance stays at %1 over %2 payments</source>
+        <translation>El saldo se mantiene en %1 durante %2 pagos</translation>
+    </message>
+    <message>
+        <source>Balance falls from %1 to %2 over 1 payment</source>
+        <translation>El saldo baja de %1 a %2 en 1 pago</translation>
+    </message>
+    <message>
+        <source>Balance falls from %1 to %2 over %3 payments</source>
+        <translation>El saldo baja de %1 a %2 en %3 pagos</translation>
+    </message>
+    <message>
+        <source>Balance grows from %1 to %2 over 1 payment</source>
+        <translation>El saldo sube de %1 a %2 en 1 pago</translation>
+    </message>
+    <message>
+        <source>Balance grows from %1 to %2 over %3 payments</source>
+        <translation>El saldo sube de %1 a %2 en %3 pagos</translation>
+    </message>
+    <message>
+        <source>Cash flows at period 0: %1 paid, %2 received</source>
+        <translation>Flujos en el periodo 0: %1 pagado, %2 recibido</translation>
+    </message>
+    <message>
+        <source>Cash flows over periods 0 to %1: %2 paid, %3 received</source>
+        <translation>Flujos en los periodos 0 a %1: %2 pagado, %3 recibido</translation>
+    </message>
 </context>
 </TS>

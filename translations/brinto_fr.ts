@@ -2207,5 +2207,41 @@
         <source>Try again, or quit without saving what changed since the last save?</source>
         <translation>Réessayer, ou quitter sans enregistrer les modifications depuis le dernier enregistrement ?</translation>
     </message>
+    <message>
+        <source>No payments to chart</source>
+        <translation>Aucun paiement à représenter</translation>
+    </message>
+    <message>
+        <source>Balance stays at %1 over 1 payment</source>
+        <translation>Le solde reste à %1 sur 1 paiement</translation>
+    </message>
+    <message>
+        <source>Balance stays at %1 over %2 payments</source>
+        <translation>Le solde reste à %1 sur %2 paiements</translation>
+    </message>
+    <message>
+        <source>Balance falls from %1 to %2 over 1 payment</source>
+        <translation>Le solde baisse de %1 à %2 sur 1 paiement</translation>
+    </message>
+    <message>
+        <source>Balance falls from %1 to %2 over %3 payments</source>
+        <translation>Le solde baisse de %1 à %2 sur %3 paiements</translation>
+    </message>
+    <message>
+        <source>Balance grows from %1 to %2 over 1 payment</source>
+        <translation>Le solde monte de %1 à %2 sur 1 paiement</translation>
+    </message>
+    <message>
+        <source>Balance grows from %1 to %2 over %3 payments</source>
+        <translation>Le solde monte de %1 à %2 sur %3 paiements</translation>
+    </message>
+    <message>
+        <source>Cash flows at period 0: %1 paid, %2 received</source>
+        <translation>Flux à la période 0 : %1 payé, %2 reçu</translation>
+    </message>
+    <message>
+        <source>Cash flows over periods 0 to %1: %2 paid, %3 received</source>
+        <translation>Flux sur les périodes 0 à %1 : %2 payé, %3 reçu</translation>
+    </message>
 </context>
 </TS>

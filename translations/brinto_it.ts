@@ -2207,5 +2207,41 @@
         <source>Try again, or quit without saving what changed since the last save?</source>
         <translation>Riprovare, o uscire senza salvare le modifiche dall’ultimo salvataggio?</translation>
     </message>
+    <message>
+        <source>No payments to chart</source>
+        <translation>Nessuna rata da rappresentare</translation>
+    </message>
+    <message>
+        <source>Balance stays at %1 over 1 payment</source>
+        <translation>Il saldo resta a %1 in 1 rata</translation>
+    </message>
+    <message>
+        <source>Balance stays at %1 over %2 payments</source>
+        <translation>Il saldo resta a %1 in %2 rate</translation>
+    </message>
+    <message>
+        <source>Balance falls from %1 to %2 over 1 payment</source>
+        <translation>Il saldo scende da %1 a %2 in 1 rata</translation>
+    </message>
+    <message>
+        <source>Balance falls from %1 to %2 over %3 payments</source>
+        <translation>Il saldo scende da %1 a %2 in %3 rate</translation>
+    </message>
+    <message>
+        <source>Balance grows from %1 to %2 over 1 payment</source>
+        <translation>Il saldo sale da %1 a %2 in 1 rata</translation>
+    </message>
+    <message>
+        <source>Balance grows from %1 to %2 over %3 payments</source>
+        <translation>Il saldo sale da %1 a %2 in %3 rate</translation>
+    </message>
+    <message>
+        <source>Cash flows at period 0: %1 paid, %2 received</source>
+        <translation>Flussi al periodo 0: %1 pagati, %2 ricevuti</translation>
+    </message>
+    <message>
+        <source>Cash flows over periods 0 to %1: %2 paid, %3 received</source>
+        <translation>Flussi nei periodi da 0 a %1: %2 pagati, %3 ricevuti</translation>
+    </message>
 </context>
 </TS>

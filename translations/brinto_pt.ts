@@ -2207,5 +2207,41 @@
         <source>Try again, or quit without saving what changed since the last save?</source>
         <translation>Tentar de novo, ou sair sem guardar o que mudou desde a última gravação?</translation>
     </message>
+    <message>
+        <source>No payments to chart</source>
+        <translation>Sem prestações para representar</translation>
+    </message>
+    <message>
+        <source>Balance stays at %1 over 1 payment</source>
+        <translation>O saldo mantém-se em %1 ao longo de 1 prestação</translation>
+    </message>
+    <message>
+        <source>Balance stays at %1 over %2 payments</source>
+        <translation>O saldo mantém-se em %1 ao longo de %2 prestações</translation>
+    </message>
+    <message>
+        <source>Balance falls from %1 to %2 over 1 payment</source>
+        <translation>O saldo desce de %1 para %2 em 1 prestação</translation>
+    </message>
+    <message>
+        <source>Balance falls from %1 to %2 over %3 payments</source>
+        <translation>O saldo desce de %1 para %2 em %3 prestações</translation>
+    </message>
+    <message>
+        <source>Balance grows from %1 to %2 over 1 payment</source>
+        <translation>O saldo sobe de %1 para %2 em 1 prestação</translation>
+    </message>
+    <message>
+        <source>Balance grows from %1 to %2 over %3 payments</source>
+        <translation>O saldo sobe de %1 para %2 em %3 prestações</translation>
+    </message>
+    <message>
+        <source>Cash flows at period 0: %1 paid, %2 received</source>
+        <translation>Fluxos no período 0: %1 pagos, %2 recebidos</translation>
+    </message>
+    <message>
+        <source>Cash flows over periods 0 to %1: %2 paid, %3 received</source>
+        <translation>Fluxos nos períodos 0 a %1: %2 pagos, %3 recebidos</translation>
+    </message>
 </context>
 </TS>

@@ -30,6 +30,39 @@ double NiceStep(double span, int parts) {
 
 QString Amount(double value) { return QString::fromStdString(AmountText(value, false)); }
 
+// The chart's summary in the window's language, from the parts the session said it with.
+QString Described(const ScheduleChart& chart) {
+    const QString from = QString::fromStdString(chart.from), to = QString::fromStdString(chart.to);
+    const bool one = chart.payments == 1;
+    switch (chart.trend) {
+        case BalanceTrend::NoPayments:
+            return Ui::tr("No payments to chart");
+        case BalanceTrend::Stays:
+            return one ? Ui::tr("Balance stays at %1 over 1 payment").arg(from)
+                       : Ui::tr("Balance stays at %1 over %2 payments").arg(from).arg(chart.payments);
+        case BalanceTrend::Falls:
+            return one ? Ui::tr("Balance falls from %1 to %2 over 1 payment").arg(from, to)
+                       : Ui::tr("Balance falls from %1 to %2 over %3 payments")
+                             .arg(from, to)
+                             .arg(chart.payments);
+        case BalanceTrend::Grows:
+            return one ? Ui::tr("Balance grows from %1 to %2 over 1 payment").arg(from, to)
+                       : Ui::tr("Balance grows from %1 to %2 over %3 payments")
+                             .arg(from, to)
+                             .arg(chart.payments);
+    }
+    return QString::fromStdString(chart.description);
+}
+
+QString Described(const CashFlowDiagram& diagram) {
+    const QString paid = QString::fromStdString(diagram.paid),
+                  received = QString::fromStdString(diagram.received);
+    return diagram.periods == 0 ? Ui::tr("Cash flows at period 0: %1 paid, %2 received").arg(paid, received)
+                                : Ui::tr("Cash flows over periods 0 to %1: %2 paid, %3 received")
+                                      .arg(diagram.periods)
+                                      .arg(paid, received);
+}
+
 // An amount on an axis: whole thousands as "250k" once the axis runs past 10,000, so the labels
 // stay narrow.
 QString AxisAmount(double value, double top) {
@@ -94,7 +127,7 @@ ScheduleChartView::ScheduleChartView(QWidget* parent) : QWidget(parent), m_colou
 
 void ScheduleChartView::SetChart(ScheduleChart chart) {
     m_chart = std::move(chart);
-    setAccessibleName(QString::fromStdString(m_chart.description));
+    setAccessibleName(Described(m_chart));
     setAccessibleDescription(
         m_chart.byYear ? Ui::tr("Balance after each payment; interest and principal by year")
                        : Ui::tr("Balance after each payment; interest and principal of each payment"));
@@ -237,7 +270,7 @@ void ScheduleChartView::paintEvent(QPaintEvent*) {
     const QFontMetricsF fm(font());
     if (m_chart.balance.empty() || m_chart.balance.back().payment == 0) {
         p.setPen(m_colours.text);
-        p.drawText(rect(), Qt::AlignCenter, QString::fromStdString(m_chart.description));
+        p.drawText(rect(), Qt::AlignCenter, Described(m_chart));
         return;
     }
     const ScheduleFrame frame = FrameFor(m_chart, fm, size());
@@ -260,7 +293,7 @@ CashFlowDiagramView::CashFlowDiagramView(QWidget* parent) : QWidget(parent), m_c
 void CashFlowDiagramView::SetDiagram(CashFlowDiagram diagram, const QStringList& figures) {
     m_diagram = std::move(diagram);
     m_figures = figures;
-    QString name = QString::fromStdString(m_diagram.description);
+    QString name = Described(m_diagram);
     for (const QString& figure : figures) name += QStringLiteral("; ") + figure;
     setAccessibleName(name);
     update();

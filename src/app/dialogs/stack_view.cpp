@@ -71,8 +71,8 @@ StackView::StackView(Session& session, const HelpFunction& help, QWidget* parent
     for (const FunctionId id : kStackKeys) {
         const KeyLegend* legend = FindLegend(id);
         auto* button = new QPushButton(legend ? ToQString(legend->legend) : QString(), this);
-        if (legend) button->setToolTip(ToQString(legend->fullName));
-        if (legend) button->setAccessibleName(ToQString(legend->fullName));
+        if (legend) button->setToolTip(KeyMeaningText(legend->fullName));
+        if (legend) button->setAccessibleName(KeyMeaningText(legend->fullName));
         button->setFixedHeight(30);
         button->setFocusPolicy(Qt::NoFocus);
         connect(button, &QPushButton::clicked, this, [this, id] { Press(id); });
