@@ -50,6 +50,7 @@ out = f"""// Written by scripts/session-texts.py from the session's and the engi
 // window looks them up by their English text (ui_text.h).
 #include <QtGlobal>
 
+// clang-format off: one text a line, as the script writes it.
 namespace brinto {{
 namespace {{
 
@@ -70,6 +71,7 @@ namespace {{
 
 }}  // namespace
 }}  // namespace brinto
+// clang-format on
 """
 (root / "src/app/dialogs/session_texts.cpp").write_text(out)
 print(f"{len(meanings)} key meanings and key names, {len(keyboard_names)} keyboard names, {len(messages)} messages, "

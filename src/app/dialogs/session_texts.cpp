@@ -3,6 +3,7 @@
 // window looks them up by their English text (ui_text.h).
 #include <QtGlobal>
 
+// clang-format off: one text a line, as the script writes it.
 namespace brinto {
 namespace {
 
@@ -273,9 +274,7 @@ namespace {
     QT_TRANSLATE_NOOP("Message", "No Function"),
     QT_TRANSLATE_NOOP("Message", "The Keyboard dialog can be used to assign a function to this button."),
     QT_TRANSLATE_NOOP("Message", "Clear All"),
-    QT_TRANSLATE_NOOP("Message",
-                      "This operation will clear the operating stack and all user, financial, statistical, "
-                      "and date registers, and the keyboard macro."),
+    QT_TRANSLATE_NOOP("Message", "This operation will clear the operating stack and all user, financial, statistical, and date registers, and the keyboard macro."),
     QT_TRANSLATE_NOOP("Message", "Nothing to Undo"),
     QT_TRANSLATE_NOOP("Message", "There are no operations to be undone."),
     QT_TRANSLATE_NOOP("Message", "Nothing to Redo"),
@@ -283,8 +282,7 @@ namespace {
     QT_TRANSLATE_NOOP("Message", "No Macro"),
     QT_TRANSLATE_NOOP("Message", "A macro must be recorded before it can be played back."),
     QT_TRANSLATE_NOOP("Message", "Macro Length Exceeded"),
-    QT_TRANSLATE_NOOP("Message",
-                      "The macro length has been exceeded and the last key could not be recorded."),
+    QT_TRANSLATE_NOOP("Message", "The macro length has been exceeded and the last key could not be recorded."),
     QT_TRANSLATE_NOOP("Message", "Not a number"),
     QT_TRANSLATE_NOOP("Message", "Out of range"),
     QT_TRANSLATE_NOOP("Message", "Must be above 0"),
@@ -341,3 +339,4 @@ namespace {
 
 }  // namespace
 }  // namespace brinto
+// clang-format on
