@@ -50,7 +50,8 @@ out = f"""// Written by scripts/session-texts.py from the session's and the engi
 // window looks them up by their English text (ui_text.h).
 #include <QtGlobal>
 
-// clang-format off: one text a line, as the script writes it.
+// One text a line, as the script writes it.
+// clang-format off
 namespace brinto {{
 namespace {{
 

@@ -3,7 +3,8 @@
 // window looks them up by their English text (ui_text.h).
 #include <QtGlobal>
 
-// clang-format off: one text a line, as the script writes it.
+// One text a line, as the script writes it.
+// clang-format off
 namespace brinto {
 namespace {
 
