@@ -1309,7 +1309,7 @@
     </message>
     <message>
         <source>&amp;Matching keys:</source>
-        <translation>Passende &amp;Tasten:</translation>
+        <translation>Passende Tast&amp;en:</translation>
     </message>
     <message>
         <source>&amp;Press</source>
@@ -1373,11 +1373,11 @@
     </message>
     <message>
         <source>Cash &amp;Flow...</source>
-        <translation>&amp;Zahlungsströme...</translation>
+        <translation>Za&amp;hlungsströme...</translation>
     </message>
     <message>
         <source>Stat&amp;istical...</source>
-        <translation>S&amp;tatistik...</translation>
+        <translation>Stat&amp;istik...</translation>
     </message>
     <message>
         <source>Enter &amp;Date...</source>
@@ -1389,11 +1389,11 @@
     </message>
     <message>
         <source>Du&amp;rations...</source>
-        <translation>Zeit&amp;spannen...</translation>
+        <translation>Zeitspa&amp;nnen...</translation>
     </message>
     <message>
         <source>&amp;History Tape</source>
-        <translation>&amp;Rechenstreifen</translation>
+        <translation>Re&amp;chenstreifen</translation>
     </message>
     <message>
         <source>&amp;Edit</source>

@@ -1381,7 +1381,7 @@
     </message>
     <message>
         <source>Enter &amp;Date...</source>
-        <translation>Introducir &amp;fecha...</translation>
+        <translation>Introducir f&amp;echa...</translation>
     </message>
     <message>
         <source>Enter Ti&amp;me...</source>
@@ -1393,7 +1393,7 @@
     </message>
     <message>
         <source>&amp;History Tape</source>
-        <translation>&amp;Cinta de cálculo</translation>
+        <translation>C&amp;inta de cálculo</translation>
     </message>
     <message>
         <source>&amp;Edit</source>

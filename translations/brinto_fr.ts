@@ -1441,7 +1441,7 @@
     </message>
     <message>
         <source>&amp;About Brinto...</source>
-        <translation>À &amp;propos de Brinto...</translation>
+        <translation>À p&amp;ropos de Brinto...</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
@@ -1581,7 +1581,7 @@
     </message>
     <message>
         <source>C&amp;lear</source>
-        <translation>&amp;Effacer</translation>
+        <translation>E&amp;ffacer</translation>
     </message>
     <message>
         <source>Clear the tape</source>

@@ -1421,7 +1421,7 @@
     </message>
     <message>
         <source>&amp;Find Key...</source>
-        <translation>&amp;Trova tasto...</translation>
+        <translation>Tro&amp;va tasto...</translation>
     </message>
     <message>
         <source>S&amp;hift</source>
@@ -1581,7 +1581,7 @@
     </message>
     <message>
         <source>C&amp;lear</source>
-        <translation>&amp;Cancella</translation>
+        <translation>Ca&amp;ncella</translation>
     </message>
     <message>
         <source>Clear the tape</source>

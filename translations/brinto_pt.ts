@@ -1393,7 +1393,7 @@
     </message>
     <message>
         <source>&amp;History Tape</source>
-        <translation>&amp;Fita de cálculo</translation>
+        <translation>F&amp;ita de cálculo</translation>
     </message>
     <message>
         <source>&amp;Edit</source>

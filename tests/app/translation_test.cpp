@@ -4,6 +4,7 @@
 
 #include <QLocale>
 #include <QMenuBar>
+#include <QSet>
 #include <QTranslator>
 #include <algorithm>
 #include <cctype>
@@ -85,6 +86,40 @@ TEST(Translations, EachLanguageCarriesEveryTextFromTheSession) {
         }
         for (std::string_view keyboard : kKeyboardNames) EXPECT_TRUE(translated("Ui", keyboard)) << keyboard;
         EXPECT_TRUE(translated("Ui", "&View"));
+    }
+}
+
+// In every language each menu's entries, and the menu titles, underline different letters, so Alt
+// and a letter reach one entry.
+TEST(Translations, EachMenuUnderlinesEachLetterOnce) {
+    for (const char* language : {"en", "de", "fr", "es", "it", "pt"}) {
+        SCOPED_TRACE(language);
+        QTranslator translation;
+        const bool english = QLatin1String(language) == QLatin1String("en");
+        if (!english) {
+            ASSERT_TRUE(translation.load(QStringLiteral(":/i18n/brinto_%1.qm").arg(QLatin1String(language))));
+            QCoreApplication::installTranslator(&translation);
+        }
+        {
+            Desk desk;
+            const auto underlined = [](const QList<QAction*>& actions) {
+                QStringList letters;
+                for (const QAction* action : actions) {
+                    const QString text = action->text();
+                    const qsizetype at = text.indexOf(QLatin1Char('&'));
+                    if (!action->isSeparator() && at >= 0) letters << text.mid(at + 1, 1).toLower();
+                }
+                return letters;
+            };
+            QList<QList<QAction*>> menus = {desk.window.menuBar()->actions()};
+            for (QAction* menu : desk.window.menuBar()->actions()) menus << menu->menu()->actions();
+            for (const QList<QAction*>& actions : menus) {
+                const QStringList letters = underlined(actions);
+                EXPECT_EQ(letters.size(), QSet<QString>(letters.begin(), letters.end()).size())
+                    << letters.join(u' ').toStdString();
+            }
+        }
+        if (!english) QCoreApplication::removeTranslator(&translation);
     }
 }
 
