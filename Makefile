@@ -12,7 +12,7 @@ FUZZ_PACKAGES = clang-14 libclang-rt-14-dev libfuzzer-14-dev
 FUZZ_CMAKE = cmake -S . -B build-fuzz -DCMAKE_CXX_COMPILER=$(FUZZ_CXX) -DCMAKE_BUILD_TYPE=RelWithDebInfo \
 	-DBRINTO_TESTS=OFF -DBRINTO_APP=OFF -DBRINTO_FUZZ=ON $(CMAKE_FLAGS)
 
-.PHONY: all deps build install uninstall package run run-cli guide screenshots test test-release test-sanitize bench clean fuzz-deps fuzz-build test-fuzz fuzz fuzz-coverage
+.PHONY: all deps build install uninstall package run run-cli guide translations screenshots test test-release test-sanitize bench clean fuzz-deps fuzz-build test-fuzz fuzz fuzz-coverage
 
 all: build
 
@@ -62,6 +62,13 @@ run-cli: deps
 guide: deps
 	cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
 	cmake --build build -j $(JOBS) --target guide
+
+# Refreshes translations/*.ts from the sources (the session's texts through scripts/session-texts.py):
+# new texts come in unfinished, texts gone go out.
+translations: deps
+	python3 scripts/session-texts.py
+	cmake -S . -B build -DCMAKE_BUILD_TYPE=RelWithDebInfo $(CMAKE_FLAGS)
+	cmake --build build -j $(JOBS) --target update_translations
 
 # Redraws docs/screenshots/ : every window of the program on a calculator with sample values.
 screenshots: deps

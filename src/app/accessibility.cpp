@@ -5,6 +5,7 @@
 #include <limits>
 #include <map>
 
+#include "app/dialogs/ui_text.h"
 #include "app/display_view.h"
 #include "app/key_view.h"
 #include "session/keypad.h"
@@ -100,7 +101,7 @@ public:
         return child(View()->KeyAt(View()->mapFromGlobal(QPoint(x, y))));
     }
     QString text(QAccessible::Text t) const override {
-        return t == QAccessible::Name ? QStringLiteral("Keys") : QAccessibleWidget::text(t);
+        return t == QAccessible::Name ? Ui::tr("Keys") : QAccessibleWidget::text(t);
     }
     QAccessibleInterface* focusChild() const override {
         return View()->hasFocus() ? child(View()->FocusKey()) : nullptr;
@@ -120,7 +121,8 @@ public:
 
     QString text(QAccessible::Text t) const override {
         switch (t) {
-            case QAccessible::Name: return QStringLiteral("Display");
+            case QAccessible::Name:
+                return Ui::tr("Display");
             case QAccessible::Value: return View()->AccessibleX();
             case QAccessible::Description: return View()->AccessibleDetails();
             default: return QAccessibleWidget::text(t);

@@ -1,13 +1,13 @@
 #include "app/display_view.h"
 
-#include "app/accessibility.h"
-
 #include <QAccessible>
 #include <QMouseEvent>
-#include <QTimer>
 #include <QPainter>
+#include <QTimer>
 #include <algorithm>
 
+#include "app/accessibility.h"
+#include "app/dialogs/ui_text.h"
 #include "app/key_view.h"
 #include "display/display_text.h"
 #include "display/labels.h"
@@ -97,7 +97,8 @@ QString DisplayView::AccessibleDetails() const {
     QStringList parts;
     for (int level = 1; level < LinesShown(); ++level) {
         const DisplayLine line = DisplayLevel(m_engine, level);
-        const QString name = level < 4 ? QString::fromLatin1(kLevelNames[level]) : QStringLiteral("Level %1").arg(level + 1);
+        const QString name =
+            level < 4 ? QString::fromLatin1(kLevelNames[level]) : Ui::tr("Level %1").arg(level + 1);
         parts << name + QStringLiteral(": ") + Utf8(line.text) +
                      (line.label.empty() ? QString() : QStringLiteral(" ") + Utf8(line.label));
     }

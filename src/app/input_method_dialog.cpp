@@ -10,10 +10,12 @@
 #include <algorithm>
 
 #include "app/dialogs/help_viewer.h"
+#include "app/dialogs/ui_text.h"
 
 namespace brinto {
 
-const char* const InputMethodDialog::kText =
+const char* const InputMethodDialog::kText = QT_TRANSLATE_NOOP(
+    "Ui",
     "Choose an input method to determine how Brinto performs calculations:\n\n- Simple specifies an infix "
     "order where the operations are performed in the order they are entered, for example, entering 2 + 3 * 5 "
     "= yields the result of 25\n\n- Precedence also specifies an infix order where binary operations are "
@@ -22,23 +24,23 @@ const char* const InputMethodDialog::kText =
     "(Reverse Polish Notation) specifies a postfix order where the operands are entered before the "
     "operation, for example, 2 Enter 3 + 5 * yields 25 and 2 Enter 3 Enter 5 * + yields 17\n\n- The input "
     "method can be specified  at any time in the Preferences dialog\n\n- See the Comparison of Input "
-    "Methods section of the User Guide for more details";
+    "Methods section of the User Guide for more details");
 
 InputMethodDialog::InputMethodDialog(QWidget* parent) : QDialog(parent) {
-    setWindowTitle(QStringLiteral("Input Method"));
+    setWindowTitle(Ui::tr("Input Method"));
     auto* layout = new QVBoxLayout(this);
-    auto* label = new QLabel(QStringLiteral("&Input:"), this);
+    auto* label = new QLabel(Ui::tr("&Input:"), this);
     layout->addWidget(label);
     m_list = new QListWidget(this);
     label->setBuddy(m_list);  // read as the list's name
-    m_list->addItems({QStringLiteral("Simple"), QStringLiteral("Precedence"), QStringLiteral("RPN")});
+    m_list->addItems({Ui::tr("Simple"), Ui::tr("Precedence"), QStringLiteral("RPN")});
     m_list->setCurrentRow(0);
     label->setBuddy(m_list);
     // Three rows, no more: the text below matters as much as the list.
     m_list->setFixedHeight(m_list->sizeHintForRow(0) * 3 + 2 * m_list->frameWidth() + 2);
     layout->addWidget(m_list);
     // The text scrolls rather than being cut when the window is small.
-    auto* text = new QLabel(QString::fromUtf8(kText));
+    auto* text = new QLabel(Ui::tr(kText));
     text->setWordWrap(true);
     text->setTextInteractionFlags(Qt::TextSelectableByMouse);
     text->setAlignment(Qt::AlignTop | Qt::AlignLeft);
@@ -50,7 +52,7 @@ InputMethodDialog::InputMethodDialog(QWidget* parent) : QDialog(parent) {
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     layout->addWidget(m_scroll, 1);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Help, this);
-    QPushButton* preferences = buttons->addButton(QStringLiteral("Preferences"), QDialogButtonBox::ActionRole);
+    QPushButton* preferences = buttons->addButton(Ui::tr("Preferences"), QDialogButtonBox::ActionRole);
     preferences->setAutoDefault(false);
     buttons->button(QDialogButtonBox::Ok)->setDefault(true);
     layout->addWidget(buttons);

@@ -8,6 +8,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "app/dialogs/ui_text.h"
 #include "session/key_finder.h"
 
 namespace brinto {
@@ -18,15 +19,18 @@ constexpr std::size_t kOffersShown = 12;
 
 QString Utf8(const std::string& s) { return QString::fromStdString(s); }
 
+// A key is found by its meaning in the window's language as well as in English.
+std::string MeaningShown(std::string_view fullName) { return KeyMeaningText(fullName).toStdString(); }
+
 }  // namespace
 
 KeyFinder::KeyFinder(QWidget* parent) : QDialog(parent) {
-    setWindowTitle(QStringLiteral("Find Key"));
-    auto* label = new QLabel(QStringLiteral("&Key name:"), this);
+    setWindowTitle(Ui::tr("Find Key"));
+    auto* label = new QLabel(Ui::tr("&Key name:"), this);
     m_field = new QLineEdit(this);
-    m_field->setPlaceholderText(QStringLiteral("sqrt, x^2, pv, Square root..."));
+    m_field->setPlaceholderText(Ui::tr("sqrt, x^2, pv, Square root..."));
     label->setBuddy(m_field);
-    auto* offersLabel = new QLabel(QStringLiteral("&Matching keys:"), this);
+    auto* offersLabel = new QLabel(Ui::tr("&Matching keys:"), this);
     m_offers = new QListWidget(this);
     m_offers->setTabKeyNavigation(false);
     offersLabel->setBuddy(m_offers);
@@ -34,7 +38,7 @@ KeyFinder::KeyFinder(QWidget* parent) : QDialog(parent) {
     m_problem->setWordWrap(true);
     m_problem->hide();
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->button(QDialogButtonBox::Ok)->setText(QStringLiteral("&Press"));
+    buttons->button(QDialogButtonBox::Ok)->setText(Ui::tr("&Press"));
 
     auto* column = new QVBoxLayout(this);
     column->addWidget(label);
@@ -62,8 +66,11 @@ void KeyFinder::Offer(const QString& typed) {
     m_problem->hide();
     m_offers->clear();
     m_offered.clear();
-    for (const KeyChoice& choice : OfferKeys(typed.toStdString(), kOffersShown)) {
-        m_offers->addItem(Utf8(choice.Caption()));
+    for (const KeyChoice& choice : OfferKeys(typed.toStdString(), kOffersShown, MeaningShown)) {
+        // As KeyChoice::Caption() writes it, with the key's meaning in the window's language.
+        QString caption = Utf8(std::string(choice.name));
+        if (choice.face != choice.name) caption += QStringLiteral("  ") + Utf8(std::string(choice.face));
+        m_offers->addItem(caption + QStringLiteral("  ") + KeyMeaningText(choice.fullName));
         m_offered.push_back(choice.id);
     }
     m_picked = false;
@@ -80,14 +87,14 @@ void KeyFinder::Describe() {
 
 // Return takes the key the text names exactly; else the one picked in the list.
 void KeyFinder::Choose() {
-    std::optional<FunctionId> id = FindKey(m_field->text().toStdString());
+    std::optional<FunctionId> id = FindKey(m_field->text().toStdString(), MeaningShown);
     const int row = m_offers->currentRow();
     const bool listPicked = m_picked || m_offers->hasFocus() || !id;
     if (listPicked && row >= 0 && row < static_cast<int>(m_offered.size())) id = m_offered[static_cast<size_t>(row)];
     if (!id) {
         m_problem->setText(m_field->text().trimmed().isEmpty()
-                               ? QStringLiteral("Type the name of a key.")
-                               : QStringLiteral("No key is called \"%1\".").arg(m_field->text().trimmed()));
+                               ? Ui::tr("Type the name of a key.")
+                               : Ui::tr("No key is called \"%1\".").arg(m_field->text().trimmed()));
         m_problem->show();
         Describe();
         return;

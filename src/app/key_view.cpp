@@ -1,18 +1,18 @@
 #include "app/key_view.h"
 
-#include "app/accessibility.h"
-
 #include <QAccessible>
 #include <QHelpEvent>
 #include <QKeyEvent>
-#include <QTimer>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QTimer>
 #include <QToolTip>
 #include <algorithm>
 #include <cmath>
 #include <limits>
 
+#include "app/accessibility.h"
+#include "app/dialogs/ui_text.h"
 #include "session/key_legends.h"
 
 namespace brinto {
@@ -58,9 +58,9 @@ QString LegendText(FunctionId id) {
 
 QString ToolTipText(FunctionId id) {
     const KeyLegend* legend = FindLegend(id);
-    if (!legend) return QStringLiteral("No function");
-    QString tip = Utf8(legend->fullName);
-    if (!legend->hardwareKey.empty()) tip += QStringLiteral(" (key: %1)").arg(Utf8(legend->hardwareKey));
+    if (!legend) return Ui::tr("No function");
+    QString tip = KeyMeaningText(legend->fullName);
+    if (!legend->hardwareKey.empty()) tip += Ui::tr(" (key: %1)").arg(KeyMeaningText(legend->hardwareKey));
     return tip;
 }
 

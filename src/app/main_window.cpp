@@ -5,22 +5,23 @@
 #include <QApplication>
 #include <QButtonGroup>
 #include <QComboBox>
+#include <QIcon>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QStatusBar>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
 #include <QToolButton>
 #include <QTreeWidget>
-#include <QIcon>
 
 #include "app/accessibility.h"
-#include "app/quick_switch.h"
-#include "app/key_finder.h"
 #include "app/dialogs/colour_dialogs.h"
 #include "app/dialogs/dialogs.h"
+#include "app/dialogs/ui_text.h"
+#include "app/key_finder.h"
+#include "app/quick_switch.h"
 #include "app/tape_panel.h"
 #include "engine/function_ids.h"
 #include "engine/keyboards.h"
@@ -81,13 +82,13 @@ MainWindow::MainWindow(Session& session, QWidget* parent) : QMainWindow(parent),
     m_toolBar->setFloatable(false);
     m_toolBar->toggleViewAction()->setVisible(false);
     if (auto* more = m_toolBar->findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button"))) {
-        more->setAccessibleName(QStringLiteral("More"));
+        more->setAccessibleName(Ui::tr("More"));
     }
     addToolBar(Qt::TopToolBarArea, m_toolBar);
     m_selector = new QComboBox(m_toolBar);
     m_selector->setFocusPolicy(Qt::NoFocus);
-    for (std::string_view name : kKeyboardNames) m_selector->addItem(QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size())));
-    m_selector->setAccessibleName(QStringLiteral("Keyboard"));
+    for (std::string_view name : kKeyboardNames) m_selector->addItem(Ui::tr(name.data()));
+    m_selector->setAccessibleName(Ui::tr("Keyboard"));
     m_toolBar->addWidget(m_selector);
     connect(m_selector, &QComboBox::activated, this, [this](int index) { m_session.SelectKeyboard(index); });
 
@@ -115,51 +116,70 @@ void MainWindow::BuildMenus() {
         return action;
     };
     Session& s = m_session;
-    QMenu* viewMenu = menuBar()->addMenu(QStringLiteral("&View"));
-    add(viewMenu, QStringLiteral("&Basic"), [&s] { s.Basic(); });
-    add(viewMenu, QStringLiteral("&Advanced"), [&s] { s.Advanced(); });
+    QMenu* viewMenu = menuBar()->addMenu(Ui::tr("&View"));
+    add(viewMenu, Ui::tr("&Basic"), [&s] { s.Basic(); });
+    add(viewMenu, Ui::tr("&Advanced"), [&s] { s.Advanced(); });
     viewMenu->addSeparator();
     const std::pair<const char*, View> views[] = {
-        {"&Stack...", View::Stack}, {"&User Registers...", View::UserRegisters},
-        {"&Constants...", View::Constants}, {"&TVM...", View::Tvm},
-        {"Amorti&zation...", View::Amortization}, {"Cash &Flow...", View::CashFlow},
-        {"Stat&istical...", View::Statistical}};
+        {QT_TRANSLATE_NOOP("Ui", "&Stack..."), View::Stack},
+        {QT_TRANSLATE_NOOP("Ui", "&User Registers..."), View::UserRegisters},
+        {QT_TRANSLATE_NOOP("Ui", "&Constants..."), View::Constants},
+        {QT_TRANSLATE_NOOP("Ui", "&TVM..."), View::Tvm},
+        {QT_TRANSLATE_NOOP("Ui", "Amorti&zation..."), View::Amortization},
+        {QT_TRANSLATE_NOOP("Ui", "Cash &Flow..."), View::CashFlow},
+        {QT_TRANSLATE_NOOP("Ui", "Stat&istical..."), View::Statistical}};
     for (const auto& [text, which] : views) {
-        add(viewMenu, QString::fromLatin1(text), [this, which = which] { OpenView(which); });
+        add(viewMenu, Ui::tr(text), [this, which = which] { OpenView(which); });
     }
     // The Date & Time keyboard has no keys for these; they serve every keyboard from here.
     viewMenu->addSeparator();
-    add(viewMenu, QStringLiteral("Enter &Date..."), [this] { Dialogs().OpenEnterDate(); }, QKeySequence(Qt::CTRL | Qt::Key_D));
-    add(viewMenu, QStringLiteral("Enter Ti&me..."), [this] { Dialogs().OpenEnterTime(); }, QKeySequence(Qt::CTRL | Qt::Key_T));
-    add(viewMenu, QStringLiteral("Du&rations..."), [this] { Dialogs().OpenDurations(); }, QKeySequence(Qt::CTRL | Qt::Key_U));
+    add(
+        viewMenu, Ui::tr("Enter &Date..."), [this] { Dialogs().OpenEnterDate(); },
+        QKeySequence(Qt::CTRL | Qt::Key_D));
+    add(
+        viewMenu, Ui::tr("Enter Ti&me..."), [this] { Dialogs().OpenEnterTime(); },
+        QKeySequence(Qt::CTRL | Qt::Key_T));
+    add(
+        viewMenu, Ui::tr("Du&rations..."), [this] { Dialogs().OpenDurations(); },
+        QKeySequence(Qt::CTRL | Qt::Key_U));
     viewMenu->addSeparator();
-    m_tapeAction = add(viewMenu, QStringLiteral("&History Tape"), [this](bool on) { ShowTape(on); },
-                       QKeySequence(Qt::CTRL | Qt::Key_H));
+    m_tapeAction = add(
+        viewMenu, Ui::tr("&History Tape"), [this](bool on) { ShowTape(on); },
+        QKeySequence(Qt::CTRL | Qt::Key_H));
     m_tapeAction->setCheckable(true);
 
-    QMenu* editMenu = menuBar()->addMenu(QStringLiteral("&Edit"));
-    add(editMenu, QStringLiteral("&Undo"), [&s] { s.Undo(); }, QKeySequence(Qt::CTRL | Qt::Key_Z));
-    QAction* redo = add(editMenu, QStringLiteral("&Redo"), [&s] { s.Redo(); });
+    QMenu* editMenu = menuBar()->addMenu(Ui::tr("&Edit"));
+    add(
+        editMenu, Ui::tr("&Undo"), [&s] { s.Undo(); }, QKeySequence(Qt::CTRL | Qt::Key_Z));
+    QAction* redo = add(editMenu, Ui::tr("&Redo"), [&s] { s.Redo(); });
     redo->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
     editMenu->addSeparator();
-    add(editMenu, QStringLiteral("Cu&t"), [&s] { s.Cut(); }, QKeySequence(Qt::CTRL | Qt::Key_X));
-    add(editMenu, QStringLiteral("&Copy"), [&s] { s.Copy(); }, QKeySequence(Qt::CTRL | Qt::Key_C));
-    add(editMenu, QStringLiteral("&Paste"), [&s] { s.Paste(); }, QKeySequence(Qt::CTRL | Qt::Key_V));
+    add(
+        editMenu, Ui::tr("Cu&t"), [&s] { s.Cut(); }, QKeySequence(Qt::CTRL | Qt::Key_X));
+    add(
+        editMenu, Ui::tr("&Copy"), [&s] { s.Copy(); }, QKeySequence(Qt::CTRL | Qt::Key_C));
+    add(
+        editMenu, Ui::tr("&Paste"), [&s] { s.Paste(); }, QKeySequence(Qt::CTRL | Qt::Key_V));
     editMenu->addSeparator();
     // Every key by its name, and the shift latch, for those who do not use the mouse.
-    add(editMenu, QStringLiteral("&Find Key..."), [this] { OpenKeyFinder(); }, QKeySequence(Qt::CTRL | Qt::Key_K));
-    add(editMenu, QStringLiteral("S&hift"), [this] {
-        m_session.TapKey(fid::Shift);
-        KeyDone();
-    }, QKeySequence(Qt::Key_F2));
+    add(
+        editMenu, Ui::tr("&Find Key..."), [this] { OpenKeyFinder(); }, QKeySequence(Qt::CTRL | Qt::Key_K));
+    add(
+        editMenu, Ui::tr("S&hift"),
+        [this] {
+            m_session.TapKey(fid::Shift);
+            KeyDone();
+        },
+        QKeySequence(Qt::Key_F2));
 
-    QMenu* optionsMenu = menuBar()->addMenu(QStringLiteral("&Options"));
-    add(optionsMenu, QStringLiteral("&Preferences..."), [this] { OpenView(View::Preferences); });
-    add(optionsMenu, QStringLiteral("&Keyboard..."), [this] { OpenView(View::Keyboard); });
+    QMenu* optionsMenu = menuBar()->addMenu(Ui::tr("&Options"));
+    add(optionsMenu, Ui::tr("&Preferences..."), [this] { OpenView(View::Preferences); });
+    add(optionsMenu, Ui::tr("&Keyboard..."), [this] { OpenView(View::Keyboard); });
     optionsMenu->addSeparator();
-    add(optionsMenu, QStringLiteral("&About Brinto..."), [this] { Dialogs().OpenAbout(); });
+    add(optionsMenu, Ui::tr("&About Brinto..."), [this] { Dialogs().OpenAbout(); });
     optionsMenu->addSeparator();
-    add(optionsMenu, QStringLiteral("&Quit"), [this] { close(); }, QKeySequence(Qt::CTRL | Qt::Key_Q));
+    add(
+        optionsMenu, Ui::tr("&Quit"), [this] { close(); }, QKeySequence(Qt::CTRL | Qt::Key_Q));
 
     auto* help = new QAction(this);
     help->setShortcut(QKeySequence(Qt::Key_F1));
@@ -423,10 +443,10 @@ void MainWindow::ShowSaveFailure(const QString& text) {
         m_saveFailure = new QLabel(this);
         m_saveFailure->setObjectName(QStringLiteral("saveFailure"));
         m_saveFailure->setWordWrap(true);
-        m_saveFailure->setAccessibleName(QStringLiteral("Not saved"));
+        m_saveFailure->setAccessibleName(Ui::tr("Not saved"));
         statusBar()->addWidget(m_saveFailure, 1);
     }
-    m_saveFailure->setText(QStringLiteral("Not saved: ") + text);
+    m_saveFailure->setText(Ui::tr("Not saved: %1").arg(text));
     m_saveFailure->show();
     statusBar()->show();
 }

@@ -9,6 +9,7 @@
 #include <cmath>
 #include <cstring>
 
+#include "app/dialogs/ui_text.h"
 #include "engine/keyboards.h"
 #include "session/key_grid.h"
 
@@ -21,16 +22,23 @@ constexpr int kSpacing = 1;
 constexpr int kTextMargin = 2;  // on each side of a name, within its button
 constexpr int kSmallestFont = 8;
 
-// The names in their three forms, longest first; "&&" is a plain "&" on a button. Each form's
-// nine names differ from one another.
+// The names in their three forms, longest first, each translated where it is shown; "&&" is a plain "&" on a
+// button. Each form's nine names differ from one another.
 struct StripNames {
     std::array<const char*, kKeyboardCount> names;
 };
 constexpr std::array<StripNames, 3> kForms = {{
-    {{"General", "Financial", "Scientific", "Statistical", "Programmer", "Conversion 1", "Conversion 2",
-      "Date && Time", "User"}},
-    {{"Gen", "Fin", "Sci", "Stat", "Prog", "Conv 1", "Conv 2", "Date", "User"}},
-    {{"Gen", "Fin", "Sci", "Stat", "Prog", "Conv\n1", "Conv\n2", "Date", "User"}},
+    {{QT_TRANSLATE_NOOP("Ui", "General"), QT_TRANSLATE_NOOP("Ui", "Financial"),
+      QT_TRANSLATE_NOOP("Ui", "Scientific"), QT_TRANSLATE_NOOP("Ui", "Statistical"),
+      QT_TRANSLATE_NOOP("Ui", "Programmer"), QT_TRANSLATE_NOOP("Ui", "Conversion 1"),
+      QT_TRANSLATE_NOOP("Ui", "Conversion 2"), QT_TRANSLATE_NOOP("Ui", "Date && Time"),
+      QT_TRANSLATE_NOOP("Ui", "User")}},
+    {{QT_TRANSLATE_NOOP("Ui", "Gen"), QT_TRANSLATE_NOOP("Ui", "Fin"), QT_TRANSLATE_NOOP("Ui", "Sci"),
+      QT_TRANSLATE_NOOP("Ui", "Stat"), QT_TRANSLATE_NOOP("Ui", "Prog"), QT_TRANSLATE_NOOP("Ui", "Conv 1"),
+      QT_TRANSLATE_NOOP("Ui", "Conv 2"), QT_TRANSLATE_NOOP("Ui", "Date"), QT_TRANSLATE_NOOP("Ui", "User")}},
+    {{QT_TRANSLATE_NOOP("Ui", "Gen"), QT_TRANSLATE_NOOP("Ui", "Fin"), QT_TRANSLATE_NOOP("Ui", "Sci"),
+      QT_TRANSLATE_NOOP("Ui", "Stat"), QT_TRANSLATE_NOOP("Ui", "Prog"), QT_TRANSLATE_NOOP("Ui", "Conv\n1"),
+      QT_TRANSLATE_NOOP("Ui", "Conv\n2"), QT_TRANSLATE_NOOP("Ui", "Date"), QT_TRANSLATE_NOOP("Ui", "User")}},
 }};
 
 // The font's pixel size at a width: 10 as on the handheld, growing gently on a wide window.
@@ -38,7 +46,7 @@ int FontPixels(int width) { return std::clamp(static_cast<int>(std::lround(10 * 
 
 // The widest line of a name as the button shows it.
 int TextWidth(const QFontMetrics& metrics, const char* name) {
-    QString text = QString::fromUtf8(name);
+    QString text = Ui::tr(name);
     text.replace(QStringLiteral("&&"), QStringLiteral("&"));
     int widest = 0;
     for (const QString& line : text.split(QLatin1Char('\n'))) widest = std::max(widest, metrics.horizontalAdvance(line));
@@ -68,7 +76,7 @@ QuickSwitchStrip::QuickSwitchStrip(QWidget* parent) : QWidget(parent), m_buttons
         button->setFocusPolicy(Qt::NoFocus);
         button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Expanding);
         button->setToolButtonStyle(Qt::ToolButtonTextOnly);
-        button->setToolTip(QString::fromUtf8(kKeyboardNames[i].data(), static_cast<qsizetype>(kKeyboardNames[i].size())));
+        button->setToolTip(Ui::tr(kKeyboardNames[i].data()));
         button->setAccessibleName(button->toolTip());
         layout->addWidget(button);
         m_buttons->addButton(button, i);
@@ -98,7 +106,7 @@ void QuickSwitchStrip::FitTo(int width) {
     for (int i = 0; i < kKeyboardCount; ++i) {
         QAbstractButton* button = m_buttons->button(i);
         button->setFont(font);
-        button->setText(QString::fromUtf8(chosen->names[static_cast<std::size_t>(i)]));
+        button->setText(Ui::tr(chosen->names[static_cast<std::size_t>(i)]));
     }
 }
 

@@ -13,8 +13,10 @@
 #include <cstdio>
 
 #include "app/desktop_look.h"
+#include "app/dialogs/ui_text.h"
 #include "app/main_window.h"
 #include "app/screenshots.h"
+#include "app/translations.h"
 #include "app/window_host.h"
 
 namespace brinto {
@@ -74,11 +76,11 @@ bool SaveBeforeQuit(MainWindow& window, Calculator& calculator, WindowHost& host
     host.quitting = true;
     while (!calculator.Save(window.saveGeometry())) {
         QMessageBox box(QMessageBox::Warning, QStringLiteral("Brinto"),
-                        QStringLiteral("The calculator could not be saved."),
+                        Ui::tr("The calculator could not be saved."),
                         QMessageBox::Retry | QMessageBox::Discard | QMessageBox::Cancel, &window);
-        box.setInformativeText(QString::fromStdString(host.saveFailure) +
-                               QStringLiteral("\n\nTry again, or quit without saving what changed since the last save?"));
-        box.button(QMessageBox::Discard)->setText(QStringLiteral("Quit Without Saving"));
+        box.setInformativeText(QString::fromStdString(host.saveFailure) + QStringLiteral("\n\n") +
+                               Ui::tr("Try again, or quit without saving what changed since the last save?"));
+        box.button(QMessageBox::Discard)->setText(Ui::tr("Quit Without Saving"));
         box.setDefaultButton(QMessageBox::Retry);
         const int answer = box.exec();
         if (answer == QMessageBox::Cancel) {
@@ -145,6 +147,7 @@ int RunApp(int argc, char** argv) {
     PrepareDesktopLook(options->screenshots ? LookFor::Screenshots : LookFor::Desktop);
     QApplication app(argc, argv);
     DesktopLookStarted();
+    InstallTranslations();
     QApplication::setApplicationName(QStringLiteral("Brinto"));
     QApplication::setApplicationVersion(QStringLiteral(BRINTO_VERSION));
     // Names the installed desktop entry, so that docks and task switchers show its icon and name.

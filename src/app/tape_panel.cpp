@@ -12,6 +12,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "app/dialogs/ui_text.h"
 #include "session/session.h"
 #include "session/session_store.h"
 
@@ -59,23 +60,23 @@ private:
 }  // namespace
 
 TapePanel::TapePanel(Session& session, SessionStore* store, QWidget* parent)
-    : QDockWidget(QStringLiteral("History Tape"), parent), m_session(session), m_store(store) {
+    : QDockWidget(Ui::tr("History Tape"), parent), m_session(session), m_store(store) {
     setObjectName(QStringLiteral("historyTape"));
-    setAccessibleName(QStringLiteral("History Tape"));
+    setAccessibleName(Ui::tr("History Tape"));
     auto* body = new QWidget(this);
     auto* layout = new QVBoxLayout(body);
     layout->setContentsMargins(4, 4, 4, 4);
     m_list = new TapeList(this);
     m_list->setObjectName(QStringLiteral("tapeLines"));
-    m_list->setAccessibleName(QStringLiteral("Tape lines"));
+    m_list->setAccessibleName(Ui::tr("Tape lines"));
     m_list->setColumnCount(2);
-    m_list->setHeaderLabels({QStringLiteral("Keys"), QStringLiteral("Result")});
+    m_list->setHeaderLabels({Ui::tr("Keys"), Ui::tr("Result")});
     m_list->setRootIsDecorated(false);
     m_list->setUniformRowHeights(true);
     m_list->setAlternatingRowColors(true);
     m_list->header()->setStretchLastSection(true);
     m_list->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
-    m_list->setToolTip(QStringLiteral("Double click or Return recalls a result into X; Ctrl+C copies it"));
+    m_list->setToolTip(Ui::tr("Double click or Return recalls a result into X; Ctrl+C copies it"));
     connect(m_list, &QTreeWidget::itemDoubleClicked, this, [this] { RecallCurrent(); });
     layout->addWidget(m_list);
 
@@ -87,10 +88,10 @@ TapePanel::TapePanel(Session& session, SessionStore* store, QWidget* parent)
         connect(b, &QPushButton::clicked, this, what);
         buttons->addWidget(b);
     };
-    button(QStringLiteral("&Recall"), QStringLiteral("Recall the selected result into X"), [this] { RecallCurrent(); });
-    button(QStringLiteral("&Copy"), QStringLiteral("Copy the selected result"), [this] { CopyCurrent(); });
-    button(QStringLiteral("&Save As..."), QStringLiteral("Save the tape as text or CSV"), [this] { SaveAs(); });
-    button(QStringLiteral("C&lear"), QStringLiteral("Clear the tape"), [this] {
+    button(Ui::tr("&Recall"), Ui::tr("Recall the selected result into X"), [this] { RecallCurrent(); });
+    button(Ui::tr("&Copy"), Ui::tr("Copy the selected result"), [this] { CopyCurrent(); });
+    button(Ui::tr("&Save As..."), Ui::tr("Save the tape as text or CSV"), [this] { SaveAs(); });
+    button(Ui::tr("C&lear"), Ui::tr("Clear the tape"), [this] {
         if (m_store) m_store->ClearTape();
         Reload();
     });
@@ -141,7 +142,7 @@ bool TapePanel::SaveTo(const QString& file) {
     if (!out.open(QIODevice::WriteOnly) || out.write(text.data(), static_cast<qint64>(text.size())) < 0 ||
         !out.commit()) {
         QMessageBox::warning(this, QStringLiteral("Brinto"),
-                             QStringLiteral("The tape could not be saved to %1: %2").arg(file, out.errorString()));
+                             Ui::tr("The tape could not be saved to %1: %2").arg(file, out.errorString()));
         return false;
     }
     return true;
@@ -149,10 +150,11 @@ bool TapePanel::SaveTo(const QString& file) {
 
 void TapePanel::SaveAs() {
     QString filter;
-    QString file = QFileDialog::getSaveFileName(this, QStringLiteral("Save Tape"), QStringLiteral("brinto-tape.txt"),
-                                                QStringLiteral("Text (*.txt);;CSV (*.csv)"), &filter);
+    QString file = QFileDialog::getSaveFileName(this, Ui::tr("Save Tape"), QStringLiteral("brinto-tape.txt"),
+                                                Ui::tr("Text (*.txt);;CSV (*.csv)"), &filter);
     if (file.isEmpty()) return;
-    if (filter.startsWith(QStringLiteral("CSV")) && !file.endsWith(QStringLiteral(".csv"), Qt::CaseInsensitive)) {
+    if (filter.contains(QStringLiteral("*.csv")) &&
+        !file.endsWith(QStringLiteral(".csv"), Qt::CaseInsensitive)) {
         file += QStringLiteral(".csv");
     }
     SaveTo(file);

@@ -6,6 +6,7 @@
 #include <QLocale>
 #include <QMessageBox>
 
+#include "app/dialogs/ui_text.h"
 #include "app/input_method_dialog.h"
 #include "app/main_window.h"
 #include "session/session.h"
@@ -25,12 +26,13 @@ QMessageBox::Icon IconFor(std::string_view caption) {
 }  // namespace
 
 void WindowHost::ShowMessage(std::string_view caption, std::string_view text) {
-    QMessageBox box(IconFor(caption), Text(caption), Text(text), QMessageBox::Ok, window);
+    QMessageBox box(IconFor(caption), MessageText(caption), MessageText(text), QMessageBox::Ok, window);
     box.exec();
 }
 
 bool WindowHost::Confirm(std::string_view caption, std::string_view text) {
-    QMessageBox box(IconFor(caption), Text(caption), Text(text), QMessageBox::Ok | QMessageBox::Cancel, window);
+    QMessageBox box(IconFor(caption), MessageText(caption), MessageText(text),
+                    QMessageBox::Ok | QMessageBox::Cancel, window);
     box.setDefaultButton(QMessageBox::Cancel);
     return box.exec() == QMessageBox::Ok;
 }

@@ -28,17 +28,18 @@ std::string_view Trimmed(std::string_view text) {
 }
 
 // How well a key answers the text typed; lower is better, nothing for no match.
-std::optional<int> Rank(const KeyInfo& key, const KeyLegend& legend, std::string_view typed) {
+std::optional<int> Rank(const KeyInfo& key, const KeyLegend& legend, std::string_view typed,
+                        const std::string& shownName) {
     bool aliasStarts = false;
     for (const KeyAlias& alias : kKeyAliases) {
         if (alias.id != key.id) continue;
         if (SameName(alias.name, typed)) return 0;
         aliasStarts = aliasStarts || StartsWith(alias.name, typed);
     }
-    if (SameName(key.name, typed) || SameName(legend.fullName, typed)) return 0;
+    if (SameName(key.name, typed) || SameName(legend.fullName, typed) || SameName(shownName, typed)) return 0;
     if (StartsWith(key.name, typed) || aliasStarts) return 1;
-    if (StartsWith(legend.fullName, typed)) return 2;
-    if (Holds(legend.fullName, typed)) return 3;
+    if (StartsWith(legend.fullName, typed) || StartsWith(shownName, typed)) return 2;
+    if (Holds(legend.fullName, typed) || Holds(shownName, typed)) return 3;
     return std::nullopt;
 }
 
@@ -50,13 +51,14 @@ std::string KeyChoice::Caption() const {
     return caption.append("  ").append(fullName);
 }
 
-std::optional<FunctionId> FindKey(std::string_view typed) {
+std::optional<FunctionId> FindKey(std::string_view typed, const ShownMeaning& shown) {
     typed = Trimmed(typed);
     if (typed.empty()) return std::nullopt;
     if (const auto id = KeyByName(typed)) return id;
     const std::span<const KeyLegend> legends = AllLegends();
     for (const KeyLegend& legend : legends) {
-        if (SameName(legend.fullName, typed)) return legend.id;
+        if (SameName(legend.fullName, typed) || (shown && SameName(shown(legend.fullName), typed)))
+            return legend.id;
     }
     std::optional<FunctionId> worn;
     for (const KeyLegend& legend : legends) {
@@ -67,7 +69,7 @@ std::optional<FunctionId> FindKey(std::string_view typed) {
     return worn;
 }
 
-std::vector<KeyChoice> OfferKeys(std::string_view typed, std::size_t limit) {
+std::vector<KeyChoice> OfferKeys(std::string_view typed, std::size_t limit, const ShownMeaning& shown) {
     typed = Trimmed(typed);
     if (typed.empty()) return {};
     struct Ranked {
@@ -80,12 +82,12 @@ std::vector<KeyChoice> OfferKeys(std::string_view typed, std::size_t limit) {
         const KeyInfo& key = kKeyTable[k];
         const KeyLegend* legend = FindLegend(key.id);
         if (!legend) continue;
-        const auto rank = Rank(key, *legend, typed);
+        const auto rank = Rank(key, *legend, typed, shown ? shown(legend->fullName) : std::string());
         if (!rank) continue;
         found.push_back({*rank, k, {key.id, key.name, legend->fullName, legend->legend}});
     }
     // A face that names one key exactly leads, as FindKey takes it.
-    if (const auto exact = FindKey(typed)) {
+    if (const auto exact = FindKey(typed, shown)) {
         for (Ranked& r : found) {
             if (r.choice.id == *exact) r.rank = -1;
         }

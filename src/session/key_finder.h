@@ -4,6 +4,7 @@
 // and also a key's full name ("Square root") and its face ("√x"), ignoring case; while the user
 // types, it offers the keys whose name, alias or full name starts with, or whose full name holds,
 // the text typed.
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -22,13 +23,17 @@ struct KeyChoice {
     std::string Caption() const;
 };
 
-// The key `typed` names exactly: a brinto-cli name or alias first, then a full name, then a face
-// that only one key wears. Nothing for text that names no key (or, as a face, several).
-std::optional<FunctionId> FindKey(std::string_view typed);
+// A key's full name as a translated window shows it, from the English one; empty: English only.
+using ShownMeaning = std::function<std::string(std::string_view fullName)>;
+
+// The key `typed` names exactly: a brinto-cli name or alias first, then a full name (in English or
+// as `shown` gives it), then a face that only one key wears. Nothing for text that names no key
+// (or, as a face, several).
+std::optional<FunctionId> FindKey(std::string_view typed, const ShownMeaning& shown = {});
 
 // The keys offered for `typed`, best first: an exact name, then names, aliases and full names
-// that start with it, then full names that hold it; at most `limit`, each key once. Blank text
-// offers nothing.
-std::vector<KeyChoice> OfferKeys(std::string_view typed, std::size_t limit);
+// that start with it, then full names that hold it (full names in English and as `shown` gives
+// them); at most `limit`, each key once. Blank text offers nothing.
+std::vector<KeyChoice> OfferKeys(std::string_view typed, std::size_t limit, const ShownMeaning& shown = {});
 
 }  // namespace brinto

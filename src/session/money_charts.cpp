@@ -12,7 +12,8 @@ std::string Plural(int count, const char* one, const char* many) {
     return std::to_string(count) + ' ' + (count == 1 ? one : many);
 }
 
-std::string BalanceDescription(const ScheduleChart& chart, int payments, bool commaRadix) {
+std::string BalanceDescription(ScheduleChart& chart, int payments, bool commaRadix) {
+    chart.payments = payments;
     if (payments == 0) return "No payments to chart";
     double start = std::fabs(chart.balance.front().balance);
     double end = std::fabs(chart.balance.back().balance);
@@ -24,6 +25,9 @@ std::string BalanceDescription(const ScheduleChart& chart, int payments, bool co
     // Compared as shown, so that a balance left at 0.004 does not "fall" to 0 from 0.
     const std::string from = AmountText(start, commaRadix), to = AmountText(end, commaRadix);
     const char* verb = from == to ? "stays at " : end < start ? "falls from " : "grows from ";
+    chart.trend = from == to ? BalanceTrend::Stays : end < start ? BalanceTrend::Falls : BalanceTrend::Grows;
+    chart.from = from;
+    chart.to = to;
     std::string text = std::string("Balance ") + verb + from;
     if (from != to) text += " to " + to;
     return text + " over " + Plural(payments, "payment", "payments");
@@ -87,8 +91,9 @@ CashFlowDiagram MakeCashFlowDiagram(const Engine& e) {
 
     const bool comma = e.prefs.CommaRadix();
     const std::string span = d.periods == 0 ? "at period 0" : "over periods 0 to " + std::to_string(d.periods);
-    d.description = "Cash flows " + span + ": " + AmountText(paid, comma) + " paid, " +
-                    AmountText(received, comma) + " received";
+    d.paid = AmountText(paid, comma);
+    d.received = AmountText(received, comma);
+    d.description = "Cash flows " + span + ": " + d.paid + " paid, " + d.received + " received";
     return d;
 }
 

@@ -28,11 +28,18 @@ struct PeriodBar {
     double principal;
 };
 
+// Which way the balance goes over the schedule, as the description says it.
+enum class BalanceTrend { NoPayments, Stays, Falls, Grows };
+
 struct ScheduleChart {
     std::vector<BalancePoint> balance;  // the balance before payment 1, then one per schedule row
     std::vector<PeriodBar> bars;        // one per payment, or one per year past kMostPaymentBars
     bool byYear = false;
     std::string description;            // "Balance falls from 100,000 to 0 over 360 payments"
+    // The description's parts, for a window that says it in another language.
+    BalanceTrend trend = BalanceTrend::NoPayments;
+    std::string from, to;  // the amounts as the description shows them
+    int payments = 0;
 };
 
 // The chart of `schedule`, whose balance before the first payment is `startBalance` (PV).
@@ -53,7 +60,8 @@ struct CashFlowDiagram {
     int periods = 0;  // the last period with a flow
     std::optional<double> npv;  // at I/YR; none where it is not defined
     std::optional<double> irr;  // IRR/YR; none where there is no rate of return
-    std::string description;    // "Pays 15,000 at period 0; receives 16,500 over periods 1 to 3"
+    std::string description;    // "Cash flows over periods 0 to 5: 15,000 paid, 27,500 received"
+    std::string paid, received;  // the description's amounts, for a window in another language
 };
 
 // The diagram of the cash-flow list in the registers: the entries with a group count of 1 or

@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # Installs the build into a temporary DESTDIR under /usr and checks that exactly the expected files
-# land there, that the installed programs run, and that the desktop entry, the AppStream metadata and
-# the icons agree with each other and with the project; then runs the desktop entry and AppStream
-# validators. Exits 77 (skipped) when a validator is not installed and everything else passed.
+# land there (the translations among them), that the installed programs run, and that the desktop
+# entry, the AppStream metadata and the icons agree with each other and with the project; then runs
+# the desktop entry and AppStream validators. Exits 77 (skipped) when a validator is not installed
+# and everything else passed.
 # Then builds the Debian package of these programs with debian/ into the temporary folder and lints it
 # (nothing is installed into the system).
 # Usage: install_test.sh BUILD_DIR SOURCE_DIR PROJECT_VERSION
@@ -28,6 +29,14 @@ expected=(bin/brinto bin/brinto-cli "$doc/Brinto.htm" "$doc/LICENSE"
   share/fish/vendor_completions.d/brinto-cli.fish)
 sizes=(16 22 24 32 48 64 128 256)
 for size in "${sizes[@]}"; do expected+=("share/icons/hicolor/${size}x$size/apps/$id.png"); done
+# One compiled translation for each translation kept in the repository.
+languages=()
+for ts in "$source"/translations/brinto_*.ts; do
+  language=$(basename "$ts" .ts); language=${language#brinto_}
+  languages+=("$language")
+  expected+=("share/brinto/translations/brinto_$language.qm")
+done
+[ ${#languages[@]} -ge 5 ] || fail "fewer than five translations in $source/translations"
 # The pictures the user guide shows sit beside it, as it refers to them.
 while read -r image; do
   [ -n "$image" ] && expected+=("$doc/$image")
@@ -36,6 +45,12 @@ diff <(printf '%s\n' "${expected[@]}" | sort) <(find . -type f -printf '%P\n' | 
   || fail "installed files differ from the expected list (< missing, > unexpected)"
 
 for program in bin/brinto bin/brinto-cli; do [ -x "$program" ] || fail "$program is not executable"; done
+# Each translation is one lrelease made (a .qm begins with its magic number) and holds texts.
+for language in "${languages[@]}"; do
+  qm=share/brinto/translations/brinto_$language.qm
+  [ "$(head -c 16 "$qm" | od -An -tx1 | tr -d ' \n')" = 3cb86418caef9c95cd211cbf60a1bddd ] || fail "$qm is not a translation"
+  [ "$(stat -c %s "$qm")" -gt 1000 ] || fail "$qm holds no translated text"
+done
 [ "$(bin/brinto --version)" = "brinto $version" ] || fail "installed brinto does not report version $version"
 [ "$(bin/brinto-cli --memory 2 enter 3 +)" = "5." ] || fail "installed brinto-cli does not calculate 2 + 3"
 

@@ -47,6 +47,23 @@ TEST(KeyFinder, OffersExactThenStartingThenHoldingKeysOnce) {
     EXPECT_EQ(OfferKeys("sqrt", 1)[0].Caption(), "sqrt  √x  Square root");
 }
 
+// A translated window finds a key by the meaning it shows as well as by the English one.
+TEST(KeyFinder, KeysAreFoundByTheMeaningTheWindowShows) {
+    const ShownMeaning german = [](std::string_view english) -> std::string {
+        if (english == "Square root") return "Quadratwurzel";
+        if (english == "Cube root") return "Kubikwurzel";
+        return std::string(english);
+    };
+    EXPECT_EQ(FindKey("quadratwurzel", german), fid::SquareRoot);
+    EXPECT_EQ(FindKey("Square root", german), fid::SquareRoot);
+    EXPECT_EQ(FindKey("Quadratwurzel"), std::nullopt);
+    const std::vector<KeyChoice> wurzel = OfferKeys("wurzel", 10, german);
+    ASSERT_EQ(wurzel.size(), 2u);
+    EXPECT_EQ(wurzel[0].id, fid::SquareRoot);
+    EXPECT_EQ(wurzel[1].id, fid::CubeRoot);
+    EXPECT_EQ(OfferKeys("Kubik", 10, german).at(0).id, fid::CubeRoot);
+}
+
 TEST(KeyFinder, LatchKeysAreThoseThatShowAState) {
     Engine e;
     EXPECT_TRUE(IsLatchKey(fid::Shift));

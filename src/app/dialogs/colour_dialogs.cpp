@@ -8,6 +8,8 @@
 #include <QStyleOptionButton>
 #include <QVBoxLayout>
 
+#include "app/dialogs/ui_text.h"
+
 namespace brinto::dialogs {
 namespace {
 
@@ -74,11 +76,12 @@ CustomColours UnpackColours(std::span<const std::byte> bytes) {
 
 ColourChooser::ColourChooser(Rgb given, const HelpFunction& help, QWidget* parent)
     : QDialog(parent), m_given(given), m_shown(given), m_sample(new Sample(&m_given, &m_shown, this)) {
-    setWindowTitle(QStringLiteral("Color Chooser"));
+    setWindowTitle(Ui::tr("Color Chooser"));
     auto* grid = new QGridLayout;
     const int start[3] = {given.r, given.g, given.b};
     int row = 0;
-    for (const char* caption : {"Red:", "Green:", "Blue:"}) {
+    for (const char* caption : {QT_TRANSLATE_NOOP("Ui", "Red:"), QT_TRANSLATE_NOOP("Ui", "Green:"),
+                                QT_TRANSLATE_NOOP("Ui", "Blue:")}) {
         QSlider*& slider = m_sliders[static_cast<std::size_t>(row)];
         slider = new QSlider(Qt::Horizontal, this);
         slider->setRange(0, 255);
@@ -91,14 +94,14 @@ ColourChooser::ColourChooser(Rgb given, const HelpFunction& help, QWidget* paren
         number = new QLabel(QString::number(start[row]), this);
         number->setMinimumWidth(number->fontMetrics().horizontalAdvance(QStringLiteral("255")));
         number->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-        grid->addWidget(new QLabel(QString::fromUtf8(caption), this), row, 0);
+        grid->addWidget(new QLabel(Ui::tr(caption), this), row, 0);
         grid->addWidget(slider, row, 1);
         grid->addWidget(number, row, 2);
         connect(slider, &QSlider::valueChanged, this, [this] { SlidersMoved(); });
         ++row;
     }
     QDialogButtonBox* buttons = MakeButtonRow(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel, "colors", help);
-    QPushButton* reset = buttons->addButton(QStringLiteral("Reset"), QDialogButtonBox::ResetRole);
+    QPushButton* reset = buttons->addButton(Ui::tr("Reset"), QDialogButtonBox::ResetRole);
     connect(reset, &QPushButton::clicked, this, [this] { Reset(); });
     auto* column = new QVBoxLayout(this);
     column->addWidget(m_sample);
@@ -129,27 +132,29 @@ void ColourChooser::Reset() {
 }
 
 CustomizeColours::CustomizeColours(const HelpFunction& help, QWidget* parent) : QDialog(parent), m_help(help) {
-    setWindowTitle(QStringLiteral("Customize Colors"));
+    setWindowTitle(Ui::tr("Customize Colors"));
     auto* grid = new QGridLayout;
-    grid->addWidget(new QLabel(QStringLiteral("Text"), this), 0, 1, Qt::AlignHCenter);
-    grid->addWidget(new QLabel(QStringLiteral("Background"), this), 0, 2, Qt::AlignHCenter);
+    grid->addWidget(new QLabel(Ui::tr("Text"), this), 0, 1, Qt::AlignHCenter);
+    grid->addWidget(new QLabel(Ui::tr("Background"), this), 0, 2, Qt::AlignHCenter);
     int k = 0;
-    for (const char* caption : {"Standard:", "Number:", "Register:", "Clear:"}) {
-        grid->addWidget(new QLabel(QString::fromUtf8(caption), this), k + 1, 0);
+    for (const char* caption : {QT_TRANSLATE_NOOP("Ui", "Standard:"), QT_TRANSLATE_NOOP("Ui", "Number:"),
+                                QT_TRANSLATE_NOOP("Ui", "Register:"), QT_TRANSLATE_NOOP("Ui", "Clear:")}) {
+        grid->addWidget(new QLabel(Ui::tr(caption), this), k + 1, 0);
         for (int column = 0; column < 2; ++column) {
             const int i = 2 * k + column;
             QPushButton*& button = m_buttons[static_cast<std::size_t>(i)];
             button = new QPushButton(this);
             button->setMinimumSize(56, 28);
-            button->setAccessibleName(QString::fromUtf8(caption).remove(QLatin1Char(':')) +
-                                      (column == 0 ? QStringLiteral(" text color") : QStringLiteral(" background color")));
+            const QString name = Ui::tr(caption).remove(QLatin1Char(':')).trimmed();
+            button->setAccessibleName(column == 0 ? Ui::tr("%1 text color").arg(name)
+                                                  : Ui::tr("%1 background color").arg(name));
             connect(button, &QPushButton::clicked, this, [this, i] { Choose(i); });
             grid->addWidget(button, k + 1, column + 1);
         }
         ++k;
     }
     QDialogButtonBox* buttons = MakeButtonRow(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel, "colors", help);
-    QPushButton* defaults = buttons->addButton(QStringLiteral("Default"), QDialogButtonBox::ResetRole);
+    QPushButton* defaults = buttons->addButton(Ui::tr("Default"), QDialogButtonBox::ResetRole);
     connect(defaults, &QPushButton::clicked, this, [this] {
         m_custom = CustomColours{};
         Paint();

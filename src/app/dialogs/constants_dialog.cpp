@@ -5,15 +5,16 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "app/dialogs/ui_text.h"
 #include "ops/constants.h"
 
 namespace brinto::dialogs {
 
 ConstantsDialog::ConstantsDialog(Session& session, const HelpFunction& help, QWidget* parent)
     : QDialog(parent), m_session(session), m_list(new QListWidget(this)) {
-    setWindowTitle(QStringLiteral("Constants"));
-    m_list->setAccessibleName(QStringLiteral("Constants"));
-    for (int i = 0; i < kConstantCount; ++i) m_list->addItem(ToQString(ConstantName(i)));
+    setWindowTitle(Ui::tr("Constants"));
+    m_list->setAccessibleName(Ui::tr("Constants"));
+    for (int i = 0; i < kConstantCount; ++i) m_list->addItem(ConstantText(ConstantName(i)));
     m_list->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
     connect(m_list, &QListWidget::itemDoubleClicked, this, &ConstantsDialog::accept);
     auto* column = new QVBoxLayout(this);

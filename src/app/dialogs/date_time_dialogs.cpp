@@ -4,17 +4,18 @@
 #include <QCalendarWidget>
 #include <QFormLayout>
 #include <QGridLayout>
-#include <QStyle>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStyle>
 #include <QVBoxLayout>
 
-#include "engine/numeric/date_fields.h"
+#include "app/dialogs/ui_text.h"
 #include "engine/function_ids.h"
+#include "engine/numeric/date_fields.h"
 #include "engine/register_bank.h"
 
 namespace brinto::dialogs {
@@ -31,9 +32,11 @@ struct DurationRow {
     const char* label;
 };
 constexpr std::array kDurationRows = {
-    DurationRow{reg::DaysPerYear, "Days per year (dpy):"},   DurationRow{reg::DaysPerMonth, "Days per month (dpm):"},
-    DurationRow{reg::DaysPerWeek, "Days per week (dpw):"},   DurationRow{reg::HoursPerDay, "Hours per day (hpd):"},
-    DurationRow{reg::FramesPerSecond, "Frames per second (fps):"},
+    DurationRow{reg::DaysPerYear, QT_TRANSLATE_NOOP("Ui", "Days per year (dpy):")},
+    DurationRow{reg::DaysPerMonth, QT_TRANSLATE_NOOP("Ui", "Days per month (dpm):")},
+    DurationRow{reg::DaysPerWeek, QT_TRANSLATE_NOOP("Ui", "Days per week (dpw):")},
+    DurationRow{reg::HoursPerDay, QT_TRANSLATE_NOOP("Ui", "Hours per day (hpd):")},
+    DurationRow{reg::FramesPerSecond, QT_TRANSLATE_NOOP("Ui", "Frames per second (fps):")},
 };
 
 }  // namespace
@@ -48,8 +51,8 @@ DateFields DateTimeToOffer(const Engine& e, Offer offer) {
 
 EnterDateDialog::EnterDateDialog(const HelpFunction& help, QWidget* parent)
     : QDialog(parent), m_calendar(new QCalendarWidget(this)) {
-    setWindowTitle(QStringLiteral("Enter Date"));
-    m_calendar->setAccessibleName(QStringLiteral("Date"));
+    setWindowTitle(Ui::tr("Enter Date"));
+    m_calendar->setAccessibleName(Ui::tr("Date"));
     m_calendar->setDateRange(QDate(1904, 1, 1), QDate(2031, 12, 31));
     connect(m_calendar, &QCalendarWidget::activated, this, &QDialog::accept);
     auto* column = new QVBoxLayout(this);
@@ -64,34 +67,34 @@ void EnterDateDialog::SetDate(int year, int month, int day) {
 EnterTimeDialog::EnterTimeDialog(const HelpFunction& help, QWidget* parent)
     : QDialog(parent), m_hours(NumberList(1, 12)), m_tens(NumberList(0, 5)), m_units(NumberList(0, 9)),
       m_halfDay(new QButtonGroup(this)) {
-    setWindowTitle(QStringLiteral("Enter Time"));
+    setWindowTitle(Ui::tr("Enter Time"));
     // Three narrow lists read as "hour : minute", each just wide enough for its numbers.
     const int listWidth = fontMetrics().horizontalAdvance(QStringLiteral("000")) +
                           style()->pixelMetric(QStyle::PM_ScrollBarExtent) + 4 * style()->pixelMetric(QStyle::PM_DefaultFrameWidth);
-    m_hours->setAccessibleName(QStringLiteral("Hour"));
-    m_tens->setAccessibleName(QStringLiteral("Tens of minutes"));
-    m_units->setAccessibleName(QStringLiteral("Minutes"));
+    m_hours->setAccessibleName(Ui::tr("Hour"));
+    m_tens->setAccessibleName(Ui::tr("Tens of minutes"));
+    m_units->setAccessibleName(Ui::tr("Minutes"));
     auto* lists = new QGridLayout;
     const auto addList = [&](QListWidget* list, int column, const char* caption) {
         list->setFixedWidth(listWidth);
-        auto* label = new QLabel(QString::fromUtf8(caption), this);
+        auto* label = new QLabel(Ui::tr(caption), this);
         label->setBuddy(list);
         lists->addWidget(label, 0, column);
         lists->addWidget(list, 1, column);
     };
-    addList(m_hours, 0, "&Hour:");
+    addList(m_hours, 0, QT_TRANSLATE_NOOP("Ui", "&Hour:"));
     auto* colon = new QLabel(QStringLiteral(":"), this);
     QFont large = colon->font();
     large.setBold(true);
     large.setPointSizeF(large.pointSizeF() * 1.5);
     colon->setFont(large);
     lists->addWidget(colon, 1, 1, Qt::AlignCenter);
-    addList(m_tens, 2, "&Minute:");
+    addList(m_tens, 2, QT_TRANSLATE_NOOP("Ui", "&Minute:"));
     addList(m_units, 3, "");
     auto* halfDay = new QVBoxLayout;
     int id = 0;
-    for (const char* caption : {"AM", "PM"}) {
-        auto* button = new QRadioButton(QString::fromUtf8(caption));
+    for (const char* caption : {QT_TRANSLATE_NOOP("Ui", "AM"), QT_TRANSLATE_NOOP("Ui", "PM")}) {
+        auto* button = new QRadioButton(Ui::tr(caption));
         m_halfDay->addButton(button, id++);
         halfDay->addWidget(button);
     }
@@ -135,17 +138,17 @@ int EnterTimeDialog::Minute() const {
 
 DurationsDialog::DurationsDialog(Session& session, const HelpFunction& help, QWidget* parent)
     : QDialog(parent), m_session(session), m_problem(MakeProblemLine(this)) {
-    setWindowTitle(QStringLiteral("Durations"));
+    setWindowTitle(Ui::tr("Durations"));
     auto* form = new QFormLayout;
     for (std::size_t i = 0; i < kDurationRows.size(); ++i) {
         m_fields[i] = new QLineEdit(this);
         m_fields[i]->setAlignment(Qt::AlignRight);
         WatchNumberField(m_fields[i], session.engine(), FieldKind::Positive, m_problem);
-        form->addRow(QString::fromUtf8(kDurationRows[i].label), m_fields[i]);
+        form->addRow(Ui::tr(kDurationRows[i].label), m_fields[i]);
     }
     QDialogButtonBox* buttons =
         MakeButtonRow(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel, "durations", help);
-    QPushButton* defaults = buttons->addButton(QStringLiteral("Default"), QDialogButtonBox::ResetRole);
+    QPushButton* defaults = buttons->addButton(Ui::tr("Default"), QDialogButtonBox::ResetRole);
     connect(defaults, &QPushButton::clicked, this, [this] {
         const Engine& e = m_session.engine();
         for (std::size_t i = 0; i < m_fields.size(); ++i) m_fields[i]->setText(DisplayNumber(e, kDurationDefaults[i]));
@@ -171,7 +174,7 @@ void DurationsDialog::accept() {
     for (std::size_t i = 0; i < m_fields.size(); ++i) {
         const FieldReading reading = ReadNumberField(e, m_fields[i]->text(), FieldKind::Positive);
         if (!reading.value) {
-            m_problem->setText(ToQString(reading.problem));
+            m_problem->setText(MessageText(reading.problem));
             m_problem->show();
             m_fields[i]->setFocus();
             m_fields[i]->selectAll();

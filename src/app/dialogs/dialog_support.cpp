@@ -8,6 +8,7 @@
 #include <QValidator>
 #include <string>
 
+#include "app/dialogs/ui_text.h"
 #include "display/display_text.h"
 #include "display/number_format.h"
 
@@ -71,7 +72,7 @@ void WatchNumberField(QLineEdit* edit, const Engine& e, FieldKind kind, QLabel* 
     edit->setValidator(new NumberValidator(e, kind, edit));
     const auto say = [edit, &e, kind, problem] {
         const FieldReading reading = ReadNumberField(e, edit->text(), kind);
-        const QString text = reading.value ? QString() : ToQString(reading.problem);
+        const QString text = reading.value ? QString() : MessageText(reading.problem);
         edit->setToolTip(text);
         if (!problem) return;
         problem->setText(text);

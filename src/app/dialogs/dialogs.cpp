@@ -19,6 +19,7 @@
 #include "app/dialogs/register_view.h"
 #include "app/dialogs/schedule_window.h"
 #include "app/dialogs/stack_view.h"
+#include "app/dialogs/ui_text.h"
 
 namespace brinto::dialogs {
 namespace {
@@ -28,7 +29,7 @@ constexpr const char* kLicenceLine =
 
 QDialog* MakeAbout(const HelpFunction& help, QWidget* parent) {
     auto* about = new QDialog(parent);
-    about->setWindowTitle(QStringLiteral("About Brinto"));
+    about->setWindowTitle(Ui::tr("About Brinto"));
     auto* icon = new QLabel(about);
     const QIcon appIcon = QApplication::windowIcon().isNull()
                               ? about->style()->standardIcon(QStyle::SP_ComputerIcon)
@@ -36,7 +37,16 @@ QDialog* MakeAbout(const HelpFunction& help, QWidget* parent) {
     icon->setPixmap(appIcon.pixmap(48, 48));
     auto* text = new QVBoxLayout;
     text->addWidget(new QLabel(QStringLiteral("Brinto\u2122 for Linux"), about));
-    text->addWidget(new QLabel(QStringLiteral("Version " BRINTO_VERSION), about));
+    text->addWidget(new QLabel(Ui::tr("Version %1").arg(QStringLiteral(BRINTO_VERSION)), about));
+    // The user guide is written in English only; a translated window says so, an English one
+    // has nothing to add.
+    const char* guideNote = QT_TRANSLATE_NOOP("Ui", "The user guide is in English.");
+    if (const QString note = Ui::tr(guideNote); note != QLatin1String(guideNote)) {
+        auto* noteLabel = new QLabel(note, about);
+        noteLabel->setObjectName(QStringLiteral("guideLanguage"));
+        text->addWidget(noteLabel);
+    }
+    // The licence is quoted as it is granted, in English.
     auto* licence = new QLabel(QString::fromUtf8(kLicenceLine), about);
     licence->setWordWrap(true);
     text->addWidget(licence);
@@ -183,9 +193,9 @@ RegisterView* DialogHost::Registers(View view) {
 
 QMessageBox* DialogHost::NoCashFlows() {
     if (!m_noCashFlows) {
-        m_noCashFlows = new QMessageBox(QMessageBox::Information, QStringLiteral("No Cash Flow Entries"),
-                                        QStringLiteral("There are no cash flow entries to display."),
-                                        QMessageBox::Ok, m_parent);
+        m_noCashFlows =
+            new QMessageBox(QMessageBox::Information, Ui::tr("No Cash Flow Entries"),
+                            Ui::tr("There are no cash flow entries to display."), QMessageBox::Ok, m_parent);
     }
     m_noCashFlows->open();
     return m_noCashFlows;

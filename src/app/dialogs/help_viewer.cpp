@@ -10,12 +10,15 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include "app/dialogs/ui_text.h"
+
 namespace brinto::dialogs {
 namespace {
 
-constexpr const char* kMissingGuide =
+constexpr const char* kMissingGuide = QT_TRANSLATE_NOOP(
+    "Ui",
     "<h2>User guide missing</h2>"
-    "<p>The user guide was not built into this copy of Brinto, so help cannot be shown.</p>";
+    "<p>The user guide was not built into this copy of Brinto, so help cannot be shown.</p>");
 
 QToolButton* NavigationButton(const QString& text, QWidget* parent) {
     auto* button = new QToolButton(parent);
@@ -28,14 +31,14 @@ QToolButton* NavigationButton(const QString& text, QWidget* parent) {
 
 HelpViewer::HelpViewer(QWidget* parent)
     : QWidget(parent, Qt::Window), m_browser(new QTextBrowser(this)), m_find(new QLineEdit(this)) {
-    setWindowTitle(QStringLiteral("Brinto Help"));
-    QToolButton* back = NavigationButton(QStringLiteral("Back"), this);
-    QToolButton* forward = NavigationButton(QStringLiteral("Forward"), this);
+    setWindowTitle(Ui::tr("Brinto Help"));
+    QToolButton* back = NavigationButton(Ui::tr("Back"), this);
+    QToolButton* forward = NavigationButton(Ui::tr("Forward"), this);
     connect(back, &QToolButton::clicked, m_browser, &QTextBrowser::backward);
     connect(forward, &QToolButton::clicked, m_browser, &QTextBrowser::forward);
     connect(m_browser, &QTextBrowser::backwardAvailable, back, &QToolButton::setEnabled);
     connect(m_browser, &QTextBrowser::forwardAvailable, forward, &QToolButton::setEnabled);
-    m_find->setPlaceholderText(QStringLiteral("Find"));
+    m_find->setPlaceholderText(Ui::tr("Find"));
     m_find->setClearButtonEnabled(true);
     connect(m_find, &QLineEdit::returnPressed, this, [this] { Find(m_find->text()); });
     auto* findShortcut = new QShortcut(QKeySequence::Find, this);
@@ -57,7 +60,7 @@ HelpViewer::HelpViewer(QWidget* parent)
 
 void HelpViewer::ShowAnchor(std::string_view anchor) {
     if (!QFile::exists(QString::fromLatin1(kGuideResource))) {
-        m_browser->setHtml(QString::fromLatin1(kMissingGuide));
+        m_browser->setHtml(Ui::tr(kMissingGuide));
         return;
     }
     QUrl url(QStringLiteral("qrc") + QString::fromLatin1(kGuideResource));

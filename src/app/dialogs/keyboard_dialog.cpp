@@ -9,8 +9,9 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
-#include "session/key_legends.h"
+#include "app/dialogs/ui_text.h"
 #include "engine/keyboards.h"
+#include "session/key_legends.h"
 
 namespace brinto::dialogs {
 namespace {
@@ -21,11 +22,11 @@ constexpr int kColumns = 6;  // the 12-key block as 2 rows of 6
 void ShowKey(QPushButton* button, FunctionId id) {
     const KeyLegend* legend = FindLegend(id);
     button->setText(legend ? ToQString(legend->legend) : QString());
-    button->setToolTip(legend ? ToQString(legend->fullName) : QString());
+    button->setToolTip(legend ? KeyMeaningText(legend->fullName) : QString());
     // A screen reader says which key of the block it is and what it does, also when it is blank.
-    button->setAccessibleName(QStringLiteral("Key %1: %2")
+    button->setAccessibleName(Ui::tr("Key %1: %2")
                                   .arg(button->property("keyNumber").toInt())
-                                  .arg(legend ? ToQString(legend->fullName) : QStringLiteral("no function")));
+                                  .arg(legend ? KeyMeaningText(legend->fullName) : Ui::tr("no function")));
 }
 
 // A 2 x 6 grid of key buttons added to `into`; `tapped` receives the key number 0..11.
@@ -50,13 +51,13 @@ std::array<QPushButton*, kBlockKeys> KeyGrid(QWidget* owner, QVBoxLayout* into, 
 
 KeyboardDialog::KeyboardDialog(Session& session, const HelpFunction& help, QWidget* parent)
     : QDialog(parent), m_session(session) {
-    setWindowTitle(QStringLiteral("Customize Keyboard"));
+    setWindowTitle(Ui::tr("Customize Keyboard"));
     auto* column = new QVBoxLayout(this);
 
     auto* userRow = new QHBoxLayout;
-    userRow->addWidget(new QLabel(QStringLiteral("User Keys:")), 1);
-    m_integer = new QCheckBox(QStringLiteral("Integer"));
-    m_userShifted = new QCheckBox(QStringLiteral("Shifted"));
+    userRow->addWidget(new QLabel(Ui::tr("User Keys:")), 1);
+    m_integer = new QCheckBox(Ui::tr("Integer"));
+    m_userShifted = new QCheckBox(Ui::tr("Shifted"));
     userRow->addWidget(m_integer);
     userRow->addWidget(m_userShifted);
     column->addLayout(userRow);
@@ -66,13 +67,13 @@ KeyboardDialog::KeyboardDialog(Session& session, const HelpFunction& help, QWidg
     connect(m_userShifted, &QCheckBox::toggled, this, [this] { ShowUserKeys(); });
 
     auto* availableRow = new QHBoxLayout;
-    availableRow->addWidget(new QLabel(QStringLiteral("Available Keys:")), 1);
-    m_availableShifted = new QCheckBox(QStringLiteral("Shifted"));
+    availableRow->addWidget(new QLabel(Ui::tr("Available Keys:")), 1);
+    m_availableShifted = new QCheckBox(Ui::tr("Shifted"));
     availableRow->addWidget(m_availableShifted);
     column->addLayout(availableRow);
     m_keyboards = new QListWidget;
-    m_keyboards->setAccessibleName(QStringLiteral("Available keyboard"));
-    for (int k = 0; k < kUserKeyboard; ++k) m_keyboards->addItem(ToQString(kKeyboardNames[k]));
+    m_keyboards->setAccessibleName(Ui::tr("Available keyboard"));
+    for (int k = 0; k < kUserKeyboard; ++k) m_keyboards->addItem(Ui::tr(kKeyboardNames[k].data()));
     m_keyboards->setCurrentRow(0);
     m_keyboards->setMaximumHeight(90);
     column->addWidget(m_keyboards);
@@ -82,8 +83,8 @@ KeyboardDialog::KeyboardDialog(Session& session, const HelpFunction& help, QWidg
 
     QDialogButtonBox* buttons =
         MakeButtonRow(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel, "keyboard", help);
-    QPushButton* clear = buttons->addButton(QStringLiteral("Clear"), QDialogButtonBox::ActionRole);
-    QPushButton* copy = buttons->addButton(QStringLiteral("Copy"), QDialogButtonBox::ActionRole);
+    QPushButton* clear = buttons->addButton(Ui::tr("Clear"), QDialogButtonBox::ActionRole);
+    QPushButton* copy = buttons->addButton(Ui::tr("Copy"), QDialogButtonBox::ActionRole);
     connect(clear, &QPushButton::clicked, this, [this] { ClearShownHalf(); });
     connect(copy, &QPushButton::clicked, this, [this] { CopyAvailable(); });
     column->addWidget(buttons);

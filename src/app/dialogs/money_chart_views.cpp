@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "app/dialogs/ui_text.h"
+
 namespace brinto::dialogs {
 namespace {
 
@@ -27,6 +29,39 @@ double NiceStep(double span, int parts) {
 }
 
 QString Amount(double value) { return QString::fromStdString(AmountText(value, false)); }
+
+// The chart's summary in the window's language, from the parts the session said it with.
+QString Described(const ScheduleChart& chart) {
+    const QString from = QString::fromStdString(chart.from), to = QString::fromStdString(chart.to);
+    const bool one = chart.payments == 1;
+    switch (chart.trend) {
+        case BalanceTrend::NoPayments:
+            return Ui::tr("No payments to chart");
+        case BalanceTrend::Stays:
+            return one ? Ui::tr("Balance stays at %1 over 1 payment").arg(from)
+                       : Ui::tr("Balance stays at %1 over %2 payments").arg(from).arg(chart.payments);
+        case BalanceTrend::Falls:
+            return one ? Ui::tr("Balance falls from %1 to %2 over 1 payment").arg(from, to)
+                       : Ui::tr("Balance falls from %1 to %2 over %3 payments")
+                             .arg(from, to)
+                             .arg(chart.payments);
+        case BalanceTrend::Grows:
+            return one ? Ui::tr("Balance grows from %1 to %2 over 1 payment").arg(from, to)
+                       : Ui::tr("Balance grows from %1 to %2 over %3 payments")
+                             .arg(from, to)
+                             .arg(chart.payments);
+    }
+    return QString::fromStdString(chart.description);
+}
+
+QString Described(const CashFlowDiagram& diagram) {
+    const QString paid = QString::fromStdString(diagram.paid),
+                  received = QString::fromStdString(diagram.received);
+    return diagram.periods == 0 ? Ui::tr("Cash flows at period 0: %1 paid, %2 received").arg(paid, received)
+                                : Ui::tr("Cash flows over periods 0 to %1: %2 paid, %3 received")
+                                      .arg(diagram.periods)
+                                      .arg(paid, received);
+}
 
 // An amount on an axis: whole thousands as "250k" once the axis runs past 10,000, so the labels
 // stay narrow.
@@ -87,14 +122,15 @@ ChartColours MakeChartColours(const ScreenColours& screen) {
 }
 
 ScheduleChartView::ScheduleChartView(QWidget* parent) : QWidget(parent), m_colours(DefaultChartColours()) {
-    setAccessibleName(QStringLiteral("Amortization chart"));
+    setAccessibleName(Ui::tr("Amortization chart"));
 }
 
 void ScheduleChartView::SetChart(ScheduleChart chart) {
     m_chart = std::move(chart);
-    setAccessibleName(QString::fromStdString(m_chart.description));
-    setAccessibleDescription(m_chart.byYear ? QStringLiteral("Balance after each payment; interest and principal by year")
-                                            : QStringLiteral("Balance after each payment; interest and principal of each payment"));
+    setAccessibleName(Described(m_chart));
+    setAccessibleDescription(
+        m_chart.byYear ? Ui::tr("Balance after each payment; interest and principal by year")
+                       : Ui::tr("Balance after each payment; interest and principal of each payment"));
     update();
 }
 
@@ -199,7 +235,7 @@ void DrawAxes(QPainter& p, const ScheduleFrame& f, const ChartColours& c, const 
         p.drawText(QRectF(at - 40, f.plot.bottom() + 3, 80, f.line), Qt::AlignHCenter | Qt::AlignTop, Amount(u));
     }
     p.drawText(QRectF(f.plot.left(), f.plot.bottom() + 3 + f.line, f.plot.width(), f.line),
-               Qt::AlignHCenter | Qt::AlignTop, chart.byYear ? QStringLiteral("Year") : QStringLiteral("Payment"));
+               Qt::AlignHCenter | Qt::AlignTop, chart.byYear ? Ui::tr("Year") : Ui::tr("Payment"));
 }
 
 void DrawLegend(QPainter& p, const ScheduleFrame& f, const ChartColours& c, const QFontMetricsF& fm, bool byYear) {
@@ -210,10 +246,11 @@ void DrawLegend(QPainter& p, const ScheduleFrame& f, const ChartColours& c, cons
     p.drawLine(QPointF(at, mid), QPointF(at + 18, mid));
     at += 22;
     p.setPen(c.text);
-    const std::pair<QString, QColor> entries[] = {{QStringLiteral("Balance"), QColor()},
-                                                  {QStringLiteral("Interest"), Faded(c.interest, 170)},
-                                                  {QStringLiteral("Principal"), Faded(c.principal, 170)},
-                                                  {byYear ? QStringLiteral("(by year)") : QStringLiteral("(by payment)"), QColor()}};
+    const std::pair<QString, QColor> entries[] = {
+        {Ui::tr("Balance"), QColor()},
+        {Ui::tr("Interest"), Faded(c.interest, 170)},
+        {Ui::tr("Principal"), Faded(c.principal, 170)},
+        {byYear ? Ui::tr("(by year)") : Ui::tr("(by payment)"), QColor()}};
     for (const auto& [text, swatch] : entries) {
         if (swatch.isValid()) {
             p.fillRect(QRectF(at, mid - 5, 10, 10), swatch);
@@ -233,7 +270,7 @@ void ScheduleChartView::paintEvent(QPaintEvent*) {
     const QFontMetricsF fm(font());
     if (m_chart.balance.empty() || m_chart.balance.back().payment == 0) {
         p.setPen(m_colours.text);
-        p.drawText(rect(), Qt::AlignCenter, QString::fromStdString(m_chart.description));
+        p.drawText(rect(), Qt::AlignCenter, Described(m_chart));
         return;
     }
     const ScheduleFrame frame = FrameFor(m_chart, fm, size());
@@ -250,13 +287,13 @@ void ScheduleChartView::paintEvent(QPaintEvent*) {
 }
 
 CashFlowDiagramView::CashFlowDiagramView(QWidget* parent) : QWidget(parent), m_colours(DefaultChartColours()) {
-    setAccessibleName(QStringLiteral("Cash-flow diagram"));
+    setAccessibleName(Ui::tr("Cash-flow diagram"));
 }
 
 void CashFlowDiagramView::SetDiagram(CashFlowDiagram diagram, const QStringList& figures) {
     m_diagram = std::move(diagram);
     m_figures = figures;
-    QString name = QString::fromStdString(m_diagram.description);
+    QString name = Described(m_diagram);
     for (const QString& figure : figures) name += QStringLiteral("; ") + figure;
     setAccessibleName(name);
     update();

@@ -13,22 +13,23 @@
 #include <initializer_list>
 #include <string_view>
 
+#include "app/dialogs/ui_text.h"
 #include "session/theme.h"
 
 namespace brinto::dialogs {
 namespace {
 
-
-// A list named by the caption beside it, so it can be found by that caption.
+// A list named by the caption beside it, so it can be found by that caption (in English, whatever
+// the language shown).
 QComboBox* Choices(const char* caption, std::initializer_list<const char*> entries) {
     auto* list = new QComboBox;
     list->setObjectName(QString::fromUtf8(caption));
-    for (const char* entry : entries) list->addItem(QString::fromUtf8(entry));
+    for (const char* entry : entries) list->addItem(Ui::tr(entry));
     return list;
 }
 
 QComboBox* DigitChoices() {
-    auto* list = Choices("digits", {"All"});
+    auto* list = Choices("digits", {QT_TRANSLATE_NOOP("Ui", "All")});
     for (int n = 0; n <= 12; ++n) list->addItem(QString::number(n));
     return list;
 }
@@ -37,11 +38,11 @@ QComboBox* DigitChoices() {
 QHBoxLayout* BesideNamed(QWidget* a, const char* caption, QWidget* b, const char* tip) {
     auto* row = new QHBoxLayout;
     row->addWidget(a, 1);
-    auto* label = new QLabel(QString::fromUtf8(caption));
+    auto* label = new QLabel(Ui::tr(caption));
     label->setBuddy(b);
     row->addWidget(label);
     row->addWidget(b);
-    b->setToolTip(QString::fromUtf8(tip));
+    b->setToolTip(Ui::tr(tip));
     label->setToolTip(b->toolTip());
     return row;
 }
@@ -60,7 +61,7 @@ QWidget* Page(QFormLayout* form, QWidget* owner, Reset reset) {
     auto* column = new QVBoxLayout(page);
     column->addLayout(form);
     column->addStretch(1);
-    auto* defaults = new QPushButton(QStringLiteral("Default"), page);
+    auto* defaults = new QPushButton(Ui::tr("Default"), page);
     QObject::connect(defaults, &QPushButton::clicked, owner, reset);
     column->addWidget(defaults, 0, Qt::AlignLeft);
     return page;
@@ -70,10 +71,10 @@ QWidget* Page(QFormLayout* form, QWidget* owner, Reset reset) {
 
 PreferencesDialog::PreferencesDialog(Session& session, const HelpFunction& help, QWidget* parent)
     : QDialog(parent), m_session(session), m_pages(new QTabWidget(this)) {
-    setWindowTitle(QStringLiteral("Preferences"));
-    m_pages->addTab(GeneralPage(), QStringLiteral("General"));
-    m_pages->addTab(DisplayPage(), QStringLiteral("Display"));
-    m_pages->addTab(KeyboardPage(), QStringLiteral("Keyboard"));
+    setWindowTitle(Ui::tr("Preferences"));
+    m_pages->addTab(GeneralPage(), Ui::tr("General"));
+    m_pages->addTab(DisplayPage(), Ui::tr("Display"));
+    m_pages->addTab(KeyboardPage(), Ui::tr("Keyboard"));
     auto* column = new QVBoxLayout(this);
     column->addWidget(m_pages);
     column->addWidget(MakeButtonRow(this, QDialogButtonBox::Ok | QDialogButtonBox::Cancel, "prefs", help));
@@ -81,27 +82,38 @@ PreferencesDialog::PreferencesDialog(Session& session, const HelpFunction& help,
 }
 
 QWidget* PreferencesDialog::GeneralPage() {
-    m_format = Choices("Format:", {"Standard", "Fixed", "Scientific", "Engineering"});
+    m_format =
+        Choices("Format:", {QT_TRANSLATE_NOOP("Ui", "Standard"), QT_TRANSLATE_NOOP("Ui", "Fixed"),
+                            QT_TRANSLATE_NOOP("Ui", "Scientific"), QT_TRANSLATE_NOOP("Ui", "Engineering")});
     m_digits = DigitChoices();
-    m_input = Choices("Input:", {"Simple", "Precedence", "RPN"});
+    m_input = Choices("Input:", {QT_TRANSLATE_NOOP("Ui", "Simple"), QT_TRANSLATE_NOOP("Ui", "Precedence"),
+                                 QT_TRANSLATE_NOOP("Ui", "RPN")});
     m_depth = Choices("depth", {"4", "8", "12", "16", "20"});
-    m_integer = Choices("Integer:", {"8-bit unsigned", "8-bit signed", "16-bit unsigned", "16-bit signed",
-                         "32-bit unsigned", "32-bit signed"});
-    m_shift = Choices("Shift:", {"Standard", "Sticky", "Locking"});
-    m_action = Choices("Action:", {"Default", "Do nothing", "Shift keyboard", "Repeat last key", "Open last form",
-                        "Play macro"});
-    m_hundredRegisters = new QCheckBox(QStringLiteral("100 Registers"));
-    m_longDate = new QCheckBox(QStringLiteral("Long Date"));
-    m_backspaceDrops = new QCheckBox(QStringLiteral("Backspace Drops"));
-    m_commaRadix = new QCheckBox(QStringLiteral("Comma Radix"));
+    m_integer = Choices(
+        "Integer:", {QT_TRANSLATE_NOOP("Ui", "8-bit unsigned"), QT_TRANSLATE_NOOP("Ui", "8-bit signed"),
+                     QT_TRANSLATE_NOOP("Ui", "16-bit unsigned"), QT_TRANSLATE_NOOP("Ui", "16-bit signed"),
+                     QT_TRANSLATE_NOOP("Ui", "32-bit unsigned"), QT_TRANSLATE_NOOP("Ui", "32-bit signed")});
+    m_shift = Choices("Shift:", {QT_TRANSLATE_NOOP("Ui", "Standard"), QT_TRANSLATE_NOOP("Ui", "Sticky"),
+                                 QT_TRANSLATE_NOOP("Ui", "Locking")});
+    m_action = Choices("Action:",
+                       {QT_TRANSLATE_NOOP("Ui", "Default"), QT_TRANSLATE_NOOP("Ui", "Do nothing"),
+                        QT_TRANSLATE_NOOP("Ui", "Shift keyboard"), QT_TRANSLATE_NOOP("Ui", "Repeat last key"),
+                        QT_TRANSLATE_NOOP("Ui", "Open last form"), QT_TRANSLATE_NOOP("Ui", "Play macro")});
+    m_hundredRegisters = new QCheckBox(Ui::tr("100 Registers"));
+    m_longDate = new QCheckBox(Ui::tr("Long Date"));
+    m_backspaceDrops = new QCheckBox(Ui::tr("Backspace Drops"));
+    m_commaRadix = new QCheckBox(Ui::tr("Comma Radix"));
     auto* form = new QFormLayout;
-    form->addRow(QStringLiteral("Format:"),
-                 BesideNamed(m_format, "Digits:", m_digits, "How many digits the number format shows; All: every digit"));
-    form->addRow(QStringLiteral("Input:"),
-                 BesideNamed(m_input, "Stack:", m_depth, "How many levels the operating stack has"));
-    form->addRow(QStringLiteral("Integer:"), m_integer);
-    form->addRow(QStringLiteral("Shift:"), m_shift);
-    form->addRow(QStringLiteral("Action:"), m_action);
+    form->addRow(
+        Ui::tr("Format:"),
+        BesideNamed(m_format, QT_TRANSLATE_NOOP("Ui", "Digits:"), m_digits,
+                    QT_TRANSLATE_NOOP("Ui", "How many digits the number format shows; All: every digit")));
+    form->addRow(Ui::tr("Input:"),
+                 BesideNamed(m_input, QT_TRANSLATE_NOOP("Ui", "Stack:"), m_depth,
+                             QT_TRANSLATE_NOOP("Ui", "How many levels the operating stack has")));
+    form->addRow(Ui::tr("Integer:"), m_integer);
+    form->addRow(Ui::tr("Shift:"), m_shift);
+    form->addRow(Ui::tr("Action:"), m_action);
     form->addRow(Beside(m_hundredRegisters, m_longDate));
     form->addRow(Beside(m_backspaceDrops, m_commaRadix));
     return Page(form, this, [this] { GeneralDefaults(); });
@@ -111,51 +123,68 @@ QWidget* PreferencesDialog::DisplayPage() {
     m_tapAreas = new QButtonGroup(this);
     auto* areas = new QHBoxLayout;
     int id = 0;
-    for (const char* caption : {"Left", "Center", "Right"}) {
-        auto* button = new QRadioButton(QString::fromUtf8(caption));
+    for (const char* caption : {QT_TRANSLATE_NOOP("Ui", "Left"), QT_TRANSLATE_NOOP("Ui", "Center"),
+                                QT_TRANSLATE_NOOP("Ui", "Right")}) {
+        auto* button = new QRadioButton(Ui::tr(caption));
         m_tapAreas->addButton(button, id++);
         areas->addWidget(button);
     }
     connect(m_tapAreas, &QButtonGroup::idClicked, this, &PreferencesDialog::ShowTapArea);
-    m_tapTarget = Choices("Tap:", {"Preferences", "Keyboard", "Stack", "User Registers", "Constants", "TVM",
-                           "Amortization", "Cash Flow", "Statistical"});
+    m_tapTarget =
+        Choices("Tap:", {QT_TRANSLATE_NOOP("Ui", "Preferences"), QT_TRANSLATE_NOOP("Ui", "Keyboard"),
+                         QT_TRANSLATE_NOOP("Ui", "Stack"), QT_TRANSLATE_NOOP("Ui", "User Registers"),
+                         QT_TRANSLATE_NOOP("Ui", "Constants"), QT_TRANSLATE_NOOP("Ui", "TVM"),
+                         QT_TRANSLATE_NOOP("Ui", "Amortization"), QT_TRANSLATE_NOOP("Ui", "Cash Flow"),
+                         QT_TRANSLATE_NOOP("Ui", "Statistical")});
     m_theme = new QComboBox;
     m_theme->setObjectName(QStringLiteral("Theme:"));
     const ThemeSet themes;
-    for (const Theme& theme : themes.Themes()) m_theme->addItem(ToQString(theme.name), theme.id);
-    m_lines = Choices("Lines:", {"Default", "1", "2", "3", "4"});
-    m_basicAlso = new QCheckBox(QStringLiteral("Basic also"));
-    m_font = Choices("Font:", {"Default", "Small", "Medium", "Large"});
-    m_border = Choices("Border:", {"Default", "None", "Display", "Calculator"});
-    m_quickSwitch = new QCheckBox(QStringLiteral("Quick Switch"));
+    for (const Theme& theme : themes.Themes()) m_theme->addItem(ThemeText(theme.name), theme.id);
+    m_lines = Choices("Lines:", {QT_TRANSLATE_NOOP("Ui", "Default"), "1", "2", "3", "4"});
+    m_basicAlso = new QCheckBox(Ui::tr("Basic also"));
+    m_font = Choices("Font:", {QT_TRANSLATE_NOOP("Ui", "Default"), QT_TRANSLATE_NOOP("Ui", "Small"),
+                               QT_TRANSLATE_NOOP("Ui", "Medium"), QT_TRANSLATE_NOOP("Ui", "Large")});
+    m_border =
+        Choices("Border:", {QT_TRANSLATE_NOOP("Ui", "Default"), QT_TRANSLATE_NOOP("Ui", "None"),
+                            QT_TRANSLATE_NOOP("Ui", "Display"), QT_TRANSLATE_NOOP("Ui", "Calculator")});
+    m_quickSwitch = new QCheckBox(Ui::tr("Quick Switch"));
     m_clearType = new QCheckBox(QStringLiteral("ClearType"));
-    auto* colors = new QPushButton(QStringLiteral("Colors..."));
+    auto* colors = new QPushButton(Ui::tr("Colors..."));
     connect(colors, &QPushButton::clicked, this, &PreferencesDialog::colorsRequested);
     auto* form = new QFormLayout;
-    form->addRow(QStringLiteral("Tap:"), areas);
+    form->addRow(Ui::tr("Tap:"), areas);
     form->addRow(QString(), m_tapTarget);
-    form->addRow(QStringLiteral("Theme:"), Beside(m_theme, colors));
-    form->addRow(QStringLiteral("Lines:"), Beside(m_lines, m_basicAlso));
-    form->addRow(QStringLiteral("Font:"), m_font);
-    form->addRow(QStringLiteral("Border:"), m_border);
+    form->addRow(Ui::tr("Theme:"), Beside(m_theme, colors));
+    form->addRow(Ui::tr("Lines:"), Beside(m_lines, m_basicAlso));
+    form->addRow(Ui::tr("Font:"), m_font);
+    form->addRow(Ui::tr("Border:"), m_border);
     form->addRow(Beside(m_quickSwitch, m_clearType));
     return Page(form, this, [this] { DisplayDefaults(); });
 }
 
 QWidget* PreferencesDialog::KeyboardPage() {
-    m_show = Choices("Show:", {"Default", "None", "Above", "Within"});
-    m_size = Choices("Size:", {"Default", "Small", "Medium", "Large"});
-    m_keys = Choices("Keys:", {"Default", "Static", "Swapped", "Zoomed"});
-    m_color = Choices("Color:", {"Default", "Shift", "Foreground", "Background"});
-    m_active = Choices("Active:", {"Default", "Shift", "Foreground", "Swapped"});
-    m_shadow = Choices("Shadow:", {"Default", "None", "Normal", "Strong", "Heavy"});
+    m_show = Choices("Show:", {QT_TRANSLATE_NOOP("Ui", "Default"), QT_TRANSLATE_NOOP("Ui", "None"),
+                               QT_TRANSLATE_NOOP("Ui", "Above"), QT_TRANSLATE_NOOP("Ui", "Within")});
+    m_size = Choices("Size:", {QT_TRANSLATE_NOOP("Ui", "Default"), QT_TRANSLATE_NOOP("Ui", "Small"),
+                               QT_TRANSLATE_NOOP("Ui", "Medium"), QT_TRANSLATE_NOOP("Ui", "Large")});
+    m_keys = Choices("Keys:", {QT_TRANSLATE_NOOP("Ui", "Default"), QT_TRANSLATE_NOOP("Ui", "Static"),
+                               QT_TRANSLATE_NOOP("Ui", "Swapped"), QT_TRANSLATE_NOOP("Ui", "Zoomed")});
+    m_color =
+        Choices("Color:", {QT_TRANSLATE_NOOP("Ui", "Default"), QT_TRANSLATE_NOOP("Ui", "Shift"),
+                           QT_TRANSLATE_NOOP("Ui", "Foreground"), QT_TRANSLATE_NOOP("Ui", "Background")});
+    m_active =
+        Choices("Active:", {QT_TRANSLATE_NOOP("Ui", "Default"), QT_TRANSLATE_NOOP("Ui", "Shift"),
+                            QT_TRANSLATE_NOOP("Ui", "Foreground"), QT_TRANSLATE_NOOP("Ui", "Swapped")});
+    m_shadow = Choices("Shadow:", {QT_TRANSLATE_NOOP("Ui", "Default"), QT_TRANSLATE_NOOP("Ui", "None"),
+                                   QT_TRANSLATE_NOOP("Ui", "Normal"), QT_TRANSLATE_NOOP("Ui", "Strong"),
+                                   QT_TRANSLATE_NOOP("Ui", "Heavy")});
     auto* form = new QFormLayout;
-    form->addRow(QStringLiteral("Show:"), m_show);
-    form->addRow(QStringLiteral("Size:"), m_size);
-    form->addRow(QStringLiteral("Keys:"), m_keys);
-    form->addRow(QStringLiteral("Color:"), m_color);
-    form->addRow(QStringLiteral("Active:"), m_active);
-    form->addRow(QStringLiteral("Shadow:"), m_shadow);
+    form->addRow(Ui::tr("Show:"), m_show);
+    form->addRow(Ui::tr("Size:"), m_size);
+    form->addRow(Ui::tr("Keys:"), m_keys);
+    form->addRow(Ui::tr("Color:"), m_color);
+    form->addRow(Ui::tr("Active:"), m_active);
+    form->addRow(Ui::tr("Shadow:"), m_shadow);
     return Page(form, this, [this] { KeyboardDefaults(); });
 }
 

@@ -14,6 +14,7 @@
 #include <string_view>
 
 #include "app/dialogs/money_chart_views.h"
+#include "app/dialogs/ui_text.h"
 #include "display/labels.h"
 #include "engine/function_ids.h"
 #include "engine/value_tags.h"
@@ -44,9 +45,11 @@ struct ListInfo {
     std::string_view anchor;
 };
 constexpr std::array kLists = {
-    ListInfo{"Time Value of Money", "tvm"},     ListInfo{"Amortization", "amortization"},
-    ListInfo{"Statistical Registers", "statistical"}, ListInfo{"Cash Flow Entries", "cashflow"},
-    ListInfo{"User Registers", "userregisters"},
+    ListInfo{QT_TRANSLATE_NOOP("Ui", "Time Value of Money"), "tvm"},
+    ListInfo{QT_TRANSLATE_NOOP("Ui", "Amortization"), "amortization"},
+    ListInfo{QT_TRANSLATE_NOOP("Ui", "Statistical Registers"), "statistical"},
+    ListInfo{QT_TRANSLATE_NOOP("Ui", "Cash Flow Entries"), "cashflow"},
+    ListInfo{QT_TRANSLATE_NOOP("Ui", "User Registers"), "userregisters"},
 };
 
 constexpr int kLabelColumn = 0;
@@ -81,7 +84,7 @@ public:
         }
         const FieldReading reading = ReadNumberField(m_view->m_session.engine(), edit->text(), m_view->KindAt(index.row(), index.column()));
         const QString label = m_view->m_table->item(index.row(), kLabelColumn)->text();
-        m_view->m_problem->setText(QStringLiteral("%1: %2 unchanged").arg(ToQString(reading.problem), label));
+        m_view->m_problem->setText(Ui::tr("%1: %2 unchanged").arg(MessageText(reading.problem), label));
         m_view->m_problem->show();
         m_refusedOnClose = true;
     }
@@ -114,14 +117,14 @@ RegisterView::RegisterView(Session& session, RegisterList list, const HelpFuncti
     : QDialog(parent), m_session(session), m_list(list), m_table(new QTableWidget(this)),
       m_problem(MakeProblemLine(this)) {
     const ListInfo& info = kLists[static_cast<std::size_t>(list)];
-    setWindowTitle(QString::fromUtf8(info.title));
-    m_table->setAccessibleName(QString::fromUtf8(info.title));
+    setWindowTitle(Ui::tr(info.title));
+    m_table->setAccessibleName(Ui::tr(info.title));
     // Tab and Shift+Tab go on to the buttons; the arrows move between the cells.
     m_table->setTabKeyNavigation(false);
     m_table->setColumnCount(list == RegisterList::Statistical || list == RegisterList::Amortization ? 2 : 3);
     m_table->horizontalHeader()->setVisible(list == RegisterList::CashFlow);
     if (list == RegisterList::CashFlow) {
-        m_table->setHorizontalHeaderLabels({QString(), QStringLiteral("Amount"), Label(label::GroupCount)});
+        m_table->setHorizontalHeaderLabels({QString(), Ui::tr("Amount"), Label(label::GroupCount)});
     }
     m_table->verticalHeader()->setVisible(false);
     m_table->horizontalHeader()->setSectionResizeMode(kValueColumn, QHeaderView::Stretch);
@@ -142,7 +145,7 @@ RegisterView::RegisterView(Session& session, RegisterList list, const HelpFuncti
     // Return closes the view; it never opens the schedule.
     buttons->button(QDialogButtonBox::Close)->setDefault(true);
     if (list == RegisterList::Amortization) {
-        QPushButton* schedule = buttons->addButton(QStringLiteral("Schedule..."), QDialogButtonBox::ActionRole);
+        QPushButton* schedule = buttons->addButton(Ui::tr("Schedule..."), QDialogButtonBox::ActionRole);
         schedule->setAutoDefault(false);
         connect(schedule, &QPushButton::clicked, this, &RegisterView::scheduleRequested);
     }
@@ -234,9 +237,9 @@ void RegisterView::Refresh() {
             tag->setFlags(Qt::ItemIsEnabled);
             m_table->setItem(i, kExtraColumn, tag);
         } else if (row.solveKey != kNoKey && !m_table->cellWidget(i, kExtraColumn)) {
-            auto* solve = new QPushButton(QStringLiteral("Solve"));
+            auto* solve = new QPushButton(Ui::tr("Solve"));
             solve->setAutoDefault(false);
-            solve->setAccessibleName(QStringLiteral("Solve ") + row.label);
+            solve->setAccessibleName(Ui::tr("Solve %1").arg(row.label));
             const FunctionId key = row.solveKey;
             connect(solve, &QPushButton::clicked, this, [this, key] { Solve(key); });
             m_table->setCellWidget(i, kExtraColumn, solve);
@@ -295,7 +298,7 @@ void RegisterView::Edited(int row, int column) {
     }
     Refresh();
     // Only text set from outside an editor gets here refused; it is said, not dropped silently.
-    m_problem->setText(reading.value ? QString() : ToQString(reading.problem));
+    m_problem->setText(reading.value ? QString() : MessageText(reading.problem));
     m_problem->setVisible(!reading.value);
     if (stored) emit changed();
 }

@@ -12,6 +12,7 @@
 #include <cmath>
 #include <string>
 
+#include "app/dialogs/ui_text.h"
 #include "engine/register_bank.h"
 
 namespace brinto::dialogs {
@@ -28,12 +29,12 @@ QTableWidgetItem* Cell(const QString& text) {
 
 ScheduleWindow::ScheduleWindow(const Engine& engine, const HelpFunction& help, QWidget* parent)
     : QDialog(parent), m_engine(engine), m_chart(new ScheduleChartView(this)), m_table(new QTableWidget(this)) {
-    setWindowTitle(QStringLiteral("Amortization Schedule"));
+    setWindowTitle(Ui::tr("Amortization Schedule"));
     m_table->setColumnCount(5);
-    m_table->setAccessibleName(QStringLiteral("Payments"));
+    m_table->setAccessibleName(Ui::tr("Payments"));
     m_table->setTabKeyNavigation(false);  // Tab goes on to the buttons
-    m_table->setHorizontalHeaderLabels({QStringLiteral("Year"), QStringLiteral("Payment"), QStringLiteral("Int"),
-                                        QStringLiteral("Prin"), QStringLiteral("Bal")});
+    m_table->setHorizontalHeaderLabels(
+        {Ui::tr("Year"), Ui::tr("Payment"), Ui::tr("Int"), Ui::tr("Prin"), Ui::tr("Bal")});
     m_table->verticalHeader()->setVisible(false);
     // Whole amounts, never elided: the columns take their widths, and the table scrolls across.
     m_table->setTextElideMode(Qt::ElideNone);
@@ -44,7 +45,7 @@ ScheduleWindow::ScheduleWindow(const Engine& engine, const HelpFunction& help, Q
     QDialogButtonBox* buttons = MakeButtonRow(this, QDialogButtonBox::Close, "schedule", help);
     // Return closes the window; it never asks for a file.
     buttons->button(QDialogButtonBox::Close)->setDefault(true);
-    QPushButton* exportCsv = buttons->addButton(QStringLiteral("Export CSV..."), QDialogButtonBox::ActionRole);
+    QPushButton* exportCsv = buttons->addButton(Ui::tr("Export CSV..."), QDialogButtonBox::ActionRole);
     exportCsv->setAutoDefault(false);
     connect(exportCsv, &QPushButton::clicked, this, [this] { AskAndExport(); });
     connect(m_table->verticalScrollBar(), &QScrollBar::valueChanged, this, [this] { FollowRows(); });
@@ -102,7 +103,7 @@ void ScheduleWindow::Refresh() {
         ++row;
         if (totals != m_schedule.years.end() && totals->lastPayment == payment.payment) {
             m_table->setItem(row, 0, Cell(QString::number(totals->year)));
-            m_table->setItem(row, 1, Cell(QStringLiteral("Total")));
+            m_table->setItem(row, 1, Cell(Ui::tr("Total")));
             m_table->setItem(row, 2, amount(totals->interest));
             m_table->setItem(row, 3, amount(totals->principal));
             m_table->setItem(row, 4, amount(totals->balance));
@@ -115,10 +116,11 @@ void ScheduleWindow::Refresh() {
     // A loan longer than the amortization keys reach is listed up to their last payment, and says so.
     const double periods = m_engine.registers.values[reg::N];
     const bool cutShort = periods >= kMostSchedulePayments + 1.0;
-    m_cutShort->setText(cutShort ? QStringLiteral("Listed up to payment %1 of %2: the amortization keys reach no further.")
-                                       .arg(DisplayNumber(m_engine, kMostSchedulePayments),
-                                            DisplayNumber(m_engine, std::trunc(periods)))
-                                 : QString());
+    m_cutShort->setText(cutShort
+                            ? Ui::tr("Listed up to payment %1 of %2: the amortization keys reach no further.")
+                                  .arg(DisplayNumber(m_engine, kMostSchedulePayments),
+                                       DisplayNumber(m_engine, std::trunc(periods)))
+                            : QString());
     m_cutShort->setVisible(cutShort);
     m_chart->SetChart(MakeScheduleChart(m_schedule, m_engine.registers.values[reg::PV], m_engine.prefs.CommaRadix()));
     FollowRows();
@@ -132,13 +134,12 @@ bool ScheduleWindow::ExportTo(const QString& path) const {
 }
 
 void ScheduleWindow::AskAndExport() {
-    const QString path = QFileDialog::getSaveFileName(this, QStringLiteral("Export CSV"),
-                                                      QStringLiteral("amortization.csv"),
-                                                      QStringLiteral("CSV files (*.csv)"));
+    const QString path = QFileDialog::getSaveFileName(
+        this, Ui::tr("Export CSV"), QStringLiteral("amortization.csv"), Ui::tr("CSV files (*.csv)"));
     if (path.isEmpty()) return;
     if (!ExportTo(path)) {
-        QMessageBox::warning(this, QStringLiteral("Export CSV"),
-                             QStringLiteral("The schedule could not be written to %1.").arg(path));
+        QMessageBox::warning(this, Ui::tr("Export CSV"),
+                             Ui::tr("The schedule could not be written to %1.").arg(path));
     }
 }
 

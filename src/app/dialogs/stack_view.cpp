@@ -9,6 +9,7 @@
 #include <algorithm>
 #include <array>
 
+#include "app/dialogs/ui_text.h"
 #include "display/display_text.h"
 #include "engine/function_ids.h"
 #include "session/key_legends.h"
@@ -59,19 +60,19 @@ protected:
 
 StackView::StackView(Session& session, const HelpFunction& help, QWidget* parent)
     : QDialog(parent), m_session(session), m_lines(new Lines(this)) {
-    setWindowTitle(QStringLiteral("Stack"));
+    setWindowTitle(Ui::tr("Stack"));
     setModal(false);
     m_lines->setSelectionMode(QAbstractItemView::NoSelection);
     m_lines->setItemDelegate(new LevelDelegate(m_lines));
     m_lines->setFocusPolicy(Qt::NoFocus);
-    m_lines->setAccessibleName(QStringLiteral("Stack levels"));
+    m_lines->setAccessibleName(Ui::tr("Stack levels"));
     m_lines->setSpacing(1);
     auto* keys = new QHBoxLayout;
     for (const FunctionId id : kStackKeys) {
         const KeyLegend* legend = FindLegend(id);
         auto* button = new QPushButton(legend ? ToQString(legend->legend) : QString(), this);
-        if (legend) button->setToolTip(ToQString(legend->fullName));
-        if (legend) button->setAccessibleName(ToQString(legend->fullName));
+        if (legend) button->setToolTip(KeyMeaningText(legend->fullName));
+        if (legend) button->setAccessibleName(KeyMeaningText(legend->fullName));
         button->setFixedHeight(30);
         button->setFocusPolicy(Qt::NoFocus);
         connect(button, &QPushButton::clicked, this, [this, id] { Press(id); });
