@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
 #include <QToolBar>
@@ -426,7 +427,22 @@ void MainWindow::ShowTape(bool shown) {
         connect(m_tape, &QDockWidget::visibilityChanged, m_tapeAction, &QAction::setChecked);
     }
     if (shown) m_tape->Reload();
+    // The tape brings room of its own: the window grows by it, as far as the screen allows, and
+    // gives it back when the tape goes, rather than squeezing the keys.
+    const bool beside = dockWidgetArea(m_tape) == Qt::RightDockWidgetArea || dockWidgetArea(m_tape) == Qt::LeftDockWidgetArea;
+    const bool plain = !isMaximized() && !isFullScreen();
+    if (shown && !m_tape->isVisible() && plain) {
+        const QSize before = size();
+        QSize grown = beside ? QSize(width() * 7 / 4, height()) : QSize(width(), height() * 3 / 2);
+        if (const QScreen* s = screen()) grown = grown.boundedTo(s->availableGeometry().size());
+        resize(grown);
+        m_tapeGrowth = size() - before;
+        resizeDocks({m_tape}, {beside ? m_tapeGrowth.width() : m_tapeGrowth.height()},
+                    beside ? Qt::Horizontal : Qt::Vertical);
+    }
     m_tape->setVisible(shown);
+    if (!shown && plain && !m_tapeGrowth.isEmpty()) resize(size() - m_tapeGrowth);
+    if (!shown) m_tapeGrowth = {};
     if (shown) m_tape->list()->setFocus();
 }
 

@@ -112,6 +112,7 @@ private:
     QLabel* m_saveFailure = nullptr;
     TapePanel* m_tape = nullptr;
     QAction* m_tapeAction = nullptr;
+    QSize m_tapeGrowth;  // what the window grew by when the tape was shown
     KeyFinder* m_finder = nullptr;
 };
 

@@ -7,8 +7,8 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMessageBox>
-#include <QPushButton>
 #include <QSaveFile>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -80,12 +80,14 @@ TapePanel::TapePanel(Session& session, SessionStore* store, QWidget* parent)
     connect(m_list, &QTreeWidget::itemDoubleClicked, this, [this] { RecallCurrent(); });
     layout->addWidget(m_list);
 
+    // Tool buttons: as narrow as their words, so the row fits under a calculator of the smallest width.
     auto* buttons = new QHBoxLayout;
     const auto button = [&](const QString& text, const QString& tip, auto&& what) {
-        auto* b = new QPushButton(text, body);
+        auto* b = new QToolButton(body);
+        b->setText(text);
         b->setToolTip(tip);
-        b->setAutoDefault(false);
-        connect(b, &QPushButton::clicked, this, what);
+        b->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+        connect(b, &QToolButton::clicked, this, what);
         buttons->addWidget(b);
     };
     button(Ui::tr("&Recall"), Ui::tr("Recall the selected result into X"), [this] { RecallCurrent(); });

@@ -329,8 +329,6 @@ bool SessionStore::ClearTape() {
 
 bool SessionStore::HadTrouble() const { return m_impl->loadReported || m_impl->anySaveFailed; }
 
-bool SessionStore::LastSaveFailed() const { return m_impl->saveFailed; }
-
 std::optional<std::vector<std::byte>> SessionStore::FrontEndSetting(std::string_view name) const {
     const auto wide = SettingName(name);
     if (!wide) return std::nullopt;

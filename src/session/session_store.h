@@ -100,9 +100,8 @@ public:
     void Finish();
     bool Finished() const;
 
-    // Whether any trouble was reported during this run, and whether the last save failed.
+    // Whether any trouble was reported during this run.
     bool HadTrouble() const;
-    bool LastSaveFailed() const;
 
     // A front end's own setting (the desktop program's window geometry), kept beside the
     // calculator's records; nothing when none is stored. Names are 1..32 ASCII characters, values

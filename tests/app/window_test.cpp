@@ -10,6 +10,8 @@
 #include <QGuiApplication>
 #include <QImage>
 #include <QMenuBar>
+#include <QStatusBar>
+#include <QLabel>
 #include <QTimer>
 #include <QTreeWidget>
 #include <charconv>
@@ -199,6 +201,21 @@ TEST(Window, MenuCommandsAndTheirMessages) {
     EXPECT_TRUE(desk.window.basicView()->isVisible());
     trigger("Advanced");
     EXPECT_TRUE(desk.window.keyboardView()->isVisible());
+}
+
+// A failed save shows a line on the window for as long as saves fail; the next save that gets
+// through takes it away. (While quitting, the caller tells instead of a box.)
+TEST(Window, FailedSavesShowALineUntilASaveGetsThrough) {
+    Desk desk;
+    desk.host.quitting = true;
+    desk.host.ReportSaveFailure("cannot save the calculator to /x (disk I/O error)");
+    auto* line = desk.window.findChild<QLabel*>(QStringLiteral("saveFailure"));
+    ASSERT_NE(line, nullptr);
+    EXPECT_TRUE(line->isVisibleTo(&desk.window));
+    EXPECT_TRUE(line->text().contains(QStringLiteral("disk I/O error")));
+    EXPECT_FALSE(line->accessibleName().isEmpty());
+    desk.host.SaveRecovered();
+    EXPECT_FALSE(desk.window.statusBar()->isVisibleTo(&desk.window));
 }
 
 // Quit ends the program, whatever other windows are open: the help viewer is a window of its own
