@@ -82,7 +82,8 @@ struct SessionStore::Impl : CommandObserver {
         return true;
     }
 
-    // Takes over `now` where this program kept the file's records as they were; an undoable step.
+    // Takes over `now` where this program kept the file's records as they were (an undoable step),
+    // and shows what others added to the tape.
     void TakeOver(const FileRecords& now) {
         Engine& e = engine();
         const EngineRecords before = e.Records();
@@ -93,6 +94,7 @@ struct SessionStore::Impl : CommandObserver {
             e.history.Commit(e.Records());
         }
         if (picked.Any()) session.host().PickedUp(picked.preferences);
+        NoticeTape();  // the others' tape lines, also when they came with no change of the records
     }
     // Whether another program saved since this one last looked; reading the counter is cheap.
     bool OthersSaved() {
@@ -105,7 +107,6 @@ struct SessionStore::Impl : CommandObserver {
         const FileRecords now = ReadFileRecords(store);
         if (store.Failed()) return false;  // read again at the next look
         TakeOver(now);
-        NoticeTape();
         return true;
     }
     // Tells the host when the tape in the file has lines it has not shown.

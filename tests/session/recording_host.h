@@ -24,6 +24,7 @@ public:
     InputMethodChoice answer;
     int asked = 0;
     int recovered = 0;
+    int tapeChanges = 0;
     std::vector<bool> pickedUp;  // whether each change taken over from another program had preferences
     FixedPlatform clock;
 
@@ -42,6 +43,7 @@ public:
     void ReportTrouble(std::string_view text) override { troubles.emplace_back(text); }
     void SaveRecovered() override { ++recovered; }
     void PickedUp(bool preferences) override { pickedUp.push_back(preferences); }
+    void TapeChanged() override { ++tapeChanges; }
     DateFields Now() const override { return clock.Now(); }
     std::string DateText(const DateFields& d, bool longForm) const override { return clock.DateText(d, longForm); }
     std::string TimeText(const DateFields& t) const override { return clock.TimeText(t); }

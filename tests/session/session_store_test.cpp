@@ -200,6 +200,11 @@ TEST_F(SessionStoreTest, TwoWindowsOnOneFileAreOneCalculator) {
     EXPECT_EQ(reader.engine.Y(), 11.0);
     EXPECT_EQ(reader.engine.registers.values[1], 10.0);
     EXPECT_EQ(reader.engine.registers.values[2], 20.0);
+    // A key that makes no tape line of its own still shows the lines the other one added.
+    const int shown = a.host.tapeChanges;
+    b.session.Special(SpecialKey::Enter);
+    a.session.CharacterKey('9');
+    EXPECT_GT(a.host.tapeChanges, shown);
 }
 
 TEST_F(SessionStoreTest, FrontEndSettingsTravelWithTheNextSave) {
