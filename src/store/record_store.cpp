@@ -37,6 +37,32 @@ int WaitWhileBusy(void*, int tries) {
 constexpr const char* kTableNames[2] = {"BrintoConfig", "BrintoState"};
 constexpr const char* kLogSuffixes[] = {"-wal", "-shm"};
 
+// How a database that may not be written is opened (see OpenOnce).
+constexpr int kAsItStands = SQLITE_OPEN_READONLY | SQLITE_OPEN_URI;
+
+// Whether this program may change the file at `path` and make files beside it.
+bool MayWrite(const std::string& path) {
+    const std::filesystem::path folder = std::filesystem::path(path).parent_path();
+    return access(path.c_str(), W_OK) == 0 && access(folder.empty() ? "." : folder.c_str(), W_OK) == 0;
+}
+
+// `path` as the path of a file: URI, with the characters a URI gives a meaning escaped.
+std::string UriPath(const std::string& path) {
+    static constexpr char kHex[] = "0123456789ABCDEF";
+    std::string uri;
+    for (const char c : path) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (c == '%' || c == '?' || c == '#' || byte < 0x20 || byte >= 0x7F) {
+            uri += '%';
+            uri += kHex[byte >> 4];
+            uri += kHex[byte & 15];
+        } else {
+            uri += c;
+        }
+    }
+    return uri;
+}
+
 constexpr const char* kCreateTape =
     "CREATE TABLE IF NOT EXISTS BrintoTape(id INTEGER PRIMARY KEY, time TEXT NOT NULL, keys TEXT NOT NULL,"
     " result TEXT NOT NULL, label TEXT NOT NULL, value REAL, tag INTEGER NOT NULL);";
@@ -171,9 +197,13 @@ OpenResult RecordStore::OpenOnce(const std::string& path, bool fullCheck) {
     for (std::size_t i = 0; i < std::size(kLogSuffixes); ++i) {
         had[i] = std::filesystem::exists(path + kLogSuffixes[i], ec);
     }
-    OpenResult result = OpenExisting(path, journal ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY)
-                            ? CheckBrinto(fullCheck)
-                            : OpenResult::Unavailable;
+    // A database that may not be written (the file or its folder write-protected) is read as it
+    // stands, without the log and shared-memory files SQLite would otherwise make beside it: in a
+    // write-protected folder it could not make them, and in another they would stay behind. Not
+    // when a log lies beside it, which may hold saves the file itself does not have yet.
+    const bool asItStands = !journal && !had[0] && !had[1] && !MayWrite(path);
+    const int judgeFlags = asItStands ? kAsItStands : journal ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY;
+    OpenResult result = OpenExisting(path, judgeFlags) ? CheckBrinto(fullCheck) : OpenResult::Unavailable;
     Close();
     if (result != OpenResult::Opened) {
         for (std::size_t i = 0; i < std::size(kLogSuffixes); ++i) {
@@ -181,7 +211,7 @@ OpenResult RecordStore::OpenOnce(const std::string& path, bool fullCheck) {
         }
         return result;
     }
-    if (!OpenExisting(path, SQLITE_OPEN_READWRITE)) {
+    if (!OpenExisting(path, asItStands ? kAsItStands : SQLITE_OPEN_READWRITE)) {
         Close();
         return OpenResult::Unavailable;
     }
@@ -289,7 +319,9 @@ void RecordStore::RepairCompanions(const std::string& path) {
 }
 
 bool RecordStore::OpenExisting(const std::string& path, int flags) {
-    if (sqlite3_open_v2(path.c_str(), &m_db, flags, nullptr) != SQLITE_OK) {
+    // Read as it stands: through a URI that says nobody changes the file while it is open.
+    const std::string name = flags == kAsItStands ? "file:" + UriPath(path) + "?immutable=1" : path;
+    if (sqlite3_open_v2(name.c_str(), &m_db, flags, nullptr) != SQLITE_OK) {
         Fail("cannot open " + path);
         return false;
     }

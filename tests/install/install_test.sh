@@ -111,8 +111,9 @@ elif command -v dpkg-buildpackage >/dev/null && command -v dh >/dev/null && comm
     <(dpkg-deb -c "$deb" | awk '!/^d/ {sub("^\\./", "", $6); print $6}' | sort) \
     || fail "the package's files differ from the installed ones"
   depends=$(dpkg-deb -f "$deb" Depends)
+  names=$(sed 's/ *([^)]*)//g; s/ *[,|] */\n/g' <<<"$depends")
   for library in libqt6widgets6 libqt6gui6 libqt6core6 libsqlite3-0 libedit2 libstdc++6 libc6; do
-    [[ $depends == *"$library "* ]] || fail "the package does not depend on $library: $depends"
+    grep -qxF "$library" <<<"$names" || fail "the package does not depend on $library: $depends"
   done
   lint=$(lintian --fail-on error "$deb" 2>&1) || fail "lintian: $lint"
   lint=$(grep -v 'with root privileges' <<<"$lint" || true)
