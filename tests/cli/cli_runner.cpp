@@ -1,5 +1,6 @@
 #include "cli_runner.h"
 
+#include <fcntl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -21,21 +22,25 @@ std::string ReadAll(int fd) {
 
 }  // namespace
 
-RunResult RunCli(const std::vector<std::string>& args, const std::string& input,
-                 const std::vector<std::string>& environment) {
+RunResult RunProgram(const std::vector<std::string>& argv, const std::string& input,
+              const std::vector<std::string>& environment, const std::string& outputFile) {
     int in[2], out[2], err[2];
     if (pipe(in) || pipe(out) || pipe(err)) return {};
     const pid_t pid = fork();
     if (pid == 0) {
         dup2(in[0], 0), dup2(out[1], 1), dup2(err[1], 2);
         for (int fd : {in[0], in[1], out[0], out[1], err[0], err[1]}) close(fd);
+        if (!outputFile.empty()) {
+            const int file = open(outputFile.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+            if (file < 0 || dup2(file, 1) < 0) _exit(126);
+            close(file);
+        }
         setenv("LC_ALL", "C", 1);  // dates in the transcripts are written the C library's way
         for (const std::string& setting : environment) putenv(const_cast<char*>(setting.c_str()));
-        std::vector<char*> argv;
-        argv.push_back(const_cast<char*>(BRINTO_CLI_PATH));
-        for (const std::string& a : args) argv.push_back(const_cast<char*>(a.c_str()));
-        argv.push_back(nullptr);
-        execv(BRINTO_CLI_PATH, argv.data());
+        std::vector<char*> args;
+        for (const std::string& a : argv) args.push_back(const_cast<char*>(a.c_str()));
+        args.push_back(nullptr);
+        execv(args[0], args.data());
         _exit(127);
     }
     close(in[0]), close(out[1]), close(err[1]);
@@ -50,6 +55,13 @@ RunResult RunCli(const std::vector<std::string>& args, const std::string& input,
     waitpid(pid, &status, 0);
     result.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
     return result;
+}
+
+RunResult RunCli(const std::vector<std::string>& args, const std::string& input,
+                 const std::vector<std::string>& environment, const std::string& outputFile) {
+    std::vector<std::string> argv = {BRINTO_CLI_PATH};
+    argv.insert(argv.end(), args.begin(), args.end());
+    return RunProgram(argv, input, environment, outputFile);
 }
 
 std::optional<Json> ParseJson(const std::string& text) {
