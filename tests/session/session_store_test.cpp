@@ -242,14 +242,16 @@ TEST_F(SessionStoreTest, AFirstRunTakesOverTheExportBesideTheSettings) {
     }
 }
 
-// A database the user may not write, a write-protected file or one in a write-protected folder:
-// the user is told once that nothing will be saved, the run goes on in memory without the first
-// run's question, and the folder stays byte for byte as it was. Mode bits do not stop root, so as root the run happens
+// A database the user may not write (a write-protected file, or one in a write-protected folder)
+// or not even read is trouble, not damage: the user is told once that nothing will be saved, the
+// run goes on in memory without the first run's question, and the folder stays byte for byte as
+// it was. Mode bits do not stop root, so as root the run happens
 // in a child that has given up its rights, and it writes what it saw to a pipe.
-TEST_F(SessionStoreTest, AReadOnlyDatabaseIsUsedAndLeftAsItWas) {
+TEST_F(SessionStoreTest, ADatabaseThatMayNotBeWrittenIsLeftAsItWas) {
     const std::tuple<const char*, std::filesystem::perms, std::filesystem::perms> cases[] = {  // file, folder
         {"a write-protected file", std::filesystem::perms(0444), std::filesystem::perms(0755)},
         {"a write-protected folder", std::filesystem::perms(0666), std::filesystem::perms(0555)},
+        {"a file that may not be read", std::filesystem::perms::none, std::filesystem::perms(0755)},
     };
     std::filesystem::permissions(folder.path(), std::filesystem::perms(0755));
     for (const auto& [name, file, shelf] : cases) {
