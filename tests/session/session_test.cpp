@@ -234,45 +234,52 @@ TEST(Session, BlockKeysFollowTheShiftAndRemap) {
     EXPECT_EQ(f.session.Remap(fid::Add), fid::IntegerAdd);
 }
 
-TEST(Session, CopyCutAndPaste) {
+// A paste completes the number being typed, or is a number of its own: the text counts from its
+// first decimal digit, in the radix the preferences choose and the base chosen. A copy is the
+// number without grouping or a trailing point; an error copies nothing.
+TEST(Session, PasteTakesTheFirstNumberAndCopyTheBareValue) {
+    struct Case {
+        const char* typed;
+        const char* pasted;
+        bool commaRadix, hex;
+        double x, y;
+    };
+    const Case cases[] = {
+        {"12", "5", false, false, 5.0, 12.0},
+        {"12+", "abc42", false, false, 42.0, 12.0},
+        {"", "-3", false, false, 3.0, 0.0},
+        {"", "7,25e1 and more", true, false, 72.5, 0.0},
+        {"8", "no digits", false, false, 8.0, 0.0},
+        {"", "x1f", false, true, 31.0, 0.0},
+        {"", "9 apples", false, true, 9.0, 0.0},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.pasted);
+        Fixture f;
+        f.engine.prefs.SetCommaRadix(c.commaRadix);
+        if (c.hex) {
+            f.session.SelectKeyboard(kProgrammerKeyboard);
+            f.session.Tap(fid::BaseHex);
+        }
+        f.Type(c.typed);
+        f.session.PasteText(c.pasted);
+        EXPECT_EQ(std::pair(f.engine.X(), f.engine.Y()), std::pair(c.x, c.y));
+        EXPECT_EQ(f.engine.XTag() == ValueTag::S32, c.hex);  // pasted in a base: the default format, s32
+    }
     Fixture f;
-    f.Type("12");
-    f.session.PasteText("5");  // completes the number being typed
-    EXPECT_EQ(std::pair(f.engine.X(), f.engine.Y()), std::pair(5.0, 12.0));
-    f.Type("+");
-    EXPECT_EQ(f.engine.X(), 17.0);
     f.Type("1234.5");
     f.session.Tap(fid::Enter);
     f.session.Copy();
-    EXPECT_EQ(f.host.clipboard, "1234.5");  // no grouping, no trailing point
+    EXPECT_EQ(f.host.clipboard, "1234.5");
     f.engine.prefs.SetCommaRadix(true);
     f.session.Cut();
     EXPECT_EQ(f.host.clipboard, "1234,5");
     EXPECT_EQ(f.engine.X(), 1234.5);  // the cut dropped the copy left by Enter
-
-    f.session.PasteText("abc42");
-    EXPECT_EQ(f.engine.X(), 42.0);
-    EXPECT_EQ(f.engine.Y(), 1234.5);
-    f.session.PasteText("-3");
-    EXPECT_EQ(f.engine.X(), 3.0);
-    f.session.PasteText("7,25e1 and more");
-    EXPECT_EQ(f.engine.X(), 72.5);
-    f.session.PasteText("no digits");
-    EXPECT_EQ(f.engine.X(), 72.5);
-
     f.host.clipboard.reset();
     f.Type("0/");
     ASSERT_TRUE(IsErrorValue(f.engine.X()));
-    f.session.Copy();  // an error copies nothing
+    f.session.Copy();
     EXPECT_FALSE(f.host.clipboard.has_value());
-
-    f.session.SelectKeyboard(kProgrammerKeyboard);
-    f.session.Tap(fid::BaseHex);
-    f.session.PasteText("x1f");  // the text counts from its first decimal digit
-    EXPECT_EQ(f.engine.X(), 31.0);
-    EXPECT_EQ(f.engine.XTag(), ValueTag::S32);  // the default format, s32
-    f.session.PasteText("9 apples");  // one digit is a number too
-    EXPECT_EQ(f.engine.X(), 9.0);
 }
 
 // The "Preferences" sheet's OK sends the input method's key exactly once, changed or not: a
