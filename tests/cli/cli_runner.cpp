@@ -4,7 +4,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <cctype>
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 
@@ -71,23 +71,10 @@ std::optional<Json> ParseJson(const std::string& text) {
 }
 
 const Json* Find(const Json& json, const std::string& path) {
-    const Json* node = &json;
-    std::size_t start = 0;
-    while (node) {
-        const std::size_t dot = path.find('.', start);
-        const std::string part = path.substr(start, dot == std::string::npos ? std::string::npos : dot - start);
-        if (node->is_array() && !part.empty() && std::isdigit(static_cast<unsigned char>(part[0]))) {
-            const std::size_t index = std::stoul(part);
-            node = index < node->size() ? &(*node)[index] : nullptr;
-        } else if (node->is_object() && node->contains(part)) {
-            node = &(*node)[part];
-        } else {
-            node = nullptr;
-        }
-        if (dot == std::string::npos) break;
-        start = dot + 1;
-    }
-    return node;
+    std::string pointer = "/" + path;
+    std::replace(pointer.begin(), pointer.end(), '.', '/');
+    const Json::json_pointer at(pointer);
+    return json.contains(at) ? &json.at(at) : nullptr;
 }
 
 std::string Compact(const Json& value) { return value.is_string() ? value.get<std::string>() : value.dump(); }
