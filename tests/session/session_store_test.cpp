@@ -40,25 +40,8 @@ protected:
     std::filesystem::path db = folder / "calc.db";
 };
 
-TEST_F(SessionStoreTest, AFirstRunAsksOnceAndKeepsTheAnswer) {
-    {
-        FrontEnd first(InputMethod::Rpn);
-        first.host.answer.openPreferences = true;
-        const StartOutcome outcome = first.store.Start(StoreLocation::File(db));
-        EXPECT_TRUE(outcome.firstRun && outcome.openPreferences && !outcome.trouble);
-        EXPECT_EQ(first.host.asked, 1);
-        // The dialog's OK switches the preferences and the running engine together.
-        EXPECT_EQ(first.engine.prefs.Method(), InputMethod::Rpn);
-        EXPECT_TRUE(first.engine.IsRpn());
-        EXPECT_TRUE(first.store.Save());
-    }
-    FrontEnd second;
-    const StartOutcome outcome = second.store.Start(StoreLocation::File(db));
-    EXPECT_FALSE(outcome.firstRun || outcome.openPreferences || outcome.trouble);
-    EXPECT_EQ(second.host.asked, 0);
-    EXPECT_TRUE(second.engine.IsRpn());
-
-    // The default location is made with its folder; memory touches nothing.
+// The default location is made with its folder; memory touches nothing.
+TEST_F(SessionStoreTest, TheDefaultLocationIsMadeAndMemoryTouchesNothing) {
     FrontEnd atDefault;
     EXPECT_TRUE(atDefault.store.Start(StoreLocation::Default()).firstRun);
     EXPECT_TRUE(atDefault.store.Save());
@@ -205,10 +188,11 @@ TEST_F(SessionStoreTest, WorkNotYetSavedIsNotOverwrittenByOthers) {
     EXPECT_EQ(std::pair(reader.engine.registers.values[1], reader.engine.registers.values[2]), std::pair(10.0, 0.0));
 }
 
-// A first run takes over the handheld release's export beside the settings, as one whole or not
-// at all (the store's tests read every kind of broken export); a calculator already saved, or a
-// file in trouble, is never overwritten by it.
-TEST_F(SessionStoreTest, AFirstRunTakesOverTheExportBesideTheSettings) {
+// A first run asks for the input method, once, and keeps the answer; it takes over the handheld
+// release's export beside the settings instead, as one whole or not at all (the store's tests read
+// every kind of broken export). A calculator already saved, or a file in trouble, is never
+// overwritten by the export, and no question is asked.
+TEST_F(SessionStoreTest, AFirstRunAsksOrTakesOverTheExportBesideTheSettings) {
     const std::string rpnExport = "REGEDIT4\r\n[HKEY_CURRENT_USER\\Software\\ZEB\\Brinto]\r\n"
                                   "\"saved_0\"=hex:06,00,01,00,08\r\n";  // RPN, stack depth 8
     ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
@@ -222,14 +206,15 @@ TEST_F(SessionStoreTest, AFirstRunTakesOverTheExportBesideTheSettings) {
         std::optional<std::string> exported;
         std::filesystem::path database;
         bool asked, rpn;
+        int depth;
         const char* notice;
     };
-    const Case cases[] = {
-        {"an export", rpnExport, db, false, true, nullptr},
-        {"no export", std::nullopt, db, true, false, nullptr},
-        {"a broken export", "REGEDIT4\r\n", db, true, false, "legacy settings not imported: "},
-        {"a calculator already saved", rpnExport, folder / "saved.db", false, false, nullptr},
-        {"a file in trouble", rpnExport, folder / "pipe", false, false, nullptr},
+    const Case cases[] = {  // the question is answered with RPN
+        {"no export", std::nullopt, db, true, true, 4, nullptr},
+        {"an export", rpnExport, db, false, true, 8, nullptr},
+        {"a broken export", "REGEDIT4\r\n", db, true, true, 4, "legacy settings not imported: "},
+        {"a calculator already saved", rpnExport, folder / "saved.db", false, false, 4, nullptr},
+        {"a file in trouble", rpnExport, folder / "pipe", false, false, 4, nullptr},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
@@ -240,21 +225,25 @@ TEST_F(SessionStoreTest, AFirstRunTakesOverTheExportBesideTheSettings) {
             WriteFile(folder / "config" / "brinto" / "Brinto.reg", *c.exported);
         }
         {
-            FrontEnd run;
+            FrontEnd run(InputMethod::Rpn);
+            run.host.answer.openPreferences = true;
             const StartOutcome outcome = run.store.Start(StoreLocation::File(c.database));
-            EXPECT_EQ(run.host.asked, c.asked ? 1 : 0);
-            EXPECT_EQ(run.engine.IsRpn(), c.rpn);
+            EXPECT_EQ(std::tuple(outcome.firstRun, outcome.openPreferences, run.host.asked),
+                      std::tuple(c.asked, c.asked, c.asked ? 1 : 0));
+            // The dialog's OK switches the preferences and the running engine together.
+            EXPECT_EQ(std::pair(run.engine.prefs.Method() == InputMethod::Rpn, run.engine.IsRpn()),
+                      std::pair(c.rpn, c.rpn));
             ASSERT_EQ(outcome.notices.size(), c.notice ? 1u : 0u);
             if (c.notice) {
                 EXPECT_TRUE(outcome.notices[0].starts_with(c.notice)) << outcome.notices[0];
             }
             EXPECT_TRUE(run.store.Save());
         }
-        FrontEnd again;  // what was taken over was kept, and the export is not read twice
+        FrontEnd again;  // what was chosen or taken over was kept, and neither is asked or read twice
         WriteFile(folder / "config" / "brinto" / "Brinto.reg", "garbage");
         EXPECT_TRUE(again.store.Start(StoreLocation::File(c.database)).notices.empty());
-        EXPECT_EQ(again.engine.IsRpn(), c.rpn);
-        EXPECT_EQ(again.engine.prefs.StackDepth(), c.rpn ? 8 : 4);
+        EXPECT_EQ(again.host.asked, 0);
+        EXPECT_EQ(std::pair(again.engine.IsRpn(), again.engine.prefs.StackDepth()), std::pair(c.rpn, c.depth));
     }
 }
 
