@@ -300,6 +300,7 @@ TEST_F(SessionStoreTest, ADatabaseThatMayNotBeWrittenIsLeftAsItWas) {
         EXPECT_EQ(seen.substr(0, 4), "101\n") << seen;
         EXPECT_EQ(std::count(seen.begin(), seen.end(), '\n'), 2) << seen;
         EXPECT_TRUE(seen.ends_with("; the calculator runs in memory and nothing will be saved\n")) << seen;
+        EXPECT_EQ(seen.find("damaged"), std::string::npos) << seen;  // trouble is never called damage
         EXPECT_TRUE(test::Snapshot(folder / "shelf") == before) << test::Snapshot(folder / "shelf").substr(0, 300);
         std::filesystem::permissions(folder / "shelf", std::filesystem::perms(0755));
         std::filesystem::permissions(path, std::filesystem::perms(0644));
