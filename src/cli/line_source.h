@@ -32,7 +32,8 @@ private:
     std::ostream& m_prompt;
 };
 
-// Lines typed at the terminal on standard input, with line editing and history.
+// Lines typed at the terminal on standard input, with line editing and history (plain lines where
+// the line editor's library is missing).
 std::unique_ptr<LineSource> TerminalLines();
 
 }  // namespace brinto

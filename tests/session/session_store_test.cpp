@@ -171,23 +171,6 @@ TEST_F(SessionStoreTest, TwoWindowsOnOneFileAreOneCalculator) {
     EXPECT_GT(a.host.tapeChanges, shown);
 }
 
-// What another program saved is taken over only where this one has no change of its own that is
-// not saved yet: a record both changed keeps the version saved last.
-TEST_F(SessionStoreTest, WorkNotYetSavedIsNotOverwrittenByOthers) {
-    FrontEnd a, b;
-    a.store.Start(StoreLocation::File(db));
-    b.store.Start(StoreLocation::File(db));
-    a.session.StoreRegister(1, 10.0);  // not saved yet
-    b.session.StoreRegister(2, 20.0);
-    ASSERT_TRUE(b.store.Save());
-    a.store.Refresh();
-    EXPECT_EQ(a.engine.registers.values[1], 10.0);
-    ASSERT_TRUE(a.store.Save());
-    FrontEnd reader;
-    reader.store.Start(StoreLocation::File(db));
-    EXPECT_EQ(std::pair(reader.engine.registers.values[1], reader.engine.registers.values[2]), std::pair(10.0, 0.0));
-}
-
 // A first run asks for the input method, once, and keeps the answer; it takes over the handheld
 // release's export beside the settings instead, as one whole or not at all (the store's tests read
 // every kind of broken export). A calculator already saved, or a file in trouble, is never

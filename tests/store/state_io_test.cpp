@@ -250,5 +250,23 @@ TEST_F(StateIoTest, UndoHistoryStartsAfreshFromTheLoadedRecords) {
     EXPECT_EQ(e.X(), 5.0);  // back to the loaded state, not to the engine's old one
 }
 
+// A record another program saved is taken over only where this program kept it as it was when it
+// last looked; one changed here meanwhile (its save failed, say) is kept, and the next save writes it.
+TEST_F(StateIoTest, TakingOverKeepsWhatThisProgramChangedSinceItLastLooked) {
+    FileRecords file = ImagesOf(e, keys);
+    const FileRecords base = file;
+    Engine other;
+    other.registers.values[0] = 7.0;
+    other.SetX(8.0);
+    const FileRecords now = ImagesOf(other, keys);
+    e.registers.values[1] = 3.0;
+    const PickedUp picked = PickUp(e, keys, file, base, now);
+    EXPECT_EQ(e.X(), 8.0);
+    EXPECT_EQ(e.registers.values[0], 0.0);
+    EXPECT_EQ(e.registers.values[1], 3.0);
+    EXPECT_TRUE(picked.engineRecords && !picked.preferences && !picked.userKeys);
+    EXPECT_EQ(file.images, now.images);
+}
+
 }  // namespace
 }  // namespace brinto::test
