@@ -1,8 +1,11 @@
 #pragma once
-// A temporary folder that cleans up after itself, whole-file reads and writes, and a snapshot of
-// a folder.
+// A temporary folder that cleans up after itself, whole-file reads and writes, a snapshot of a
+// folder, and a full disk.
 #include <gtest/gtest.h>
 #include <stdlib.h>
+#include <sys/resource.h>
+
+#include <csignal>
 
 #include <algorithm>
 #include <filesystem>
@@ -68,5 +71,27 @@ inline std::string Snapshot(const std::filesystem::path& folder) {
     }
     return all;
 }
+
+// Writes fail as on a full disk while the limit holds, in this process and the ones it starts.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t bytes) {
+        m_signal = std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &m_saved);
+        rlimit limit = m_saved;
+        limit.rlim_cur = bytes;
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() {
+        setrlimit(RLIMIT_FSIZE, &m_saved);
+        std::signal(SIGXFSZ, m_signal);
+    }
+    FileSizeLimit(const FileSizeLimit&) = delete;
+    FileSizeLimit& operator=(const FileSizeLimit&) = delete;
+
+private:
+    rlimit m_saved{};
+    void (*m_signal)(int) = nullptr;
+};
 
 }  // namespace brinto::test

@@ -1,9 +1,10 @@
 #include "cli_runner.h"
 
+#include <fcntl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <cctype>
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 
@@ -21,21 +22,25 @@ std::string ReadAll(int fd) {
 
 }  // namespace
 
-RunResult RunCli(const std::vector<std::string>& args, const std::string& input,
-                 const std::vector<std::string>& environment) {
+RunResult RunProgram(const std::vector<std::string>& argv, const std::string& input,
+              const std::vector<std::string>& environment, const std::string& outputFile) {
     int in[2], out[2], err[2];
     if (pipe(in) || pipe(out) || pipe(err)) return {};
     const pid_t pid = fork();
     if (pid == 0) {
         dup2(in[0], 0), dup2(out[1], 1), dup2(err[1], 2);
         for (int fd : {in[0], in[1], out[0], out[1], err[0], err[1]}) close(fd);
+        if (!outputFile.empty()) {
+            const int file = open(outputFile.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+            if (file < 0 || dup2(file, 1) < 0) _exit(126);
+            close(file);
+        }
         setenv("LC_ALL", "C", 1);  // dates in the transcripts are written the C library's way
         for (const std::string& setting : environment) putenv(const_cast<char*>(setting.c_str()));
-        std::vector<char*> argv;
-        argv.push_back(const_cast<char*>(BRINTO_CLI_PATH));
-        for (const std::string& a : args) argv.push_back(const_cast<char*>(a.c_str()));
-        argv.push_back(nullptr);
-        execv(BRINTO_CLI_PATH, argv.data());
+        std::vector<char*> args;
+        for (const std::string& a : argv) args.push_back(const_cast<char*>(a.c_str()));
+        args.push_back(nullptr);
+        execv(args[0], args.data());
         _exit(127);
     }
     close(in[0]), close(out[1]), close(err[1]);
@@ -52,6 +57,13 @@ RunResult RunCli(const std::vector<std::string>& args, const std::string& input,
     return result;
 }
 
+RunResult RunCli(const std::vector<std::string>& args, const std::string& input,
+                 const std::vector<std::string>& environment, const std::string& outputFile) {
+    std::vector<std::string> argv = {BRINTO_CLI_PATH};
+    argv.insert(argv.end(), args.begin(), args.end());
+    return RunProgram(argv, input, environment, outputFile);
+}
+
 std::optional<Json> ParseJson(const std::string& text) {
     Json json = Json::parse(text, nullptr, false);
     if (json.is_discarded()) return std::nullopt;
@@ -59,23 +71,10 @@ std::optional<Json> ParseJson(const std::string& text) {
 }
 
 const Json* Find(const Json& json, const std::string& path) {
-    const Json* node = &json;
-    std::size_t start = 0;
-    while (node) {
-        const std::size_t dot = path.find('.', start);
-        const std::string part = path.substr(start, dot == std::string::npos ? std::string::npos : dot - start);
-        if (node->is_array() && !part.empty() && std::isdigit(static_cast<unsigned char>(part[0]))) {
-            const std::size_t index = std::stoul(part);
-            node = index < node->size() ? &(*node)[index] : nullptr;
-        } else if (node->is_object() && node->contains(part)) {
-            node = &(*node)[part];
-        } else {
-            node = nullptr;
-        }
-        if (dot == std::string::npos) break;
-        start = dot + 1;
-    }
-    return node;
+    std::string pointer = "/" + path;
+    std::replace(pointer.begin(), pointer.end(), '.', '/');
+    const Json::json_pointer at(pointer);
+    return json.contains(at) ? &json.at(at) : nullptr;
 }
 
 std::string Compact(const Json& value) { return value.is_string() ? value.get<std::string>() : value.dump(); }

@@ -1,5 +1,6 @@
 #pragma once
-// Runs brinto-cli as a child process and reads back its output, and reads its --json report.
+// The one way the tests start brinto-cli (or a shell line that runs it), and reading its --json
+// report.
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
@@ -13,9 +14,14 @@ struct RunResult {
     std::string err;
 };
 
-// In the C locale unless `environment` says otherwise ("LC_ALL=fr_FR.UTF-8").
+// Runs `argv` (a program and its arguments) in the C locale with `environment` added to this
+// process's ("LC_ALL=fr_FR.UTF-8"), `input` on its standard input; standard output goes to
+// `outputFile` instead of being read back when one is named.
+RunResult RunProgram(const std::vector<std::string>& argv, const std::string& input = "",
+              const std::vector<std::string>& environment = {}, const std::string& outputFile = "");
+// Runs brinto-cli with `args`, as RunProgram.
 RunResult RunCli(const std::vector<std::string>& args, const std::string& input = "",
-                 const std::vector<std::string>& environment = {});
+                 const std::vector<std::string>& environment = {}, const std::string& outputFile = "");
 
 // The JSON report, read with the same library that writes it; nothing when it is no JSON.
 using Json = nlohmann::ordered_json;

@@ -85,32 +85,5 @@ TEST(Keypad, EachFaceAppearsOnceOnTheSharedKeypad) {
     EXPECT_EQ(SharedKeypad().size(), 5u);
 }
 
-TEST(Keypad, BasicKeysEndWithEqualsOrEnterByMethod) {
-    struct Case {
-        InputMethod method;
-        FunctionId completes;
-        FunctionId absent;
-    };
-    const Case cases[] = {
-        {InputMethod::Simple, fid::Equals, fid::Enter},
-        {InputMethod::Precedence, fid::Equals, fid::Enter},
-        {InputMethod::Rpn, fid::Enter, fid::Equals},
-    };
-    const std::vector<FunctionId> required = {fid::Digit0,    fid::Digit1,     fid::Digit2, fid::Digit3,
-                                              fid::Digit4,    fid::Digit5,     fid::Digit6, fid::Digit7,
-                                              fid::Digit8,    fid::Digit9,     fid::Point,  fid::Add,
-                                              fid::Subtract,  fid::Multiply,   fid::Divide, fid::ChangeSign,
-                                              fid::Backspace, fid::ClearStack, fid::Percent};
-    for (const Case& c : cases) {
-        SCOPED_TRACE(static_cast<int>(c.method));
-        std::multiset<FunctionId> keys;
-        for (const BasicRow& row : BasicKeys(c.method)) keys.insert(row.begin(), row.end());
-        for (const FunctionId id : required) EXPECT_EQ(keys.count(id), 1u) << ToNumber(id);
-        EXPECT_EQ(keys.count(c.completes), 1u);
-        EXPECT_EQ(keys.count(c.absent), 0u);
-        EXPECT_EQ(keys.size(), required.size() + 1);
-    }
-}
-
 }  // namespace
 }  // namespace brinto

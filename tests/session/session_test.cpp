@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -120,22 +121,81 @@ TEST(Session, UndoSelectsTheRestoredKeyboardAndKeepsTheLastCommand) {
     EXPECT_EQ(f.engine.state.lastCommand, fid::Enter);
 }
 
-TEST(Session, HardwareKeys) {
-    Fixture f;
-    f.Type("12+");  // in RPN, "+" adds 12 to Y
-    f.Type("3e2");
-    EXPECT_EQ(f.engine.X(), 300.0);
-    f.session.Special(SpecialKey::Enter);  // the Action button: Enter in RPN
-    f.Type("*");
-    EXPECT_EQ(f.engine.X(), 90000.0);
-    f.Type("q");
-    EXPECT_EQ(f.host.beeps, 1);
-    f.Type("A");  // a hexadecimal digit off the programmer keyboard is rejected
-    EXPECT_EQ(f.host.beeps, 2);
-    f.session.SelectKeyboard(kProgrammerKeyboard);
-    f.session.Tap(fid::BaseHex);
-    f.Type("1E");  // E is a digit here, not the exponent
-    EXPECT_EQ(f.engine.X(), 30.0);
+// The main window's typed characters: each is the key of the hardware-key table, remapped as a
+// tapped key is (integer and register variants); "E" is a hexadecimal digit while a base is chosen. The key dispatched is the one a macro being recorded keeps.
+TEST(Session, TypedCharactersAreTheirKeys) {
+    struct Case {
+        char typed;
+        bool hex;  // on the Programmer keyboard, base 16
+        FunctionId key;
+    };
+    const Case cases[] = {
+        {'0', false, fid::Digit0}, {'9', false, fid::Digit9},     {'.', false, fid::Point},
+        {',', false, fid::Point},  {'=', false, fid::Equals},     {'+', false, fid::Add},
+        {'-', false, fid::Subtract}, {'*', false, fid::Multiply}, {'x', false, fid::Multiply},
+        {'X', false, fid::Multiply}, {'/', false, fid::Divide},   {'%', false, fid::Percent},
+        {'(', false, fid::OpenParen}, {')', false, fid::CloseParen}, {'S', false, fid::Recall},
+        {'s', false, fid::Recall}, {'R', false, fid::Exchange},   {'r', false, fid::Exchange},
+        {'e', false, fid::Exponent}, {'E', false, fid::Exponent}, {'a', true, DigitKey(10)},
+        {'A', true, DigitKey(10)}, {'f', true, DigitKey(15)},    {'F', true, DigitKey(15)},
+        {'e', true, DigitKey(14)}, {'E', true, DigitKey(14)},    {'+', true, fid::Add},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(std::string(1, c.typed) + (c.hex ? " in base 16" : ""));
+        Fixture f;
+        f.engine.prefs.SetMethod(InputMethod::Precedence);
+        f.engine.ClearStack();
+        f.Type("1+2");  // a number and a pending operation for every key to act on
+        if (c.hex) {
+            f.session.SelectKeyboard(kProgrammerKeyboard);
+            f.session.Tap(fid::BaseHex);
+        }
+        f.session.Tap(fid::MacroRecord);
+        const int recorded = f.engine.macro.macroLength;
+        EXPECT_TRUE(f.session.CharacterKey(static_cast<unsigned char>(c.typed)));
+        ASSERT_EQ(f.engine.macro.macroLength, recorded + 1);
+        EXPECT_EQ(f.engine.macro.macroKeys[recorded], f.session.Remap(c.key));
+        EXPECT_EQ(f.host.beeps, 0);
+    }
+}
+
+// The control characters are the Edit menu's commands, Enter the Action button; a character that
+// is no key, or a key the calculator refuses, beeps.
+TEST(Session, ControlCharactersAreCommandsAndOthersBeep) {
+    struct Case {
+        const char* typed;
+        std::optional<std::string> clipboard;  // before
+        double x;
+        std::optional<std::string> clipboardAfter;
+        int beeps;
+    };
+    const Case cases[] = {
+        {"12\x03", std::nullopt, 12.0, "12", 0},   // Ctrl+C copies
+        {"7+12\x18", std::nullopt, 7.0, "12", 0},  // Ctrl+X cuts
+        {"2+\x16=", "40", 42.0, "40", 0},          // Ctrl+V pastes
+        {"2+3=\x1A", std::nullopt, 3.0, std::nullopt, 0},      // Ctrl+Z undoes
+        {"2+3=\x1A\x19", std::nullopt, 5.0, std::nullopt, 0},  // Ctrl+Y redoes
+        {"2*3\r", std::nullopt, 6.0, std::nullopt, 0},         // Enter: "=" outside RPN
+        {"12\b", std::nullopt, 1.0, std::nullopt, 0},
+        {"2+3\x7F", std::nullopt, 0.0, std::nullopt, 0},       // Delete clears the stack
+        {"4q", std::nullopt, 4.0, std::nullopt, 1},
+        {"4A", std::nullopt, 4.0, std::nullopt, 1},  // a hexadecimal digit in base 10
+        {"4\x01", std::nullopt, 4.0, std::nullopt, 1},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.typed);
+        Fixture f;
+        f.engine.prefs.SetMethod(InputMethod::Precedence);
+        f.engine.ClearStack();
+        f.host.clipboard = c.clipboard;
+        f.Type(c.typed);
+        EXPECT_EQ(f.engine.X(), c.x);
+        EXPECT_EQ(f.host.clipboard, c.clipboardAfter);
+        EXPECT_EQ(f.host.beeps, c.beeps);
+    }
+    Fixture rpn;  // Enter is ENTER in RPN
+    rpn.Type("3\r4*");
+    EXPECT_EQ(rpn.engine.X(), 12.0);
 }
 
 TEST(Session, ActionButtonChoices) {
@@ -174,45 +234,52 @@ TEST(Session, BlockKeysFollowTheShiftAndRemap) {
     EXPECT_EQ(f.session.Remap(fid::Add), fid::IntegerAdd);
 }
 
-TEST(Session, CopyCutAndPaste) {
+// A paste completes the number being typed, or is a number of its own: the text counts from its
+// first decimal digit, in the radix the preferences choose and the base chosen. A copy is the
+// number without grouping or a trailing point; an error copies nothing.
+TEST(Session, PasteTakesTheFirstNumberAndCopyTheBareValue) {
+    struct Case {
+        const char* typed;
+        const char* pasted;
+        bool commaRadix, hex;
+        double x, y;
+    };
+    const Case cases[] = {
+        {"12", "5", false, false, 5.0, 12.0},
+        {"12+", "abc42", false, false, 42.0, 12.0},
+        {"", "-3", false, false, 3.0, 0.0},
+        {"", "7,25e1 and more", true, false, 72.5, 0.0},
+        {"8", "no digits", false, false, 8.0, 0.0},
+        {"", "x1f", false, true, 31.0, 0.0},
+        {"", "9 apples", false, true, 9.0, 0.0},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.pasted);
+        Fixture f;
+        f.engine.prefs.SetCommaRadix(c.commaRadix);
+        if (c.hex) {
+            f.session.SelectKeyboard(kProgrammerKeyboard);
+            f.session.Tap(fid::BaseHex);
+        }
+        f.Type(c.typed);
+        f.session.PasteText(c.pasted);
+        EXPECT_EQ(std::pair(f.engine.X(), f.engine.Y()), std::pair(c.x, c.y));
+        EXPECT_EQ(f.engine.XTag() == ValueTag::S32, c.hex);  // pasted in a base: the default format, s32
+    }
     Fixture f;
-    f.Type("12");
-    f.session.PasteText("5");  // completes the number being typed
-    EXPECT_EQ(std::pair(f.engine.X(), f.engine.Y()), std::pair(5.0, 12.0));
-    f.Type("+");
-    EXPECT_EQ(f.engine.X(), 17.0);
     f.Type("1234.5");
     f.session.Tap(fid::Enter);
     f.session.Copy();
-    EXPECT_EQ(f.host.clipboard, "1234.5");  // no grouping, no trailing point
+    EXPECT_EQ(f.host.clipboard, "1234.5");
     f.engine.prefs.SetCommaRadix(true);
     f.session.Cut();
     EXPECT_EQ(f.host.clipboard, "1234,5");
     EXPECT_EQ(f.engine.X(), 1234.5);  // the cut dropped the copy left by Enter
-
-    f.session.PasteText("abc42");
-    EXPECT_EQ(f.engine.X(), 42.0);
-    EXPECT_EQ(f.engine.Y(), 1234.5);
-    f.session.PasteText("-3");
-    EXPECT_EQ(f.engine.X(), 3.0);
-    f.session.PasteText("7,25e1 and more");
-    EXPECT_EQ(f.engine.X(), 72.5);
-    f.session.PasteText("no digits");
-    EXPECT_EQ(f.engine.X(), 72.5);
-
     f.host.clipboard.reset();
     f.Type("0/");
     ASSERT_TRUE(IsErrorValue(f.engine.X()));
-    f.session.Copy();  // an error copies nothing
+    f.session.Copy();
     EXPECT_FALSE(f.host.clipboard.has_value());
-
-    f.session.SelectKeyboard(kProgrammerKeyboard);
-    f.session.Tap(fid::BaseHex);
-    f.session.PasteText("x1f");  // the text counts from its first decimal digit
-    EXPECT_EQ(f.engine.X(), 31.0);
-    EXPECT_EQ(f.engine.XTag(), ValueTag::S32);  // the default format, s32
-    f.session.PasteText("9 apples");  // one digit is a number too
-    EXPECT_EQ(f.engine.X(), 9.0);
 }
 
 // The "Preferences" sheet's OK sends the input method's key exactly once, changed or not: a

@@ -188,26 +188,15 @@ std::string LegacyFile(const std::string& head) {
            HexValue("saved_4", {2, 0, 0, 0, 7, 0, 0, 0, 21, 0, 0, 0});
 }
 
-void ExpectImported(const Engine& e, const UserKeyMap& keys) {
-    EXPECT_EQ(e.prefs.Method(), InputMethod::Rpn);
-    EXPECT_EQ(e.prefs.StackDepth(), 8);
-    EXPECT_EQ(e.registers.values[12], 3.5);
-    EXPECT_EQ(keys.keys[0], fid::Square);
-    EXPECT_EQ(keys.keys[1], FunctionIdFrom(0xFFFFFFFF));
-    EXPECT_EQ(e.macro.macroLength, 2);
-    EXPECT_EQ(e.macro.macroKeys[1], fid::Enter);
-}
-
-// A first run imports the export beside the settings whole or not at all, and says why not in
-// one line.
+// An export is imported whole or not at all, and says why not in one line. (When a first run
+// reads it is the session's business.)
 TEST(LegacyImport, AnExportBecomesTheRecordsOrNothingAtAll) {
     TempFolder folder;
-    const std::tuple<const char*, std::optional<std::string>, std::string> cases[] = {  // reason "": imported
+    const std::tuple<const char*, std::string, std::string> cases[] = {  // reason "": imported
         {"REGEDIT4 in 8-bit text", LegacyFile("REGEDIT4\r\n"), ""},
         {"UTF-16 with byte-order mark", Utf16(LegacyFile(kVersion5 + "\r\n")), ""},
         {"UTF-8 with byte-order mark", LegacyFile("\xEF\xBB\xBF" + kVersion5 + "\r\n"), ""},
         {"UTF-8, Unix lines", LegacyFile(kVersion5 + "\n"), ""},
-        {"no file: no news", std::nullopt, ""},
         {"empty", "", "not a registry export"},
         {"another header", "REGEDIT5\r\n" + kKeyLine, "not a registry export"},
         {"text file", "hello\n", "not a registry export"},
@@ -226,37 +215,27 @@ TEST(LegacyImport, AnExportBecomesTheRecordsOrNothingAtAll) {
     };
     for (const auto& [name, file, reason] : cases) {
         SCOPED_TRACE(name);
-        const auto legacy = folder / "Brinto.reg";
-        std::filesystem::remove(legacy);
-        if (file) WriteFile(legacy, *file);
-        const bool imported = file && reason.empty();
-        // The first-run migration as the session runs it.
-        std::string warning;
-        const auto migrate = [&](RecordStore& into) {
-            if (!std::filesystem::exists(legacy)) return false;
-            const LegacyImport outcome = ImportLegacyFile(into, legacy);
-            warning = outcome.reason;
-            return outcome.imported;
-        };
-        Engine e;
-        UserKeyMap keys = EmptyUserKeyMap();
+        WriteFile(folder / "Brinto.reg", file);
         RecordStore store;
         ASSERT_EQ(store.Open(std::string(RecordStore::kInMemory)), OpenResult::Opened);
-        EXPECT_EQ(LoadState(e, keys, store, migrate), imported);
-        EXPECT_EQ(store.CountRecords(), imported ? 4 : 0);  // the old release kept no CalcState
-        EXPECT_NE(warning.find(reason), std::string::npos) << warning;
-        EXPECT_EQ(warning.find('\n'), std::string::npos);
-        EXPECT_EQ(warning.empty(), reason.empty());
-        if (imported) {
-            ExpectImported(e, keys);
-            EXPECT_FALSE(e.dirty.preferences || e.dirty.registers || e.dirty.userKeys || e.dirty.macro);
-        }
-        // Once the preferences exist the export is never read again.
-        SaveState(e, keys, store);
-        WriteFile(legacy, "garbage");
-        warning.clear();
-        EXPECT_TRUE(LoadState(e, keys, store, migrate));
-        EXPECT_TRUE(warning.empty());
+        const LegacyImport outcome = ImportLegacyFile(store, folder / "Brinto.reg");
+        EXPECT_EQ(outcome.imported, reason.empty());
+        EXPECT_NE(outcome.reason.find(reason), std::string::npos) << outcome.reason;
+        EXPECT_EQ(outcome.reason.find('\n'), std::string::npos);
+        EXPECT_EQ(outcome.reason.empty(), reason.empty());
+        EXPECT_EQ(store.CountRecords(), reason.empty() ? 4 : 0);  // the old release kept no CalcState
+        Engine e;
+        UserKeyMap keys = EmptyUserKeyMap();
+        EXPECT_EQ(LoadState(e, keys, store), reason.empty());
+        if (!reason.empty()) continue;
+        EXPECT_FALSE(e.dirty.preferences || e.dirty.registers || e.dirty.userKeys || e.dirty.macro);
+        EXPECT_EQ(e.prefs.Method(), InputMethod::Rpn);
+        EXPECT_EQ(e.prefs.StackDepth(), 8);
+        EXPECT_EQ(e.registers.values[12], 3.5);
+        EXPECT_EQ(keys.keys[0], fid::Square);
+        EXPECT_EQ(keys.keys[1], FunctionIdFrom(0xFFFFFFFF));
+        EXPECT_EQ(e.macro.macroLength, 2);
+        EXPECT_EQ(e.macro.macroKeys[1], fid::Enter);
     }
 }
 

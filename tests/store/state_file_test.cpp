@@ -233,32 +233,6 @@ TEST(StateFile, ASaveThatMeetsALockChangesNothingAndIsTriedAgain) {
     EXPECT_EQ(LoadedStamp(path), 4u);
 }
 
-// A file the user may not read is trouble too. Mode bits do not stop root, so as root the check
-// runs in a child that has given up its rights.
-TEST(StateFile, AFileThatMayNotBeReadIsNotDamaged) {
-    TempFolder home;
-    SaveStamped(home / "brinto.db", 9);
-    std::filesystem::permissions(home.path(), std::filesystem::perms(0755));
-    std::filesystem::permissions(home / "brinto.db", std::filesystem::perms::none);
-    const std::string before = Snapshot(home.path());
-    const pid_t child = fork();
-    ASSERT_GE(child, 0);
-    if (child == 0) {
-        if (geteuid() == 0 && (setgid(65534) != 0 || setuid(65534) != 0)) _exit(2);
-        RecordStore store;
-        std::string warning;
-        const OpenResult result = OpenStateFile(store, home / "brinto.db", warning);
-        _exit(result == OpenResult::Unavailable && !store.IsOpen() ? 0 : 1);
-    }
-    int status = 0;
-    ASSERT_EQ(waitpid(child, &status, 0), child);
-    if (WIFEXITED(status) && WEXITSTATUS(status) == 2) GTEST_SKIP() << "cannot give up root's rights here";
-    EXPECT_TRUE(WIFEXITED(status) && WEXITSTATUS(status) == 0) << status;
-    EXPECT_EQ(Snapshot(home.path()), before);
-    std::filesystem::permissions(home / "brinto.db", std::filesystem::perms(0600));
-    EXPECT_EQ(LoadedStamp(home / "brinto.db"), 9u);
-}
-
 // A disk that fails a few reads and then recovers: the default file system of SQLite with the
 // next `failures` reads beyond the first page of a database answered short, as a flaky disk or a
 // file still being copied in would. Short reads come back zero-filled, which looks like damage.

@@ -56,7 +56,9 @@ protected:
     UserKeyMap keys{};
 };
 
-TEST_F(StateIoTest, FirstRunStartsOnDefaultsAndTheSaveLeavesFiveRecords) {
+// A first run starts on defaults with every record marked changed; a save writes the records
+// marked changed, and the state whether marked or not.
+TEST_F(StateIoTest, FirstRunStartsOnDefaultsAndSavesWriteWhatChanged) {
     e.prefs.SetMethod(InputMethod::Rpn);  // whatever the engine held before is replaced
     e.registers.values[3] = 42.0;
     EXPECT_FALSE(Load());
@@ -70,6 +72,16 @@ TEST_F(StateIoTest, FirstRunStartsOnDefaultsAndTheSaveLeavesFiveRecords) {
     }
     ASSERT_TRUE(SaveState(e, keys, store));
     EXPECT_EQ(store.CountRecords(), 5);
+    e.prefs.SetTheme(3);          // changed without its flag: stays out of the file
+    e.registers.values[0] = 9.0;  // changed with its flag
+    e.dirty.registers = true;
+    e.SetX(77.0);                 // the state is written flagged or not
+    ASSERT_TRUE(SaveState(e, keys, store));
+    EXPECT_FALSE(e.dirty.registers || e.dirty.state);
+    Engine loaded;
+    UserKeyMap loadedKeys{};
+    LoadState(loaded, loadedKeys, store);
+    EXPECT_EQ(std::tuple(loaded.prefs.Theme(), loaded.registers.values[0], loaded.X()), std::tuple(0, 9.0, 77.0));
 }
 
 // A record is taken as stored (zero-filled when short) or replaced by what a first run gets and
@@ -222,23 +234,6 @@ TEST_F(StateIoTest, EveryRecordRoundTripsThroughTheFile) {
         EXPECT_FALSE(got.dirty);
     }
     EXPECT_EQ(e.macro.macroVersion, kMacroVersion);
-}
-
-TEST_F(StateIoTest, SaveWritesOnlyChangedRecordsButAlwaysTheState) {
-    ASSERT_TRUE(SaveAll(e, keys, store));
-    e.prefs.SetTheme(3);          // changed without its flag: stays out of the file
-    e.registers.values[0] = 9.0;  // changed with its flag
-    e.dirty.registers = true;
-    e.SetX(77.0);                 // the state is written flagged or not
-    ASSERT_TRUE(SaveState(e, keys, store));
-    EXPECT_FALSE(e.dirty.registers || e.dirty.state);
-
-    Engine loaded;
-    UserKeyMap loadedKeys{};
-    LoadState(loaded, loadedKeys, store);
-    EXPECT_EQ(loaded.prefs.Theme(), 0);
-    EXPECT_EQ(loaded.registers.values[0], 9.0);
-    EXPECT_EQ(loaded.X(), 77.0);
 }
 
 TEST_F(StateIoTest, UndoHistoryStartsAfreshFromTheLoadedRecords) {

@@ -1,10 +1,8 @@
-// brinto-cli's pinned clock (arguments with blanks, which the transcripts cannot hold), and the
-// dates and times it spells in the user's locale.
+// What brinto-cli's runs cannot show in a transcript: an answer that cannot be written, bytes that
+// are no text, and the dates it spells in the user's locale.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <filesystem>
-#include <nlohmann/json.hpp>
 
 #include "cli_runner.h"
 #include "temp_folder.h"
@@ -12,17 +10,23 @@
 namespace brinto::test {
 namespace {
 
-TEST(Cli, NowReadsThePinnedClock) {
-    const RunResult r = RunCli({"--json", "--memory", "--now", "2024-02-29 13:45:10", "rpn", "now", "now", "years",
-                                "swap", "minutes"});
-    ASSERT_EQ(r.exitCode, 0) << r.err;
-    const auto json = ParseJson(r.out);
-    ASSERT_TRUE(json.has_value());
-    EXPECT_EQ(Compact(*Find(*json, "stack.1.value")), "2024");
-    EXPECT_EQ(Compact(*Find(*json, "stack.0.value")), "45");
+// An answer that cannot be written (here to a full disk) is a failed run, whatever printed it.
+TEST(Cli, OutputThatCannotBeWrittenFailsTheRun) {
+    for (const std::vector<std::string>& args : std::vector<std::vector<std::string>>{
+             {"--help"}, {"--memory", "--list-keys"}, {"--memory", "--json", "2", "enter", "3", "+"}, {"--memory", "5"}}) {
+        SCOPED_TRACE(args.back());
+        const RunResult r = RunCli(args, "", {}, "/dev/full");
+        EXPECT_EQ(r.exitCode, 1);
+        EXPECT_EQ(r.err, "brinto-cli: cannot write standard output: No space left on device\n");
+    }
+}
 
-    const RunResult shown = RunCli({"--memory", "--now", "2024-02-29 13:45:10", "now"});
-    EXPECT_EQ(shown.out, "02/29/24 13:45  dt\n");
+TEST(Cli, BinaryJunkOnStandardInputIsRefused) {
+    std::string junk;
+    for (int i = 0; i < 4096; ++i) junk += static_cast<char>((i * 37 + 11) % 256);
+    const RunResult r = RunCli({"--memory"}, junk);
+    EXPECT_EQ(r.exitCode, 2);
+    EXPECT_EQ(std::count(r.err.begin(), r.err.end(), '\n'), 1);
 }
 
 // Month and day names come in the locale's own character set; the report is UTF-8 in any of them
