@@ -2,6 +2,7 @@
 // Helpers for driving an engine with keys, as a user does.
 #include <initializer_list>
 #include <ostream>
+#include <vector>
 
 #include "display/labels.h"
 #include "engine/engine.h"
@@ -44,6 +45,9 @@ struct Key {
 };
 
 inline void Press(Engine& e, std::initializer_list<Key> keys) {
+    for (const Key k : keys) e.Dispatch(k.id);
+}
+inline void Press(Engine& e, const std::vector<Key>& keys) {
     for (const Key k : keys) e.Dispatch(k.id);
 }
 
