@@ -3,7 +3,6 @@
 #include <tuple>
 #include <vector>
 
-#include "engine/register_keys.h"
 #include "engine_test_support.h"
 
 namespace brinto {
@@ -24,15 +23,6 @@ TEST(FormatPrefix, DigitOrPointSetsTheDisplayFormat) {
     Press(e, {fid::FormatFixed, fid::Backspace, 7});  // backspace cancels; 7 is typed
     EXPECT_EQ(e.prefs.Format(), NumberFormat::Scientific);
     EXPECT_EQ(e.X(), 7.0);
-}
-
-TEST(Dispatcher, BackspaceWithHyperbolicPrefixOnlyCancelsIt) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {4, fid::Enter, fid::Hyperbolic});
-    EXPECT_TRUE(e.state.status & status::Hyperbolic);
-    e.Dispatch(fid::Backspace);  // acts as the prefix key itself, toggling it off
-    EXPECT_FALSE(e.state.status & status::Hyperbolic);
-    EXPECT_EQ(e.X(), 4.0);
 }
 
 TEST(Dispatcher, BackspaceOutsideAnEntryDropsWhenThePreferenceSaysSo) {
@@ -87,61 +77,6 @@ TEST(ShiftKeys, EachModeKeepsTheShiftAsLongAsItSays) {
     EXPECT_TRUE(e.state.viewFlags & view::SecondShift);
     Press(e, {fid::FirstShift});
     EXPECT_FALSE(e.state.viewFlags & view::SecondShift);
-}
-
-TEST(RegisterKeys, StoreRecallAndArithmetic) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    e.prefs.SetHundredRegisters(false);
-    Press(e, {7, fid::Store, 3});
-    EXPECT_EQ(e.registers.values[3], 7.0);
-    Press(e, {2, fid::Store, fid::Multiply, 3});  // R3 = R3 x 2
-    EXPECT_EQ(e.registers.values[3], 14.0);
-    Press(e, {fid::Store, fid::Subtract, 3});
-    EXPECT_EQ(e.registers.values[3], 12.0);
-    Press(e, {fid::Recall, 3});
-    EXPECT_EQ(e.X(), 12.0);
-    EXPECT_EQ(e.Y(), 2.0);  // recall lifts
-    EXPECT_EQ(e.XTag(), fid::TagCashFlow);
-    EXPECT_EQ(e.state.aux[0], 3);
-    Press(e, {fid::Recall, fid::Add, 3});  // X = X + R3
-    EXPECT_EQ(e.X(), 24.0);
-    EXPECT_EQ(e.state.lastX, 12.0);
-}
-
-TEST(RegisterKeys, TwoDigitArgumentsWithTheLargeRegisterSet) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    ASSERT_TRUE(e.prefs.HundredRegisters());
-    Press(e, {4, 2, fid::StoreLarge, 4, 7});
-    EXPECT_EQ(e.registers.values[47], 42.0);
-    Press(e, {fid::StoreLarge, fid::CashFlow});  // the register after the last one used
-    EXPECT_EQ(e.registers.values[48], 42.0);
-    Press(e, {fid::RecallVariant, 9});  // the small set's key takes one digit
-    EXPECT_EQ(e.X(), 0.0);
-    EXPECT_EQ(e.Y(), 42.0);
-}
-
-TEST(RegisterKeys, EntryStaysOpenAcrossThePrefix) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {1, 2, fid::StoreLarge});
-    EXPECT_TRUE(e.EntryOpen());
-    EXPECT_NE(e.state.pendingArgument, kNoPendingArgument);
-    Press(e, {0, 5});
-    EXPECT_FALSE(e.EntryOpen());
-    EXPECT_EQ(e.registers.values[5], 12.0);
-    EXPECT_TRUE(e.LiftEnabled());
-}
-
-TEST(RegisterKeys, FinancialKeysNameTheirRegisters) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {fid::Recall, fid::PYr});
-    EXPECT_EQ(e.X(), 12.0);
-    EXPECT_EQ(e.XTag(), ValueTag::PerYear);
-    Press(e, {9, fid::Store, fid::PV, fid::Recall, fid::PV});
-    EXPECT_EQ(e.registers.values[reg::PV], 9.0);
-    EXPECT_EQ(e.XTag(), ValueTag::PresentValue);
-    Press(e, {fid::Recall, fid::FramesPerSecond});
-    EXPECT_EQ(e.X(), 30.0);
-    EXPECT_EQ(e.XTag(), ValueTag::FramesPerSecond);
 }
 
 TEST(RegisterClears, KeysClearTheirGroups) {

@@ -61,16 +61,6 @@ TEST(History, FirstShiftSurvivesUndoOnlyWhenSticky) {
     }
 }
 
-TEST(Macro, RecordsFromTheMethodKeyToStop) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {fid::MacroRecord, 2, fid::Multiply, fid::MacroStop});
-    ASSERT_EQ(e.macro.macroLength, 4);
-    EXPECT_EQ(e.macro.macroKeys[0], fid::MethodRpn);
-    EXPECT_EQ(e.macro.macroKeys[3], fid::MacroStop);
-    Press(e, {2, 1, fid::MacroPlay});
-    EXPECT_EQ(e.X(), 42.0);
-}
-
 // Playback leaves X, the method the user chose, and no playback running.
 TEST(Macro, PlaybackInTheRecordedMethodUpToAnErrorOrTheEnd) {
     const struct {
@@ -92,7 +82,7 @@ TEST(Macro, PlaybackInTheRecordedMethodUpToAnErrorOrTheEnd) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         Engine e = MakeEngine(InputMethod::Rpn);
-        for (const test::Key k : c.keys) e.Dispatch(k.id);
+        Press(e, c.keys);
         EXPECT_TRUE(std::isnan(c.x) ? IsErrorValue(e.X()) : e.X() == c.x) << e.X();
         EXPECT_EQ(e.IsRpn(), c.rpn);
         EXPECT_FALSE(e.state.engineFlags & flags::Playing);

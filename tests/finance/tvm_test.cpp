@@ -69,31 +69,15 @@ TEST(TvmClosedForms, ZeroRateAndImpossibleSigns) {
     EXPECT_EQ(SolveYearlyRate({0, 6.0, 100000, -599.55, 0, 12, false}), kErrorValue);
 }
 
-TEST(SecantSolver, FollowsItsStepRules) {
-    std::vector<double> at;
-    const auto record = [&at](double (*f)(double)) {
-        return [&at, f](double x) { return at.push_back(x), f(x); };
-    };
-    // Through (0, 1) and (1, 0.99) the secant would land at 100: the step is cut to ten times 1.
-    SecantRun(record([](double x) { return x == 0 ? 1.0 : x == 1 ? 0.99 : 0.5; }), 0, 1, 1e-12);
-    EXPECT_EQ(at.at(2), 11.0);
-    // At 2 the residual is undefined: the point is nudged once.
-    at.clear();
-    SecantRun(record([](double x) { return x == 2 ? std::nan("") : 2 - x; }), 0, 1, 1e-12);
-    EXPECT_EQ(at.at(3), 2.0 + 1e-15);
-    // From (1.1, 1e14) and (1, r) the secant cannot move off 1: a small r is the root, a large
-    // one the error value, and the driver makes no further run.
+// From (1.1, 1e14) and (1, r) the secant cannot move off 1: a small r makes 1 the root, a large
+// one the error value, and no further run is made.
+TEST(SecantSolver, AStuckPointIsARootOnlyWhenItsResidualIsSmall) {
     for (const auto& [residual, root] : {std::pair{1e-6, 1.0}, std::pair{1e-4, kErrorValue}}) {
-        at.clear();
-        const double r = residual;
-        EXPECT_EQ(SolveSecant([&](double x) { return at.push_back(x), x == 1 ? r : 1e14; }, 1.1, 1.0), root);
-        EXPECT_EQ(at.size(), 3u);
+        int calls = 0;
+        EXPECT_EQ(SolveSecant([&](double x) { return ++calls, x == 1 ? residual : 1e14; }, 1.1, 1.0), root);
+        EXPECT_EQ(calls, 3);
     }
-    // A level residual never converges: six runs (tolerances 1e-12 up to near 1e-7) of 50 steps.
-    at.clear();
-    EXPECT_EQ(SolveSecant(record([](double) { return 1.0; }), 0.0, 0.1), kErrorValue);
-    EXPECT_EQ(at.size(), 6u * (2 + 50));
-    // A residual that never drops below 5e-8 is accepted only by the sixth run.
+    // A residual that never drops below 5e-8 is accepted only by the sixth, most tolerant run.
     EXPECT_NEAR(SolveSecant([](double x) { return 5e-8 + (x - 1) * (x - 1); }, 1 - 4e-8, 1 + 4e-8), 1.0, 1e-7);
 }
 

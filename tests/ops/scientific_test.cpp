@@ -153,42 +153,25 @@ TEST(Random, StoresTheFifteenBitGeneratorsStateWhichWrapsModulo2To32) {
 
 constexpr int kSpeedOfLight = 7, kPlanck = 12, kElectronMass = 15;
 
-TEST(Constants, EveryRowHasANameAndOnlyThoseRowsRecall) {
-    for (int i = 0; i < kConstantCount; ++i) EXPECT_FALSE(ConstantName(i).empty()) << i;
-    EXPECT_FALSE(ConstantName(32).empty());
-    Engine e = Holding({{5, None}});
-    for (const int outside : {33, -1}) {
-        EXPECT_TRUE(ConstantName(outside).empty());
-        EXPECT_FALSE(RecallConstant(e, outside, 3));
-    }
-    EXPECT_EQ(std::tuple(e.X(), e.state.constantsTopRow), std::tuple(5.0, 0));
-}
-
-TEST(Constants, RecallLiftsLeavesLastXAloneAndKeepsTheListsScroll) {
-    Engine e = Holding({{5, None}});
+// A constant is recalled as pi is: it lifts unless the lift is disabled, closes a number being
+// typed and does not replace X after an operator. It leaves Last X alone, keeps the list's scroll
+// position, and carries its unit when it has one. A row beyond the list recalls nothing.
+TEST(Constants, RecallFollowsTheLiftAndKeepsLastXAndTheListsScroll) {
+    Engine e = MakeEngine(InputMethod::Rpn);
     e.state.lastX = 9;
-    ASSERT_TRUE(RecallConstant(e, kSpeedOfLight, 4));
-    EXPECT_EQ(std::tuple(e.Y(), e.state.lastX, e.state.constantsTopRow), std::tuple(5.0, 9.0, 4));
+    Press(e, {2, fid::Enter});  // lift disabled: the recall replaces the copy of 2
+    ASSERT_TRUE(RecallConstant(e, kPlanck, 4));
+    EXPECT_EQ(std::tuple(e.X(), e.XTag(), e.Y(), e.state.lastX, e.state.constantsTopRow),
+              std::tuple(6.6260755e-34, None, 2.0, 9.0, 4));
+    Press(e, {3, 1});  // a number typed after a recall lifts it
+    RecallConstant(e, kSpeedOfLight, 0);
+    EXPECT_EQ(std::tuple(e.EntryOpen(), e.Y(), e.Level(2).value), std::tuple(false, 31.0, 6.6260755e-34));
     e.Dispatch(fid::KilometersPerHour);  // km/h: the tagged constants convert
     EXPECT_NEAR(e.X(), 1079252848.8, 1e-3);
-    ASSERT_TRUE(RecallConstant(e, kPlanck, 10));
-    EXPECT_EQ(XOf(e), Tagged(6.6260755e-34, None));
-    EXPECT_EQ(e.state.aux[0], kNoAux);
     ASSERT_TRUE(RecallConstant(e, kElectronMass, 10));
     EXPECT_EQ(XLabel(e), "kg");
-}
-
-TEST(Constants, RecallFollowsTheLiftAndClosesANumberBeingTyped) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {2, fid::Enter});  // lift disabled: the recall replaces the copy of 2
-    RecallConstant(e, kPlanck, 0);
-    EXPECT_EQ(e.Y(), 2.0);
-    Press(e, {3});  // a number typed after a recall lifts it
-    EXPECT_EQ(e.Y(), 6.6260755e-34);
-    Press(e, {1});
-    RecallConstant(e, kSpeedOfLight, 0);
-    EXPECT_FALSE(e.EntryOpen());
-    EXPECT_EQ(e.Y(), 31.0);
+    for (const int outside : {kConstantCount, -1}) EXPECT_FALSE(RecallConstant(e, outside, 3));
+    EXPECT_EQ(std::tuple(XLabel(e), e.state.constantsTopRow), std::tuple("kg", 10));
     e = MakeEngine(InputMethod::Simple);
     Press(e, {2, fid::Multiply});
     RecallConstant(e, kSpeedOfLight, 0);
