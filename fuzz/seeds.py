@@ -6,6 +6,7 @@ a paste, a legacy export...), so that the fuzzers start from inputs that reach d
 having to discover the key codes and record layouts by chance. Run it again after changing a
 target's input layout; the files are kept in the repository.
 """
+import math
 import os
 import struct
 import sys
@@ -40,6 +41,7 @@ SESSION = {
     "simple_and_precedence": keys(SIMPLE, 2, ADD, 3, MUL, 5, EQ, PRECEDENCE, 2, ADD, 3, MUL, 5, EQ, EQ,
                                   47, 2, ADD, 47, 3, 48, 48, MUL, MUL, 4, EQ),
     "entry_editing": keys(1, 16, 2, 3, 18, 19, 4, 5, 6, 7, 20, 20, 19, 17, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9),
+    "entry_edited_to_nothing": keys(1, 19, 4, 20, 20, 19, 2, ADD, 5, 19, 20, 19),
     "undo_redo": keys(RPN, 1, ENTER, 2, ADD, 3, MUL) + step("Undo") + step("Undo") + step("Redo")
     + keys(7) + step("Redo") + step("Undo") * 12,
     "macro": keys(RPN, 212, 1, ENTER, 2, ADD, 214, 3, MUL, 215, 213, 213, 214, 215, 212) + keys(*([1] * 64)) + keys(213),
@@ -263,6 +265,21 @@ LEGACY = {
 }
 
 
+# rounding_fuzzer: a double and a count of places. Decimal ties (k.5 units of the last place), the
+# doubles beside them, which become ties when cut to 12 digits, and values the display rounds up
+# across a power of ten.
+def rounding(value, places):
+    return struct.pack("<dB", value, places)
+
+
+ROUNDING = {"tie_%d" % n: rounding(float(text), places) for n, (text, places) in enumerate(
+    [("0.125", 2), ("1.005", 2), ("-1.005", 2), ("999.995", 2), ("0.005", 2), ("0.5", 0), ("45.5", 0),
+     ("2689.2104999999998", 3), ("1234567890.12345", 3), ("12345678905e-1", 0), ("7385e-4", 3),
+     ("1e20", 2), ("0.0049", 2)])}
+ROUNDING.update({"beside_tie_%d" % n: rounding(math.nextafter(float(text), toward), places)
+                 for n, (text, places, toward) in enumerate([("2.675", 2, 0.0), ("2.675", 2, 10.0),
+                                                             ("81.0000005", 6, 100.0), ("0.45", 1, 0.0)])})
+
 def write(target, seeds):
     folder = os.path.join(HERE, "corpus", target)
     os.makedirs(folder, exist_ok=True)
@@ -272,7 +289,7 @@ def write(target, seeds):
 
 
 TARGETS = {"session_keys_fuzzer": SESSION, "paste_fuzzer": PASTE, "cli_fuzzer": CLI,
-           "load_state_fuzzer": LOAD_STATE, "legacy_import_fuzzer": LEGACY}
+           "load_state_fuzzer": LOAD_STATE, "legacy_import_fuzzer": LEGACY, "rounding_fuzzer": ROUNDING}
 
 if __name__ == "__main__":
     for target, seeds in TARGETS.items():

@@ -143,23 +143,6 @@ TEST_F(DisplayTextTest, TheNumberBeingTypedShowsAsTyped) {
     EXPECT_EQ(DisplayLevel(e, 1).text, "4D2.");  // other levels show their values
 }
 
-TEST(EmptyEntry, AnEntryEditedToNothingShowsZero) {
-    // Typing a digit, changing the sign, then erasing both leaves the entry open with X zero: the
-    // display shows the zero a cleared X shows, not a blank line.
-    const FunctionId cases[][6] = {
-        {fid::Digit1, fid::ChangeSign, fid::Digit4, fid::Backspace, fid::Backspace, fid::ChangeSign},
-        {fid::Digit2, fid::Add, fid::Digit5, fid::ChangeSign, fid::Backspace, fid::ChangeSign},
-    };
-    const std::string zero = DisplayLevel(*std::make_unique<Engine>(), 0).text;
-    for (const auto& keys : cases) {
-        auto e = std::make_unique<Engine>();
-        for (const FunctionId id : keys) e->Dispatch(id);
-        EXPECT_EQ(e->X(), 0.0);
-        EXPECT_EQ(DisplayLevel(*e, 0).text, zero);
-    }
-    EXPECT_FALSE(zero.empty());
-}
-
 TEST_F(DisplayTextTest, ValuesTheFormatterRefusesShowError) {
     Put(0, kInfinity);
     Put(1, -1, kDate);
