@@ -2,7 +2,6 @@
 
 #include <cmath>
 #include <tuple>
-#include <vector>
 
 #include "engine/value_tags.h"
 #include "finance/solver.h"
@@ -13,48 +12,6 @@ namespace brinto {
 namespace {
 
 using namespace test;
-
-// The account a loan runs through, period by period in long double: it opens with PV, earns
-// interest each period and takes the payment (before the interest in Begin mode); the TVM
-// equation holds when FV closes it. This walks the account instead of using annuity formulas.
-long double ClosingBalance(const TvmProblem& p) {
-    const long double i = static_cast<long double>(p.yearlyRate) / p.perYear / 100;
-    long double balance = p.presentValue;
-    for (int t = 0; t < p.periods; ++t) balance = (balance + (p.begin ? p.payment : 0)) * (1 + i) + (p.begin ? 0 : p.payment);
-    return balance;
-}
-
-void ExpectClose(double actual, long double expected, const char* what) {
-    EXPECT_LE(std::fabs(actual - expected) / std::fmax(1.0L, std::fabs(expected)), 1e-11L) << what;
-}
-
-TEST(TvmClosedForms, AgreeWithThePeriodByPeriodAccount) {
-    // One sign change each (one rate solves them), FV not a small difference of large terms.
-    std::vector<TvmProblem> loans = {{360, 6.0, 100000, -550, 0, 12, false}, {360, 6.0, 100000, -550, 0, 12, true},
-                                     {40, 3.25, -2500, -150, 0, 4, true},     {10, 11.0, -10000, 1500, 0, 1, false},
-                                     {104, 4.5, 5000, -40, 0, 52, false}};
-    for (TvmProblem& p : loans) {
-        SCOPED_TRACE(testing::Message() << p.periods << " periods, begin " << p.begin);
-        p.futureValue = static_cast<double>(-ClosingBalance(p));
-        // The closing balance is linear in PV and in PMT: two walks give each root.
-        const auto root = [&p](double TvmProblem::*field) {
-            TvmProblem q = p;
-            q.*field = 0;
-            const long double at0 = ClosingBalance(q) + p.futureValue;
-            q.*field = 1;
-            return -at0 / (ClosingBalance(q) + p.futureValue - at0);
-        };
-        ExpectClose(SolveFutureValue(p), -ClosingBalance(p), "FV");
-        ExpectClose(SolvePresentValue(p), root(&TvmProblem::presentValue), "PV");
-        ExpectClose(SolvePayment(p), root(&TvmProblem::payment), "PMT");
-        ExpectClose(SolvePeriods(p), p.periods, "N");
-        for (const double guess : {0.0, -5.0, 20.0}) {
-            TvmProblem q = p;
-            q.yearlyRate = guess;
-            ExpectClose(SolveYearlyRate(q), p.yearlyRate, "I/YR");
-        }
-    }
-}
 
 TEST(TvmClosedForms, ZeroRateAndImpossibleSigns) {
     for (const bool begin : {false, true}) {  // no interest: the payments simply add up
