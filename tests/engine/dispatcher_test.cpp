@@ -14,11 +14,9 @@ using test::Press;
 TEST(FormatPrefix, DigitOrPointSetsTheDisplayFormat) {
     Engine e = MakeEngine(InputMethod::Rpn);
     Press(e, {fid::FormatStandard, fid::Point});
-    EXPECT_EQ(e.prefs.Format(), NumberFormat::Standard);
-    EXPECT_EQ(e.prefs.DigitField(), 0);
+    EXPECT_EQ(std::pair(e.prefs.Format(), e.prefs.DigitField()), std::pair(NumberFormat::Standard, 0));
     Press(e, {fid::FormatScientific, 3});
-    EXPECT_EQ(e.prefs.Format(), NumberFormat::Scientific);
-    EXPECT_EQ(e.prefs.DigitField(), 4);
+    EXPECT_EQ(std::pair(e.prefs.Format(), e.prefs.DigitField()), std::pair(NumberFormat::Scientific, 4));
     EXPECT_TRUE(e.dirty.preferences);
     Press(e, {fid::FormatFixed, fid::Backspace, 7});  // backspace cancels; 7 is typed
     EXPECT_EQ(e.prefs.Format(), NumberFormat::Scientific);
@@ -30,20 +28,6 @@ TEST(Dispatcher, BackspaceOutsideAnEntryDropsWhenThePreferenceSaysSo) {
     e.prefs.SetBackspaceDrops(true);
     Press(e, {4, fid::Enter, 9, fid::Enter, fid::Backspace});
     EXPECT_EQ(std::pair(e.X(), e.Y()), std::pair(9.0, 4.0));
-}
-
-TEST(Dispatcher, ChangeSignOutsideEntryKeepsOnlyUnitTags) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {5, fid::Enter});
-    e.SetXTag(ValueTag::Meters);
-    e.Dispatch(fid::ChangeSign);
-    EXPECT_EQ(e.X(), -5.0);
-    EXPECT_EQ(e.XTag(), ValueTag::Meters);
-    e.SetXTag(ValueTag::PresentValue);  // "PV" is a label, not a unit
-    e.Dispatch(fid::ChangeSign);
-    EXPECT_EQ(e.XTag(), ValueTag::None);
-    Press(e, {2});  // change sign ended the entry and enabled lift
-    EXPECT_EQ(e.Y(), 5.0);
 }
 
 TEST(Dispatcher, UnknownKeyIsNotAcceptedAndChangesNothing) {

@@ -53,6 +53,7 @@ TEST(InputMethods, KeySequencesLeaveExpectedXAndY) {
         {"mode keys keep the lift state", InputMethod::Rpn, {3, fid::Enter, fid::Radians, 4, Plus}, 7, 0},
         {"last x lifts", InputMethod::Rpn, {6, fid::Enter, 2, By, fid::LastX}, 2, 3},
         {"last x replaces a cleared x", InputMethod::Rpn, {6, fid::Enter, 2, By, fid::LastX, fid::ClearX, fid::LastX}, 2, 3},
+        {"change sign outside an entry ends it", InputMethod::Rpn, {5, fid::Enter, fid::ChangeSign, 2}, 2, -5},
         {"backspace only cancels the hyperbolic prefix", InputMethod::Rpn, {1, fid::Hyperbolic, fid::Backspace, fid::Asin}, 90},
         {"backspace outside an entry clears x, lift disabled", InputMethod::Rpn,
          {1, fid::Enter, 4, fid::Enter, 5, Plus, fid::Backspace, 3, Plus}, 4},

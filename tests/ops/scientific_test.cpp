@@ -66,6 +66,8 @@ TEST(Functions, ResultsAndTheUnitsTheyKeep) {
         {fid::Abs, {-2, Kilograms}, {2, Kilograms}}, {fid::IntegerPart, {2.5, U8}, {2, U8}},      {fid::Floor, {2.5, PerYear}, {2, None}},
         {fid::FractionalPart, {2.3, Feet}, {0.3, Feet}}, {fid::FractionalPart, {-2.3, None}, {-0.3, None}},
         {fid::Ceiling, {2.5, Date}, {3, Date}},          {fid::Reciprocal, {4, Feet}, {0.25, None}},
+        {fid::ChangeSign, {5, Meters}, {-5, Meters}},  {fid::ChangeSign, {5, Date}, {-5, Date}},  // units and dates stay
+        {fid::ChangeSign, {5, PresentValue}, {-5, None}},  {fid::ChangeSign, {5, U8}, {-5, None}},
     });
     const FunctionId C = fid::Combinations, P = fid::Permutations;
     CheckOperators({
