@@ -122,8 +122,8 @@ TEST(Macro, KeysWhilePaused) {
                                            fid::Digit0, fid::Multiply, Stop};
     const Case cases[] = {
         {"pause, typing, resume by pause", false, recording, macro, 0, 10},
-        {"resume by record", false, {Rec, 2, Pause, 3, Rec, fid::Add, Stop},
-         {fid::MethodRpn, fid::Digit2, Pause, fid::Digit3, fid::Add, Stop}, 0, 23},
+        {"resume by record", false, {Rec, 2, Pause, 3, Rec, fid::Add},
+         {fid::MethodRpn, fid::Digit2, Pause, fid::Digit3, fid::Add}, Recording, 23},
         {"stop while paused", false, {Rec, 2, Pause, Stop}, {fid::MethodRpn, fid::Digit2, Pause, Stop}, 0, 2},
         {"record while recording", false, {Rec, 2, Rec, Stop}, {fid::MethodRpn, fid::Digit2, Stop}, 0, 2},
         {"play while paused stops and plays up to the pause", false, {Rec, 2, Pause, Play},

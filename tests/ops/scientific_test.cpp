@@ -3,6 +3,7 @@
 #include <cmath>
 #include <span>
 #include <tuple>
+#include <vector>
 
 #include "ops/constants.h"
 #include "ops_test_support.h"
@@ -38,19 +39,6 @@ TEST(Trigonometry, ExactZerosAtMultiplesOfRightAnglesInDegreesAndGrads) {
         EXPECT_TRUE(e.X() == c.result || (std::isnan(c.result) && std::isnan(e.X()))) << e.X();
         EXPECT_EQ(e.state.lastX, c.x);
     }
-}
-
-TEST(Trigonometry, HyperbolicPrefixActsOnTheNextKeyOnlyWithoutAngleConversion) {
-    Engine e = Holding({{90, None}});
-    Press(e, {fid::Degrees, fid::Hyperbolic, fid::Sin});
-    EXPECT_DOUBLE_EQ(e.X(), std::sinh(90.0));
-    EXPECT_FALSE(e.state.status & status::Hyperbolic);
-    Press(e, {1, fid::Hyperbolic, fid::Acos});
-    EXPECT_EQ(e.X(), 0.0);
-    Press(e, {fid::Drop, 3, 0, fid::Sin});  // the prefix was used up
-    EXPECT_DOUBLE_EQ(e.X(), 0.5);
-    Press(e, {fid::Hyperbolic, fid::Hyperbolic, fid::Tan});  // pressed twice: cancelled
-    EXPECT_NEAR(e.X(), std::tan(0.5 * M_PI / 180), 1e-15);
 }
 
 TEST(Functions, ResultsAndTheUnitsTheyKeep) {
@@ -96,26 +84,35 @@ TEST(LastX, SavedByEveryFunctionButAbsoluteValueFloorCeilingPiAndRandom) {
     }
 }
 
-TEST(Coordinates, TakeTheAngleFromYDropUnitsAndUseUpTheEnterMarker) {
+TEST(Coordinates, TakeTheAngleFromYAndDropUnits) {
     Engine e = After({{30, None}, {2, Meters}}, fid::PolarToRect);
-    EXPECT_DOUBLE_EQ(e.X(), 2 * std::cos(M_PI / 6));
+    EXPECT_EQ(std::tuple(e.X(), e.XTag(), e.YTag()), std::tuple(2 * std::cos(M_PI / 6), None, None));
     EXPECT_DOUBLE_EQ(e.Y(), 1.0);
-    EXPECT_EQ(e.XTag(), None);
-    EXPECT_EQ(e.YTag(), None);
-    e = MakeEngine(InputMethod::Simple);  // the algebraic methods leave an Enter marker for them
-    Press(e, {3, fid::Enter, 4, fid::RectToPolar});
-    EXPECT_EQ(e.state.pendingCount, 0);
-    Press(e, {fid::Add, 1, fid::Equals});
-    EXPECT_DOUBLE_EQ(e.X(), 6.0);
 }
 
-TEST(Percent, OfTheRunningTotalOnlyAfterAddOrSubtract) {
-    Engine e = MakeEngine(InputMethod::Simple);
-    Press(e, {2, 0, 0, fid::Multiply, 1, 0, fid::Percent});
-    EXPECT_DOUBLE_EQ(e.X(), 0.1);
-    e = MakeEngine(InputMethod::Rpn);
-    Press(e, {2, 0, 0, fid::Enter, 1, 0, fid::Percent});
-    EXPECT_EQ(std::pair(e.X(), e.Y()), std::pair(20.0, 200.0));  // no drop
+// The hyperbolic prefix acts on the next key only, without angle conversion; pressed twice it is
+// cancelled. Pi and the percent key follow the method: pi keeps a number being typed in RPN and
+// replaces X after an operator; percent is of the running total only after + or -, and in RPN
+// leaves Y. The coordinate keys use up the Enter marker the algebraic methods leave for them.
+TEST(KeySequences, PrefixRecallAndPercentFollowTheMethod) {
+    const struct { const char* name; InputMethod method; std::vector<Key> keys; double x, y; } cases[] = {
+        {"hyperbolic sine in degrees", InputMethod::Rpn, {9, 0, fid::Hyperbolic, fid::Sin}, std::sinh(90.0), 0},
+        {"the prefix is used up", InputMethod::Rpn, {2, fid::Hyperbolic, fid::Acos, 3, 0, fid::Sin}, 0.5, std::acosh(2.0)},
+        {"pressed twice, cancelled", InputMethod::Rpn, {3, 0, fid::Hyperbolic, fid::Hyperbolic, fid::Sin}, 0.5, 0},
+        {"pi keeps a number being typed", InputMethod::Rpn, {2, fid::Enter, 3, fid::Pi}, M_PI, 3},
+        {"pi after an operator", InputMethod::Simple, {2, fid::Multiply, fid::Pi, fid::Equals}, 2 * M_PI, 0},
+        {"percent of x", InputMethod::Simple, {2, 0, 0, fid::Multiply, 1, 0, fid::Percent}, 0.1, 200},
+        {"percent in RPN leaves y", InputMethod::Rpn, {2, 0, 0, fid::Enter, 1, 0, fid::Percent}, 20, 200},
+        {"coordinates use up the enter marker", InputMethod::Simple,
+         {3, fid::Enter, 4, fid::RectToPolar, fid::Add, 1, fid::Equals}, 6, std::atan2(3.0, 4.0) * 180 / M_PI},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        Engine e = MakeEngine(c.method);
+        Press(e, c.keys);
+        EXPECT_DOUBLE_EQ(e.X(), c.x);
+        EXPECT_DOUBLE_EQ(e.Y(), c.y);
+    }
 }
 
 TEST(RoundToDisplay, KeepsWhatTheDisplayShowsAndEndsTheFullDisplay) {
@@ -132,15 +129,6 @@ TEST(RoundToDisplay, KeepsWhatTheDisplayShowsAndEndsTheFullDisplay) {
     e.Dispatch(fid::RoundToDisplay);
     EXPECT_EQ(e.X(), 123500.0);
     EXPECT_EQ(After({{kErrorValue, None}}, fid::RoundToDisplay).X(), kErrorValue);  // the formatter refuses it
-}
-
-TEST(RecallLift, PiKeepsANumberBeingTypedInRpnAndReplacesItAfterAnOperator) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {2, fid::Enter, 3, fid::Pi});
-    EXPECT_EQ(std::tuple(e.X(), e.Y(), e.Level(2).value), std::tuple(M_PI, 3.0, 2.0));
-    e = MakeEngine(InputMethod::Simple);
-    Press(e, {2, fid::Multiply, fid::Pi, fid::Equals});
-    EXPECT_DOUBLE_EQ(e.X(), 2 * M_PI);
 }
 
 TEST(Random, StoresTheFifteenBitGeneratorsStateWhichWrapsModulo2To32) {
