@@ -10,7 +10,7 @@
 
 #include "engine/value_tags.h"
 #include "finance/amortization_schedule.h"
-#include "finance_test_support.h"
+#include "engine/engine_test_support.h"
 
 namespace brinto {
 namespace {

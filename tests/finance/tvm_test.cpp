@@ -6,7 +6,7 @@
 #include "engine/value_tags.h"
 #include "finance/solver.h"
 #include "finance/tvm.h"
-#include "finance_test_support.h"
+#include "engine/engine_test_support.h"
 
 namespace brinto {
 namespace {

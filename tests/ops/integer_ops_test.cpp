@@ -111,20 +111,5 @@ TEST(IntegerTags, BaseKeysMakeAPlainNumberTheWholeNumberShown) {
     }
 }
 
-TEST(IntegerTags, HexadecimalEntryAndDisplay) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    e.state.status |= 4;
-    e.prefs.SetIntegerFormat(kDefaultS8);
-    Press(e, {fid::BaseHex, fid::HexF, fid::HexF, fid::Enter, 1, fid::IntegerAdd});
-    EXPECT_EQ(e.X(), 0.0);  // FF is -1 in s8
-    Press(e, {fid::Not});
-    EXPECT_EQ(XText(e), "FF.");
-    Press(e, {fid::BaseBinary});
-    EXPECT_EQ(XText(e), "11111111.");
-    Press(e, {fid::BaseDecimal});
-    EXPECT_EQ(XText(e), "-1.");
-    EXPECT_EQ(XLabel(e), "s8");
-}
-
 }  // namespace
 }  // namespace brinto
