@@ -1,7 +1,11 @@
 #include "engine_invariants.h"
 
+#include <cmath>
 #include <cstring>
 
+#include "display/display_text.h"
+#include "engine/algebraic.h"
+#include "engine/numeric/integer_format.h"
 #include "fuzz_check.h"
 
 namespace brinto::fuzz {
@@ -9,6 +13,12 @@ namespace brinto::fuzz {
 namespace {
 bool IsMantissaChar(char c) { return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'F'); }
 bool IsDecimalDigit(char c) { return c >= '0' && c <= '9'; }
+
+bool IsIntegerResult(FunctionId id) {
+    return id == fid::Not || (id >= fid::And && id <= fid::Xor) || (id >= fid::ShiftLeft && id <= fid::RotateRight) ||
+           (id >= fid::FormatU8 && id <= fid::FormatS32) || id == fid::ToDefaultFormat ||
+           (id >= fid::IntegerNegate && id <= fid::IntegerDivide);
+}
 }  // namespace
 
 bool WellFormedEntryText(const char* text, std::size_t capacity) {
@@ -52,6 +62,15 @@ void CheckEngineInvariants(const Engine& e) {
     FUZZ_CHECK(undo + redo <= kHistoryRecords, "more history steps than the ten records");
     FUZZ_CHECK(e.history.CanUndo() == (undo > 0) && e.history.CanRedo() == (redo > 0),
                "history answers disagree with its counts");
+}
+
+void CheckKeyResult(const Engine& e, FunctionId key, bool acted) {
+    FUZZ_CHECK(!DisplayLevel(e, 0).text.empty(), "X shows nothing");
+    // In Simple and Precedence a two-operand key only waits on the pending stack.
+    if (!acted || !IsIntegerResult(key) || (!e.IsRpn() && IsBinaryOperator(key))) return;
+    if (IsIntegerFormatTag(e.XTag()) && std::isfinite(e.X())) {
+        FUZZ_CHECK(Narrow(e.X(), e.XTag(), e.XTag()) == e.X(), "an integer key left no whole number of its format");
+    }
 }
 
 }  // namespace brinto::fuzz

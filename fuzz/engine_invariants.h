@@ -13,4 +13,9 @@ bool WellFormedEntryText(const char* text, std::size_t capacity);
 // Aborts with a message naming the first invariant that does not hold.
 void CheckEngineInvariants(const Engine& e);
 
+// Aborts when X, just after `key`, shows nothing, or when an integer key that acted (`acted`:
+// accepted, and not taken as a register prefix's argument) left a value that is no whole number
+// of the integer format it is tagged with.
+void CheckKeyResult(const Engine& e, FunctionId key, bool acted);
+
 }  // namespace brinto::fuzz

@@ -1,9 +1,12 @@
 // Whatever a damaged or hostile database holds: records of every kind, of any size and any bytes,
 // are put in an in-memory store and loaded. The loaded calculator must then hold the engine's
 // invariants and take keys, and saving and loading it again must give the same records (the
-// repairs of the first load are complete).
+// repairs of the first load are complete). The seeds load values no calculation should produce
+// (NaN, infinities, huge and denormal numbers, dates beyond the range, damaged cash-flow lists and
+// amortization ranges) under every kind of tag and press every key of every family on them.
 #include <cstdint>
 #include <cstring>
+#include <iterator>
 #include <memory>
 #include <vector>
 
@@ -69,9 +72,15 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     LoadState(*again, againKeys, store);
     FUZZ_CHECK(SameCalculator(*engine, userKeys, *again, againKeys), "a saved and reloaded state differs");
 
-    for (const FunctionId id : kProbeKeys) {
-        engine->Dispatch(id);
+    // The bytes after the records are keys, one id each; without any, the probe keys.
+    std::vector<FunctionId> keys(std::begin(kProbeKeys), std::end(kProbeKeys));
+    if (!in.Done()) keys.clear();
+    while (!in.Done()) keys.push_back(FunctionIdFrom(in.U8()));
+    for (const FunctionId id : keys) {
+        const bool ownKey = engine->state.pendingArgument == kNoPendingArgument;  // no register prefix takes it
+        const bool accepted = engine->Dispatch(id);
         brinto::fuzz::CheckEngineInvariants(*engine);
+        brinto::fuzz::CheckKeyResult(*engine, id, accepted && ownKey);
     }
     engine->history.Undo(engine->Records(), false);
     brinto::fuzz::CheckEngineInvariants(*engine);

@@ -6,6 +6,7 @@ a paste, a legacy export...), so that the fuzzers start from inputs that reach d
 having to discover the key codes and record layouts by chance. Run it again after changing a
 target's input layout; the files are kept in the repository.
 """
+import math
 import os
 import struct
 import sys
@@ -40,6 +41,7 @@ SESSION = {
     "simple_and_precedence": keys(SIMPLE, 2, ADD, 3, MUL, 5, EQ, PRECEDENCE, 2, ADD, 3, MUL, 5, EQ, EQ,
                                   47, 2, ADD, 47, 3, 48, 48, MUL, MUL, 4, EQ),
     "entry_editing": keys(1, 16, 2, 3, 18, 19, 4, 5, 6, 7, 20, 20, 19, 17, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9),
+    "entry_edited_to_nothing": keys(1, 19, 4, 20, 20, 19, 2, ADD, 5, 19, 20, 19),
     "undo_redo": keys(RPN, 1, ENTER, 2, ADD, 3, MUL) + step("Undo") + step("Undo") + step("Redo")
     + keys(7) + step("Redo") + step("Undo") * 12,
     "macro": keys(RPN, 212, 1, ENTER, 2, ADD, 214, 3, MUL, 215, 213, 213, 214, 215, 212) + keys(*([1] * 64)) + keys(213),
@@ -116,28 +118,38 @@ def preferences(word2=0x0290, word3=0x0002, version=7):
 
 
 def calc_state(x=5.0, y=0.0, status=0x0800, engine_flags=0x0020, entry=b"", pending=(), version=7,
-               macro_position=0, last_key=255):
+               macro_position=0, last_key=255, levels=None, amortization=None):
+    """levels: (value, tag) from X up, instead of x and y; amortization: (start, end, step, balance)."""
     b = bytearray(576)
     struct.pack_into("<HHHHHBB", b, 0, version, status, 0, 0, engine_flags, len(entry), 0)
     b[12:12 + len(entry)] = entry
-    struct.pack_into("<20d", b, 56, x, y, *([0.0] * 18))
+    levels = (levels or [(x, 0), (y, 0)]) + [(0.0, 0)] * 20
+    struct.pack_into("<20d", b, 56, *[value for value, _ in levels[:20]])
+    struct.pack_into("<20H", b, 216, *[tag for _, tag in levels[:20]])
     struct.pack_into("<20H", b, 256, *([0xFFFF] * 20))
     struct.pack_into("<H", b, 296, len(pending))
     struct.pack_into("<II", b, 300, 255, 255)
     struct.pack_into("<%dI" % len(pending), b, 308, *pending) if pending else None
     struct.pack_into("<I", b, 468, 255)
     struct.pack_into("<dHH", b, 472, 0.0, 0, 0xFFFF)
+    if amortization:
+        start, end, step, balance = amortization
+        struct.pack_into("<dhhH", b, 504, balance, start, end, step)
     struct.pack_into("<HIH", b, 518, macro_position, 211, 0)
     struct.pack_into("<III", b, 528, last_key, last_key, 1)
     return bytes(b)
 
 
-def register_bank(values=None, cash_flows=-1, version=7):
+def register_bank(values=None, cash_flows=-1, version=7, every=None, groups=None):
+    """every: one value in all 124 registers; groups: one group count for all 100 entries."""
     b = bytearray(1616)
     struct.pack_into("<Hh", b, 0, version, cash_flows)
-    v = [0.0] * 124
-    v[106] = 12.0
-    v[119:124] = [365.25, 30.4375, 7.0, 24.0, 30.0]
+    if groups is not None:
+        struct.pack_into("<100I", b, 220, *([groups] * 100))
+    v = [every] * 124 if every is not None else [0.0] * 124
+    if every is None:
+        v[106] = 12.0
+        v[119:124] = [365.25, 30.4375, 7.0, 24.0, 30.0]
     for k, value in (values or {}).items():
         v[k] = value
     struct.pack_into("<124d", b, 624, *v)
@@ -183,6 +195,41 @@ LOAD_STATE = {
                                       record(0, b"")),
 }
 
+# Values no calculation should produce under every kind of tag (units, integer formats, durations,
+# dates, a financial label), then every key of every family pressed on them in turn, in each
+# input method, angle unit and integer entry base, on the programmer keyboard (status 4) and off
+# it; and every key again on financial registers that are not numbers, huge, negative or damaged.
+# Not pressed: the clears, the macro keys and the register prefixes (they would take the next key
+# as their register).
+ODD = [float("nan"), float("inf"), -float("inf"), 5e-324, -0.0, 1e300, -1e300, 4294967296.0 * 3 + 5,
+       -2147483649.0, 4039372800.0, 0.5, 170.0]
+TAGS = [0, 1903, 1915, 1918, 1910, 1904, 1922, 1924, 1925, 1928, 1929, 1800, 1801, 1802, 1803, 1804, 1808,
+        1811, 1404]
+EVERY_KEY = bytes(k for k in range(256) if k not in (29, 30, 31, 32, 33, 34, 35, 36, 37, 185, 43, 45, 46)
+                  and not 212 <= k <= 215 and not 244 <= k <= 249)
+
+
+def odd_levels(shift):
+    return [(ODD[(k + shift) % len(ODD)], TAGS[(3 * k + shift) % len(TAGS)]) for k in range(20)]
+
+
+for n, (status, word2, angle) in enumerate([(0x0804, 0x0051, 0), (0x0824, 0x00D1, 1), (0x0834, 0x0251, 2),
+                                            (0x0800, 0x0050, 0), (0x0804, 0x0352, 1)]):
+    LOAD_STATE["odd_values_%d" % n] = store(record(1, preferences(word2)), record(
+        2, calc_state(status=status, engine_flags=0x0020 * (word2 & 1) | angle << 14, levels=odd_levels(n)))) + EVERY_KEY
+for name, bank, amortization in [
+        ("not_numbers", register_bank(every=float("nan")), None),
+        ("infinite", register_bank(every=float("inf")), None),
+        ("negative_huge", register_bank(every=-1e308), None),
+        ("negative_periods", register_bank({100: -5.5}), (3, 0, 0, 0.0)),
+        ("far_negative_periods", register_bank({100: -1e300}), (3, 0, 0, 0.0)),
+        ("many_periods", register_bank({100: 1e300}), (0, 32767, 0, 0.0)),
+        ("full_list", register_bank(cash_flows=99, groups=0x7FFFFFFF), None),
+        ("negative_groups", register_bank(cash_flows=5, groups=0x80000000), None),
+        ("damaged_count", register_bank(cash_flows=300), None),
+        ("damaged_amortization", register_bank(), (-32768, 0, 7, float("nan")))]:
+    LOAD_STATE["registers_" + name] = store(record(1, preferences(0x0351)), record(3, bank), record(
+        2, calc_state(x=-2.5, y=float("nan"), amortization=amortization))) + EVERY_KEY
 
 # legacy_import_fuzzer: registry export files.
 def hex_value(name, data):
@@ -218,6 +265,21 @@ LEGACY = {
 }
 
 
+# rounding_fuzzer: a double and a count of places. Decimal ties (k.5 units of the last place), the
+# doubles beside them, which become ties when cut to 12 digits, and values the display rounds up
+# across a power of ten.
+def rounding(value, places):
+    return struct.pack("<dB", value, places)
+
+
+ROUNDING = {"tie_%d" % n: rounding(float(text), places) for n, (text, places) in enumerate(
+    [("0.125", 2), ("1.005", 2), ("-1.005", 2), ("999.995", 2), ("0.005", 2), ("0.5", 0), ("45.5", 0),
+     ("2689.2104999999998", 3), ("1234567890.12345", 3), ("12345678905e-1", 0), ("7385e-4", 3),
+     ("1e20", 2), ("0.0049", 2)])}
+ROUNDING.update({"beside_tie_%d" % n: rounding(math.nextafter(float(text), toward), places)
+                 for n, (text, places, toward) in enumerate([("2.675", 2, 0.0), ("2.675", 2, 10.0),
+                                                             ("81.0000005", 6, 100.0), ("0.45", 1, 0.0)])})
+
 def write(target, seeds):
     folder = os.path.join(HERE, "corpus", target)
     os.makedirs(folder, exist_ok=True)
@@ -227,7 +289,7 @@ def write(target, seeds):
 
 
 TARGETS = {"session_keys_fuzzer": SESSION, "paste_fuzzer": PASTE, "cli_fuzzer": CLI,
-           "load_state_fuzzer": LOAD_STATE, "legacy_import_fuzzer": LEGACY}
+           "load_state_fuzzer": LOAD_STATE, "legacy_import_fuzzer": LEGACY, "rounding_fuzzer": ROUNDING}
 
 if __name__ == "__main__":
     for target, seeds in TARGETS.items():

@@ -6,6 +6,8 @@
 #include <cstring>
 #include <limits>
 #include <memory>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <tuple>
 
@@ -49,78 +51,64 @@ struct DisplayTextTest : testing::Test {
     Engine& e = *engine;
 };
 
-TEST_F(DisplayTextTest, GroupsDigitsBeforeTheRadix) {
-    struct Case { double value; std::string_view point, comma; };
-    const Case cases[] = {
-        {123, "123.", "123,"},       {1234, "1,234.", "1.234,"},   {123456, "123,456.", "123.456,"},
-        {-1234567, "-1,234,567.", "-1.234.567,"},                  {1.23456e15, "1.23456e15", "1,23456e15"},
+// How a value shows under each number format, radix, entry base and integer format: digits are
+// grouped before the radix only in decimal; trailing zeros go unless a digit count asks for them
+// (and always from an integer format's mantissa); integer bases show the bits of the value's own
+// format, else the preferred one, ungrouped; dates keep their text in any base.
+TEST_F(DisplayTextTest, ValuesShowAsFormatRadixBaseAndTagSay) {
+    struct Look {
+        NumberFormat format = NumberFormat::Standard;
+        int digits = 0;
+        bool comma = false;
+        u16 status = 0;
+        int integers = 5;  // the preferred integer format: s32
+        bool longDate = false;
     };
-    for (const Case& c : cases) {
-        e.prefs.SetCommaRadix(false);
-        EXPECT_EQ(Shown(c.value), c.point);
-        e.prefs.SetCommaRadix(true);
-        EXPECT_EQ(Shown(c.value), c.comma);
-    }
-    e.prefs.SetCommaRadix(false);
-    e.prefs.SetFormat(NumberFormat::Engineering);
-    EXPECT_EQ(Shown(123456789), "123.456789e6");
-}
-
-TEST_F(DisplayTextTest, TrailingZerosGoUnlessADigitCountAsksForThem) {
-    e.prefs.SetFormat(NumberFormat::Fixed);
-    e.prefs.SetDigitField(3);
-    EXPECT_EQ(Shown(1234.5), "1,234.50");
-    EXPECT_EQ(Formatted(0.5, kU8), "0.50");  // the display, not the formatter, drops integer zeros
-    EXPECT_EQ(Shown(44, kU8), "44.");
-    EXPECT_EQ(Shown(100, kU8), "100.");  // zeros before the point stay
-    e.state.status = status::FullDisplay;
-    EXPECT_EQ(Formatted(1.0 / 3.0), "0.333333333333");
-    e.state.status = 0;
-    e.prefs.SetFormat(NumberFormat::Scientific);
-    EXPECT_EQ(Shown(1), "1.00e0");
-    EXPECT_EQ(Shown(1e10, kU8), "1.e10");  // zeros go from the mantissa, not the exponent
-    e.prefs.SetCommaRadix(true);
-    EXPECT_EQ(Shown(2.5, kU8), "2,5e0");
-}
-
-TEST_F(DisplayTextTest, IntegerBasesShowTheBitsOfTheValuesFormatUngrouped) {
-    struct Case { u16 base; int preference; double value; ValueTag tag; std::string_view text; };
+    using enum NumberFormat;
     const u16 hex = status::BaseHex, binary = status::BaseBinary, octal = status::BaseOctal;
-    const Case cases[] = {
-        {hex, 5, 300, kU8, "2C."},        {hex, 5, -1, kS8, "FF."},     {hex, 5, -2, kS16, "FFFE."},
-        {hex, 0, 256, ValueTag::None, "0."},           {hex, 2, -1, kMeters, "FFFF."}, {hex, 6, -1, ValueTag::None, "FFFFFFFF."},
-        {hex, 5, 255.9, ValueTag::None, "FF."},        {hex, 5, 3735928559, kU32, "DEADBEEF."}, {hex, 5, 0x12345678, kU32, "12345678."},
-        {binary, 5, -128, kS8, "10000000."}, {binary, 5, 16, kU8, "10000."}, {octal, 5, -1, kS32, "37777777777."},
-        {octal, 5, 8, ValueTag::None, "10."},          {octal, 5, 0, ValueTag::None, "0."},
+    const Look point, comma{.comma = true}, eng{.format = Engineering}, full{.status = status::FullDisplay},
+        fixed3{.format = Fixed, .digits = 3}, sci3{.format = Scientific, .digits = 3},
+        sci3Comma{.format = Scientific, .digits = 3, .comma = true}, hex5{.status = hex}, hexU8{.status = hex, .integers = 0},
+        hexU16{.status = hex, .integers = 2}, hexNone{.status = hex, .integers = 6}, binary5{.status = binary},
+        octal5{.status = octal}, octalComma{.comma = true, .status = octal}, hexComma{.comma = true, .status = hex},
+        hexLong{.comma = true, .status = hex, .longDate = true},
+        fullHex{.digits = 3, .comma = true, .status = status::FullDisplay | hex};
+    const ValueTag None = ValueTag::None;
+    const struct { Look look; double value; ValueTag tag; std::string_view text; } cases[] = {
+        {point, 123, None, "123."},              {comma, 123, None, "123,"},          {point, 1234, None, "1,234."},
+        {comma, 1234, None, "1.234,"},           {point, 123456, None, "123,456."},   {comma, 123456, None, "123.456,"},
+        {point, -1234567, None, "-1,234,567."},  {comma, -1234567, None, "-1.234.567,"},
+        {point, 1.23456e15, None, "1.23456e15"}, {comma, 1.23456e15, None, "1,23456e15"},
+        {eng, 123456789, None, "123.456789e6"},  {full, 1.0 / 3.0, None, "0.333333333333"},
+        {fixed3, 1234.5, None, "1,234.50"},      {fixed3, 44, kU8, "44."},            {fixed3, 100, kU8, "100."},
+        {sci3, 1, None, "1.00e0"},               {sci3, 1e10, kU8, "1.e10"},          {sci3Comma, 2.5, kU8, "2,5e0"},
+        {hex5, 300, kU8, "2C."},                 {hex5, -1, kS8, "FF."},              {hex5, -2, kS16, "FFFE."},
+        {hexU8, 256, None, "0."},                {hexU16, -1, kMeters, "FFFF."},      {hexNone, -1, None, "FFFFFFFF."},
+        {hex5, 255.9, None, "FF."},              {hex5, 3735928559, kU32, "DEADBEEF."},
+        {hex5, 0x12345678, kU32, "12345678."},   {binary5, -128, kS8, "10000000."},   {binary5, 16, kU8, "10000."},
+        {octal5, -1, kS32, "37777777777."},      {octal5, 8, None, "10."},            {octal5, 0, None, "0."},
+        {octalComma, -1, kS32, "37777777777,"},  {point, kMarch15, kTime, "14:05"},   {point, 0, kDate, "1904-01-01"},
+        {point, kMaxDateValue, kDateTime, "2031-12-31 23:59"},                        {hexComma, kMarch15, kDate, "2005-03-15"},
+        {hexLong, kMarch15, kDateTime, "Tuesday, 15 March 2005 14:05"},
+        {fullHex, 3.5e9, kDate, "3500000000,"},  {fullHex, -1, kDate, "-1,"},  // the number, radix applied but not grouped
     };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(testing::Message() << c.value << " tag " << c.tag << " preference " << c.preference);
-        e.state.status = c.base;
-        e.prefs.SetIntegerFormat(c.preference);
+    for (const auto& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.value << " tag " << c.tag);
+        e.prefs.SetFormat(c.look.format);
+        e.prefs.SetDigitField(c.look.digits);
+        e.prefs.SetCommaRadix(c.look.comma);
+        e.prefs.SetIntegerFormat(c.look.integers);
+        e.prefs.SetLongDate(c.look.longDate);
+        e.state.status = c.look.status;
         EXPECT_EQ(Shown(c.value, c.tag), c.text);
     }
-    EXPECT_EQ(Formatted(255, kU8, true), "377");  // in octal, without the point
-    EXPECT_EQ(Formatted(kInfinity, kU8), "refused");  // the error value stays visible
-    e.prefs.SetCommaRadix(true);
-    EXPECT_EQ(Shown(-1, kS32), "37777777777,");  // the point still follows the radix preference
-}
-
-TEST_F(DisplayTextTest, DatesKeepThePlatformsTextInAnyBase) {
-    EXPECT_EQ(Shown(kMarch15, kTime), "14:05");
-    EXPECT_EQ(Shown(0, kDate), "1904-01-01");
-    EXPECT_EQ(Shown(kMaxDateValue, kDateTime), "2031-12-31 23:59");
-    e.state.status = status::BaseHex;
-    e.prefs.SetCommaRadix(true);
-    EXPECT_EQ(Shown(kMarch15, kDate), "2005-03-15");
-    e.prefs.SetLongDate(true);
-    EXPECT_EQ(Shown(kMarch15, kDateTime), "Tuesday, 15 March 2005 14:05");
+    e.state.status = octal;
+    EXPECT_EQ(Formatted(255, kU8, true), "377");  // without the point
+    e.state.status = 0;
     for (const double outside : {-1.0, kMaxDateValue + 1.0, std::nan(""), kInfinity}) {
         EXPECT_EQ(Formatted(outside, kDate), "refused") << outside;
     }
-    e.state.status = status::FullDisplay | status::BaseHex;  // the number, radix applied but not grouped
-    e.prefs.SetDigitField(3);
-    EXPECT_EQ(Shown(3.5e9, kDate), "3500000000,");
-    EXPECT_EQ(Shown(-1, kDate), "-1,");
+    EXPECT_EQ(Formatted(kInfinity, kU8), "refused");  // the error value stays visible
 }
 
 TEST_F(DisplayTextTest, TheNumberBeingTypedShowsAsTyped) {
@@ -141,23 +129,6 @@ TEST_F(DisplayTextTest, TheNumberBeingTypedShowsAsTyped) {
     EXPECT_EQ(DisplayLevel(e, 0).text, "FFFF0");
     Put(1, 1234.5);
     EXPECT_EQ(DisplayLevel(e, 1).text, "4D2.");  // other levels show their values
-}
-
-TEST(EmptyEntry, AnEntryEditedToNothingShowsZero) {
-    // Typing a digit, changing the sign, then erasing both leaves the entry open with X zero: the
-    // display shows the zero a cleared X shows, not a blank line.
-    const FunctionId cases[][6] = {
-        {fid::Digit1, fid::ChangeSign, fid::Digit4, fid::Backspace, fid::Backspace, fid::ChangeSign},
-        {fid::Digit2, fid::Add, fid::Digit5, fid::ChangeSign, fid::Backspace, fid::ChangeSign},
-    };
-    const std::string zero = DisplayLevel(*std::make_unique<Engine>(), 0).text;
-    for (const auto& keys : cases) {
-        auto e = std::make_unique<Engine>();
-        for (const FunctionId id : keys) e->Dispatch(id);
-        EXPECT_EQ(e->X(), 0.0);
-        EXPECT_EQ(DisplayLevel(*e, 0).text, zero);
-    }
-    EXPECT_FALSE(zero.empty());
 }
 
 TEST_F(DisplayTextTest, ValuesTheFormatterRefusesShowError) {
@@ -210,6 +181,58 @@ TEST_F(DisplayTextTest, ClipboardGetsThePlainNumber) {
     e.state.status = status::BaseHex;
     Put(0, 255, kU8);
     EXPECT_EQ(ClipboardText(e), "FF");
+}
+
+TEST(FormatDecimal, FormsDigitsAndCarries) {
+    struct Case { double value; NumberFormat format; int digitField; std::string_view text; };
+    const NumberFormat Std = NumberFormat::Standard, Fix = NumberFormat::Fixed, Sci = NumberFormat::Scientific,
+                       Eng = NumberFormat::Engineering;
+    const Case cases[] = {
+        {12, Std, 0, "12."},                         {0, Std, 0, "0."},
+        {-0.0, Std, 0, "0."},                        {-1234.5, Std, 0, "-1234.5"},
+        {0.1 + 0.2, Std, 0, "0.3"},                  {9.9999999999999, Std, 0, "10."},
+        {999999999999, Std, 0, "999999999999."},     {1e12, Std, 0, "1.e12"},
+        {999999999999.5, Std, 0, "1.e12"},           {1e-12, Std, 0, "0.000000000001"},
+        {1e-13, Std, 0, "1.e-13"},                   {0.123456789012, Std, 0, "0.123456789012"},
+        {0.0123456789012, Std, 0, "1.23456789012e-2"}, {5e-324, Std, 0, "5.e-324"},
+        {1.0 / 3.0, Std, 3, "0.33"},                 {0.01, Std, 3, "0.01"},
+        {0.001, Std, 3, "1.00e-3"},                  {123456789012.25, Std, 4, "123456789012."},
+        {2.0 / 3.0, Fix, 3, "0.67"},                 {0.996, Fix, 3, "1.00"},
+        {2.5, Fix, 1, "3."},                         {0.004, Fix, 3, "0.00"},
+        {0.006, Fix, 3, "0.01"},                     {1e-9, Fix, 3, "0.00"},
+        {-0.004, Fix, 3, "-0.00"},                   {12345678901.25, Fix, 4, "12345678901.3"},
+        {123456789012, Fix, 6, "123456789012."},     {1e13, Fix, 3, "1.00e13"},
+        {0.000123456789012345, Fix, 0, "0.000123456789"}, {1e-13, Fix, 0, "0."},
+        {6e-13, Fix, 0, "0.000000000001"},           {123456, Sci, 0, "1.23456e5"},
+        {123456, Sci, 3, "1.23e5"},                  {1, Sci, 3, "1.00e0"},
+        {9.96, Sci, 2, "1.0e1"},                     {0.000123, Sci, 0, "1.23e-4"},
+        {-2.5e-300, Sci, 0, "-2.5e-300"},            {1.0 / 3.0, Sci, 15, "3.33333333333e-1"},
+        {123456, Eng, 0, "123.456e3"},               {12, Eng, 0, "12.e0"},
+        {1e5, Eng, 0, "100.e3"},                     {0.000123, Eng, 0, "123.e-6"},
+        {123456, Eng, 2, "120.e3"},                  {1234, Eng, 4, "1.234e3"},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.value << " format " << static_cast<int>(c.format) << " digits "
+                                        << c.digitField);
+        FormattedText out;
+        EXPECT_EQ(FormatDecimal(c.value, c.format, c.digitField, out), 0u);
+        EXPECT_EQ(out.View(), c.text);
+    }
+    FormattedText out;
+    EXPECT_EQ(FormatDecimal(kInfinity, Std, 0, out), 1u);
+    EXPECT_EQ(out.View(), "inf");
+    EXPECT_EQ(FormatDecimal(std::nan(""), Fix, 3, out), 1u);
+}
+
+TEST(ParseDecimal, ReadsWholeDecimalTextsOnly) {
+    const std::optional<double> none;
+    const std::pair<std::string_view, std::optional<double>> cases[] = {
+        {"12.5", 12.5},   {"-3", -3.0},    {".5", 0.5},       {"-.5e-3", -0.0005}, {"1e5", 1e5},   {"12.", 12.0},
+        {"0.1", 0.1},     {"1e999", kInfinity},               {"-1e999", -kInfinity}, {"1e-999", 0.0},
+        {"", none},       {"abc", none},   {"1.2.3", none},   {"12 ", none},      {"inf", none},   {"nan", none},
+        {"+1", none},     {"1e", none},
+    };
+    for (const auto& [text, value] : cases) EXPECT_EQ(ParseDecimal(text), value) << text;
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 // Helpers for driving an engine with keys, as a user does.
 #include <initializer_list>
 #include <ostream>
+#include <string_view>
+#include <vector>
 
 #include "display/labels.h"
 #include "engine/engine.h"
@@ -45,6 +47,24 @@ struct Key {
 
 inline void Press(Engine& e, std::initializer_list<Key> keys) {
     for (const Key k : keys) e.Dispatch(k.id);
+}
+inline void Press(Engine& e, const std::vector<Key>& keys) {
+    for (const Key k : keys) e.Dispatch(k.id);
+}
+
+// Digits, point and exponent; a leading minus is the change-sign key pressed after the digits.
+inline void Type(Engine& e, std::string_view number) {
+    const bool negative = !number.empty() && number.front() == '-';
+    for (const char c : number.substr(negative ? 1 : 0)) {
+        e.Dispatch(c == '.' ? fid::Point : c == 'e' ? fid::Exponent : DigitKey(c - '0'));
+    }
+    if (negative) e.Dispatch(fid::ChangeSign);
+}
+
+// Types a number and presses the key that stores it.
+inline void Store(Engine& e, std::string_view number, FunctionId key) {
+    Type(e, number);
+    e.Dispatch(key);
 }
 
 }  // namespace brinto::test

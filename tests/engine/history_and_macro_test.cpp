@@ -61,16 +61,6 @@ TEST(History, FirstShiftSurvivesUndoOnlyWhenSticky) {
     }
 }
 
-TEST(Macro, RecordsFromTheMethodKeyToStop) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {fid::MacroRecord, 2, fid::Multiply, fid::MacroStop});
-    ASSERT_EQ(e.macro.macroLength, 4);
-    EXPECT_EQ(e.macro.macroKeys[0], fid::MethodRpn);
-    EXPECT_EQ(e.macro.macroKeys[3], fid::MacroStop);
-    Press(e, {2, 1, fid::MacroPlay});
-    EXPECT_EQ(e.X(), 42.0);
-}
-
 // Playback leaves X, the method the user chose, and no playback running.
 TEST(Macro, PlaybackInTheRecordedMethodUpToAnErrorOrTheEnd) {
     const struct {
@@ -92,7 +82,7 @@ TEST(Macro, PlaybackInTheRecordedMethodUpToAnErrorOrTheEnd) {
     for (const auto& c : cases) {
         SCOPED_TRACE(c.name);
         Engine e = MakeEngine(InputMethod::Rpn);
-        for (const test::Key k : c.keys) e.Dispatch(k.id);
+        Press(e, c.keys);
         EXPECT_TRUE(std::isnan(c.x) ? IsErrorValue(e.X()) : e.X() == c.x) << e.X();
         EXPECT_EQ(e.IsRpn(), c.rpn);
         EXPECT_FALSE(e.state.engineFlags & flags::Playing);
@@ -110,17 +100,54 @@ TEST(Macro, PlaybackIsOneUndoStep) {
     EXPECT_EQ(e.X(), before);
 }
 
-TEST(Macro, PauseStopsPlaybackUntilResumed) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {fid::MacroRecord, 1, fid::Add, fid::MacroPause, 1, 0, fid::Multiply, fid::MacroStop});
-    Press(e, {fid::MacroPause});  // the recorder is paused by the recorded pause: resume to stop cleanly
-    Press(e, {5, fid::Enter});
-    e.Dispatch(fid::MacroPlay);
-    EXPECT_EQ(e.X(), 6.0);
-    EXPECT_TRUE(e.state.engineFlags & flags::Paused);
-    e.Dispatch(fid::MacroPlay);
-    EXPECT_EQ(e.X(), 60.0);
-    EXPECT_FALSE(e.state.engineFlags & flags::Playing);
+// While a recording is paused the keys still go into the macro, after the recorded pause where
+// playback will wait, but the macro keys do not: record or pause resumes, play or stop ends the
+// recording. While a playback is paused, play or pause resumes it, stop ends it in the user's
+// method, Clear Stack in the preferred one, and record starts a new macro.
+TEST(Macro, KeysWhilePaused) {
+    constexpr FunctionId Rec = fid::MacroRecord, Play = fid::MacroPlay, Pause = fid::MacroPause, Stop = fid::MacroStop;
+    constexpr u16 Recording = flags::Recording, Playing = flags::Playing, Paused = flags::Paused;
+    struct Case {
+        const char* name;
+        bool fromMacro;  // the keys follow the recording below
+        std::vector<test::Key> keys;
+        std::vector<FunctionId> recorded;  // empty: that recording, unchanged
+        u16 flags;                         // recording, playing and paused
+        double x;
+        bool rpn = true;
+    };
+    // Recorded in RPN: x + 1, a pause, times 10.
+    const std::vector<test::Key> recording = {Rec, 1, fid::Add, Pause, 1, 0, Pause, fid::Multiply, Stop};
+    const std::vector<FunctionId> macro = {fid::MethodRpn, fid::Digit1, fid::Add, Pause, fid::Digit1,
+                                           fid::Digit0, fid::Multiply, Stop};
+    const Case cases[] = {
+        {"pause, typing, resume by pause", false, recording, macro, 0, 10},
+        {"resume by record", false, {Rec, 2, Pause, 3, Rec, fid::Add},
+         {fid::MethodRpn, fid::Digit2, Pause, fid::Digit3, fid::Add}, Recording, 23},
+        {"stop while paused", false, {Rec, 2, Pause, Stop}, {fid::MethodRpn, fid::Digit2, Pause, Stop}, 0, 2},
+        {"record while recording", false, {Rec, 2, Rec, Stop}, {fid::MethodRpn, fid::Digit2, Stop}, 0, 2},
+        {"play while paused stops and plays up to the pause", false, {Rec, 2, Pause, Play},
+         {fid::MethodRpn, fid::Digit2, Pause, Stop}, Playing | Paused, 2},
+        {"played up to the pause", true, {fid::MethodSimple, 4, Play}, {}, Playing | Paused, 5},
+        {"play resumes", true, {fid::MethodSimple, 4, Play, Play}, {}, 0, 50, false},
+        {"pause resumes", true, {fid::MethodSimple, 4, Play, Pause}, {}, 0, 50, false},
+        {"a digit typed while paused begins the recorded number", true, {fid::MethodSimple, 4, Play, 2, Pause}, {}, 0,
+         1050, false},
+        {"stop ends it in the user's method", true, {fid::MethodSimple, 4, Play, Stop}, {}, 0, 5, false},
+        {"clear stack ends it in the preferred method", true, {fid::MethodSimple, 4, Play, fid::ClearStack}, {}, 0, 0},
+        {"record ends it and starts anew", true, {fid::MethodSimple, 4, Play, Rec}, {fid::MethodRpn}, Recording, 5},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        Engine e = MakeEngine(InputMethod::Rpn);
+        if (c.fromMacro) Press(e, recording);
+        Press(e, c.keys);
+        const std::vector<FunctionId> recorded(e.macro.macroKeys, e.macro.macroKeys + e.macro.macroLength);
+        EXPECT_EQ(recorded, c.recorded.empty() ? macro : c.recorded);
+        EXPECT_EQ(e.state.engineFlags & (Recording | Playing | Paused), c.flags);
+        EXPECT_EQ(e.X(), c.x);
+        EXPECT_EQ(e.IsRpn(), c.rpn);
+    }
 }
 
 }  // namespace

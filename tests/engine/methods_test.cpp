@@ -3,6 +3,7 @@
 #include <cmath>
 #include <vector>
 
+#include "engine/value_tags.h"
 #include "engine_test_support.h"
 
 namespace brinto {
@@ -40,8 +41,6 @@ TEST(InputMethods, KeySequencesLeaveExpectedXAndY) {
         {"power binds tightest", InputMethod::Precedence, {2, Times, 3, fid::Power, 2, Eq}, 18},
         {"every power waiting is done before a times", InputMethod::Precedence,
          {2, fid::Power, 3, fid::Power, 2, Times, 4, Eq}, 2048},
-        {"store divides a register", InputMethod::Rpn,
-         {1, 0, fid::Store, 0, 1, 4, fid::Store, By, 0, 1, fid::Recall, 0, 1}, 2.5},
         {"percent of total", InputMethod::Simple, {5, 0, fid::PercentTotal, 2, 0, 0, Eq}, 400},
         {"percent change", InputMethod::Rpn, {5, 0, fid::Enter, 7, 5, fid::PercentChange}, 50},
         {"x-th root", InputMethod::Rpn, {2, 7, fid::Enter, 3, fid::XRoot}, 3},
@@ -55,15 +54,15 @@ TEST(InputMethods, KeySequencesLeaveExpectedXAndY) {
         {"mode keys keep the lift state", InputMethod::Rpn, {3, fid::Enter, fid::Radians, 4, Plus}, 7, 0},
         {"last x lifts", InputMethod::Rpn, {6, fid::Enter, 2, By, fid::LastX}, 2, 3},
         {"last x replaces a cleared x", InputMethod::Rpn, {6, fid::Enter, 2, By, fid::LastX, fid::ClearX, fid::LastX}, 2, 3},
+        {"change sign outside an entry ends it", InputMethod::Rpn, {5, fid::Enter, fid::ChangeSign, 2}, 2, -5},
+        {"backspace only cancels the hyperbolic prefix", InputMethod::Rpn, {1, fid::Hyperbolic, fid::Backspace, fid::Asin}, 90},
         {"backspace outside an entry clears x, lift disabled", InputMethod::Rpn,
          {1, fid::Enter, 4, fid::Enter, 5, Plus, fid::Backspace, 3, Plus}, 4},
-        {"backspace cancels a register prefix", InputMethod::Rpn, {5, fid::Enter, fid::Store, fid::Backspace, 7}, 7, 5},
-        {"another key cancels it, then acts", InputMethod::Rpn, {5, fid::Enter, 3, fid::Store, fid::Swap}, 5, 3},
     };
     for (const MethodCase& c : cases) {
         SCOPED_TRACE(c.name);
         Engine e = MakeEngine(c.method);
-        for (const test::Key k : c.keys) e.Dispatch(k.id);
+        test::Press(e, c.keys);
         EXPECT_DOUBLE_EQ(e.X(), c.x);
         if (!std::isnan(c.y)) {
             EXPECT_DOUBLE_EQ(e.Y(), c.y);
@@ -82,6 +81,59 @@ TEST(InputMethods, PendingStackRefusesTheFortyFirstEntry) {
     EXPECT_FALSE(e.Dispatch(fid::Add));  // cannot wait either
     EXPECT_EQ(e.state.pendingCount, kMaxPending);
     EXPECT_EQ(before.pendingCount, kMaxPending);
+}
+
+constexpr FunctionId Sto = fid::Store, Rcl = fid::Recall, Xch = fid::Exchange;
+
+// A register prefix waits for its register: one digit with the small set, two with the large one
+// (the default), or a key that names a register. Store and recall take an arithmetic key first;
+// exchange does not, so there the key cancels the prefix and acts. Each row ends with the register
+// it names and the X and Y the keys leave.
+TEST(RegisterKeys, PrefixSequencesLeaveRegisterXAndY) {
+    struct Case {
+        const char* name;
+        std::vector<test::Key> keys;
+        int reg;
+        double value, x, y;
+        ValueTag tag = ValueTag::None;  // X's label
+        bool programmer = false;  // the programmer keyboard, whose keyboard layer sends integer keys
+    };
+    const Case cases[] = {
+        {"store takes two digits", {7, Sto, 0, 3}, 3, 7, 7, 0},
+        {"store plus", {7, Sto, 0, 3, 2, Sto, Plus, 0, 3}, 3, 9, 2, 7},
+        {"store minus is cleaned", {fid::Point, 3, Sto, 0, 3, fid::Point, 1, Sto, Minus, 0, 3}, 3, 0.2, 0.1, 0.3},
+        {"store times", {7, Sto, 0, 3, 2, Sto, Times, 0, 3}, 3, 14, 2, 7},
+        {"store divides", {7, Sto, 0, 3, 2, Sto, By, 0, 3}, 3, 3.5, 2, 7},
+        {"recall lifts, naming the register", {7, Sto, 4, 2, fid::Enter, 5, Rcl, 4, 2}, 42, 7, 7, 5, label::CashFlow},
+        {"recall divides x, keeps y", {8, Sto, 0, 1, fid::Enter, 2, 0, Rcl, By, 0, 1}, 1, 8, 2.5, 8},
+        {"recall minus", {8, Sto, 0, 1, fid::Enter, 2, 0, Rcl, Minus, 0, 1}, 1, 8, 12, 8},
+        {"exchange swaps x with the register", {7, Sto, 0, 3, 2, Xch, 0, 3}, 3, 2, 7, 7, label::CashFlow},
+        {"exchange takes no arithmetic", {7, Sto, 0, 3, fid::Enter, 2, Xch, Plus, 0, 3}, 3, 7, 3, 9},
+        {"the small set's key takes one digit", {7, fid::StoreVariant, 4, fid::RecallVariant, 4}, 4, 7, 7, 7, label::CashFlow},
+        {"the large set's key takes two", {7, fid::StoreLarge, 4, 7, 0}, 47, 7, 0, 7},
+        {"the next register after the last", {7, Sto, 9, 8, Sto, fid::CashFlow, Rcl, 9, 9}, 99, 7, 7, 7, label::CashFlow},
+        {"none after ninety-nine", {7, Sto, 9, 9, 5, Sto, fid::CashFlow}, reg::N, 0, 5, 7},
+        {"a key names its register", {9, Sto, fid::PV, 1, Rcl, fid::PV}, reg::PV, 9, 9, 1, label::PresentValue},
+        {"periods per year", {Rcl, fid::PYr}, reg::PYr, 12, 12, 0, label::PerYear},
+        {"backspace cancels the prefix", {5, fid::Enter, Sto, fid::Backspace, 7}, 0, 0, 7, 5},
+        {"another key cancels it, then acts", {5, fid::Enter, 3, Sto, fid::Swap}, 0, 0, 5, 3},
+        {"integer keys do plain register arithmetic", {2, 0, 0, Sto, 0, 1, 1, 0, 0, Sto, fid::IntegerAdd, 0, 1,
+                                                       Rcl, fid::IntegerDivide, 0, 1}, 1, 300, 1.0 / 3, 200, ValueTag::None, true},
+        {"integer times and minus", {6, Sto, 0, 1, 7, Sto, fid::IntegerMultiply, 0, 1, Sto, fid::IntegerSubtract, 0, 1},
+         1, 35, 7, 6, ValueTag::None, true},
+        {"a hex number is stored as its value", {fid::BaseHex, fid::HexF, fid::HexF, Sto, 0, 2}, 2, 255, 255, 0, ValueTag::None, true},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        Engine e = MakeEngine(InputMethod::Rpn);
+        if (c.programmer) e.state.status |= 4;
+        test::Press(e, c.keys);
+        EXPECT_EQ(e.state.pendingArgument, kNoPendingArgument);
+        EXPECT_EQ(e.registers.values[c.reg], c.value);
+        EXPECT_EQ(e.X(), c.x);
+        EXPECT_EQ(e.Y(), c.y);
+        EXPECT_EQ(e.XTag(), c.tag);
+    }
 }
 
 }  // namespace

@@ -1,11 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <limits>
-#include <string>
 #include <string_view>
+#include <tuple>
 
-#include "engine/number_entry.h"
 #include "engine_test_support.h"
 
 namespace brinto {
@@ -14,61 +12,30 @@ namespace {
 using test::MakeEngine;
 using test::Press;
 
-TEST(Stack, LiftAndDropUseTheRpnDepth) {
-    Engine e = MakeEngine(InputMethod::Rpn);  // default depth 4
-    Press(e, {1, fid::Enter, 2, fid::Enter, 3, fid::Enter, 4, fid::Enter, 5});
-    EXPECT_EQ(e.state.stack[3], 2.0);  // 1 was lost off the top by the last lift
-    EXPECT_EQ(e.state.stack[4], 0.0);  // levels beyond the depth are never touched
-    e.Drop();
-    EXPECT_EQ(e.state.stack[2], 2.0);
-    EXPECT_EQ(e.state.stack[3], 2.0);  // T is duplicated into Z
-}
-
-TEST(Stack, MovementsCarryTagsAndAuxCodes) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    e.SetLevel(0, {1.0, ValueTag::Meters, 7});
-    e.SetLevel(1, {2.0, ValueTag::Hours, kNoAux});
-    e.SetLevel(2, {3.0, ValueTag::None, kNoAux});
-    e.Rotate3();  // X = old Z, Y = old X, Z = old Y
-    EXPECT_EQ(e.Level(0).value, 3.0);
-    EXPECT_EQ(e.Level(1).tag, ValueTag::Meters);
-    EXPECT_EQ(e.Level(1).aux, 7);
-    EXPECT_EQ(e.Level(2).tag, ValueTag::Hours);
-    e.RollDown();
-    EXPECT_EQ(e.Level(3).value, 3.0);
-    EXPECT_EQ(e.Level(0).tag, ValueTag::Meters);
-    e.RollUp();
-    e.Swap();
-    EXPECT_EQ(e.Level(0).tag, ValueTag::Meters);
-    EXPECT_EQ(e.Level(1).value, 3.0);
-}
-
-TEST(Stack, OverAndRotate) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    e.SetLevel(0, {1.0}), e.SetLevel(1, {2.0}), e.SetLevel(2, {3.0}), e.SetLevel(3, {4.0});
-    e.Over();
-    EXPECT_EQ(e.X(), 2.0);
-    EXPECT_EQ(e.Y(), 1.0);
-    EXPECT_EQ(e.state.stack[2], 2.0);
-}
-
-TEST(Stack, DepthOneMakesMovementsIdle) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    e.prefs.SetStackDepth(1);
-    e.SetLevel(0, {1.0}), e.SetLevel(1, {2.0});
-    e.Lift(), e.Drop(), e.RollDown(), e.RollUp();
-    EXPECT_EQ(e.X(), 1.0);
-    EXPECT_EQ(e.Y(), 2.0);
-}
-
-TEST(Stack, ClearStackResetsAllTwentyLevels) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    for (int k = 0; k < kStackLevels; ++k) e.SetLevel(k, {double(k + 1), ValueTag::Meters, 3});
-    e.Dispatch(fid::ClearStack);
-    for (int k = 0; k < kStackLevels; ++k) {
-        EXPECT_EQ(e.Level(k).value, 0.0);
-        EXPECT_EQ(e.Level(k).tag, ValueTag::None);
-        EXPECT_EQ(e.Level(k).aux, kNoAux);
+// Levels X, Y, Z, T and the fifth hold 1..5, each with its own tag and aux code; the stack keys
+// move the three together and never touch a level beyond the depth.
+TEST(Stack, KeysMoveValuesTagsAndAuxCodesWithinTheDepth) {
+    constexpr ValueTag kTags[] = {ValueTag::Meters, ValueTag::Hours, ValueTag::U8, ValueTag::Date, ValueTag::Feet};
+    struct Case { FunctionId key; int depth; double levels[5]; };
+    const Case cases[] = {
+        {fid::RollDown, 4, {2, 3, 4, 1, 5}}, {fid::RollUp, 4, {4, 1, 2, 3, 5}},  {fid::Swap, 4, {2, 1, 3, 4, 5}},
+        {fid::Rotate3, 4, {3, 1, 2, 4, 5}},  {fid::Over, 4, {2, 1, 2, 3, 5}},    {fid::Drop, 4, {2, 3, 4, 4, 5}},
+        {fid::Fill, 4, {1, 1, 1, 1, 5}},     {fid::Enter, 4, {1, 1, 2, 3, 5}},   {fid::RollDown, 5, {2, 3, 4, 5, 1}},
+        {fid::RollDown, 1, {1, 2, 3, 4, 5}}, {fid::Drop, 1, {1, 2, 3, 4, 5}},    {fid::Enter, 1, {1, 2, 3, 4, 5}},
+        {fid::ClearStack, 4, {0, 0, 0, 0, 0}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(testing::Message() << c.key << " depth " << c.depth);
+        Engine e = MakeEngine(InputMethod::Rpn);
+        e.prefs.SetStackDepth(c.depth);
+        for (int k = 0; k < 5; ++k) e.SetLevel(k, {k + 1.0, kTags[k], static_cast<u16>(k)});
+        e.Dispatch(c.key);
+        for (int k = 0; k < 5; ++k) {
+            const int from = static_cast<int>(c.levels[k]) - 1;
+            const StackEntry expected = from < 0 ? StackEntry{} : StackEntry{from + 1.0, kTags[from], static_cast<u16>(from)};
+            EXPECT_EQ(std::tuple(e.Level(k).value, e.Level(k).tag, e.Level(k).aux),
+                      std::tuple(expected.value, expected.tag, expected.aux)) << "level " << k;
+        }
     }
 }
 
@@ -77,6 +44,7 @@ struct EntryCase {
     std::vector<test::Key> keys;
     const char* text;
     double x;
+    bool open = true;
 };
 
 TEST(NumberEntry, KeysBuildTheTextAndX) {
@@ -93,28 +61,16 @@ TEST(NumberEntry, KeysBuildTheTextAndX) {
         {"mantissa sign", {1, fid::ChangeSign, 2}, "-12", -12.0},
         {"backspace over e", {1, fid::Exponent, fid::Backspace, 2}, "12", 12.0},
         {"exponent beyond a double", {9, fid::Exponent, 9, 9, 9}, "9e999", std::numeric_limits<double>::infinity()},
+        {"backspace over the last character closes it", {5, fid::Backspace}, "", 0, false},
     };
     for (const EntryCase& c : cases) {
         SCOPED_TRACE(c.name);
         Engine e = MakeEngine(InputMethod::Rpn);
-        for (const test::Key k : c.keys) e.Dispatch(k.id);
+        Press(e, c.keys);
         EXPECT_STREQ(e.state.entryText, c.text);
         EXPECT_EQ(e.X(), c.x);
-        EXPECT_TRUE(e.EntryOpen());
+        EXPECT_EQ(e.EntryOpen(), c.open);
     }
-}
-
-TEST(NumberEntry, RefusedDigitIsNotAccepted) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    for (int i = 0; i < 12; ++i) EXPECT_TRUE(e.Dispatch(fid::Digit9));
-    EXPECT_FALSE(e.Dispatch(fid::Digit9));
-}
-
-TEST(NumberEntry, BackspaceOverTheLastCharacterClosesTheEntry) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {5, fid::Backspace});
-    EXPECT_FALSE(e.EntryOpen());
-    EXPECT_EQ(e.X(), 0.0);
 }
 
 TEST(NumberEntry, HexLettersAreNotCountedDownByBackspace) {
@@ -126,15 +82,6 @@ TEST(NumberEntry, HexLettersAreNotCountedDownByBackspace) {
     int accepted = 0;
     for (int i = 0; i < 8; ++i) accepted += e.Dispatch(fid::Digit1) ? 1 : 0;
     EXPECT_EQ(accepted, 5);
-}
-
-TEST(NumberEntry, IntegerBasesReadA32BitWordAsSigned) {
-    EXPECT_EQ(ParseEntryText("FFFFFFFF", status::BaseHex), -1.0);
-    EXPECT_EQ(ParseEntryText("7FFFFFFF", status::BaseHex), 2147483647.0);
-    EXPECT_EQ(ParseEntryText("77777777777", status::BaseOctal), -1.0);  // 33 bits wrap to 32
-    EXPECT_EQ(ParseEntryText("101", status::BaseBinary), 5.0);
-    EXPECT_EQ(ParseEntryText("", status::BaseHex), 0.0);
-    EXPECT_EQ(ParseEntryText("1e999", 0), std::numeric_limits<double>::infinity());
 }
 
 // On the programmer keyboard a letter A-F switches decimal entry to hexadecimal. A decimal number
@@ -158,12 +105,16 @@ TEST(IntegerEntry, SwitchesOnlyNumbersThatHaveAReadingInTheNewBase) {
         {"freshEntrySwitches", {fid::HexA, fid::HexB}, "AB", 0xAB, status::BaseHex},
         {"eightLeavesOctal", {fid::BaseOctal, 7, 8}, "78", 78, 0},
         {"twoLeavesBinary", {fid::BaseBinary, 1, 2}, "12", 12, 0},
+        // A 32-bit word reads as signed; more octal digits than 32 bits wrap.
+        {"hexWordIsSigned", {fid::BaseHex, fid::HexF, fid::HexF, fid::HexF, fid::HexF, fid::HexF, fid::HexF, fid::HexF, fid::HexF}, "FFFFFFFF", -1, status::BaseHex},
+        {"octalWraps", {fid::BaseOctal, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7}, "77777777777", -1, status::BaseOctal},
+        {"binary", {fid::BaseBinary, 1, 0, 1}, "101", 5, status::BaseBinary},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.name);
         Engine e = MakeEngine(InputMethod::Rpn);
         e.state.status = static_cast<u16>((e.state.status & ~status::KeyboardMask) | 4);  // programmer
-        for (const test::Key k : c.keys) e.Dispatch(k.id);
+        Press(e, c.keys);
         EXPECT_EQ(std::string_view(e.state.entryText), c.text);
         EXPECT_EQ(e.X(), c.x);
         EXPECT_EQ(e.EntryBase(), c.base);

@@ -7,7 +7,7 @@
 #include "display/display_text.h"
 #include "finance/cash_flows.h"
 #include "engine/value_tags.h"
-#include "finance_test_support.h"
+#include "engine/engine_test_support.h"
 
 namespace brinto {
 namespace {

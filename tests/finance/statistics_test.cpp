@@ -5,7 +5,7 @@
 #include <tuple>
 
 #include "engine/value_tags.h"
-#include "finance_test_support.h"
+#include "engine/engine_test_support.h"
 
 namespace brinto {
 namespace {

@@ -163,17 +163,6 @@ TEST(DurationSettings, StoreWhileTypingRecallOtherwise) {
     EXPECT_EQ(e.Y(), 5.0);
 }
 
-TEST(DateFunctions, PureFunctionsHoldForEveryDouble) {
-    const auto inRange = [](double v) { return IsErrorValue(v) || IsDateInRange(v); };
-    for (const double v : {std::nan(""), kErr, -kErr, -0.0, 4.9e-324, 1e300, -1e300, 4039372800.0}) {
-        SCOPED_TRACE(v);
-        EXPECT_TRUE(inRange(DatePartOf(v)));
-        EXPECT_TRUE(inRange(DateFromEntry(v)));
-        EXPECT_TRUE(inRange(DateSum({v, Date}, {v, None}).value));
-        EXPECT_TRUE(inRange(DateDifference({v, DateTime}, {v, Years}).value));
-    }
-}
-
 namespace chr = std::chrono;
 
 TEST(SplitDate, AgreesWithTheCivilCalendarOnEveryDayOfTheRange) {
@@ -203,20 +192,6 @@ TEST(DateSeconds, HoldsAnyDoubleWithinTheRange) {
         {inf, kMaxDateValue}, {kMaxDateValue + 0.5, kMaxDateValue},
     };
     for (const auto& [value, seconds] : cases) EXPECT_EQ(DateSeconds(value), seconds) << value;
-}
-
-TEST(ComposeDate, RollsOverflowingFieldsForwardAndLeavesTheRangeHonestly) {
-    auto date = [](int y, int m, int d) { return ComposeDate(DateFields{y, m, d, 0, 0, 0, 0}); };
-    const std::pair<double, double> cases[] = {
-        {date(2005, 13, 1), date(2006, 1, 1)}, {date(2007, 13, 1), date(2008, 1, 1)},
-        {date(2005, 25, 1), date(2007, 1, 1)}, {date(2005, 1, 32), date(2005, 2, 1)},
-        {date(2004, 2, 30), date(2004, 3, 1)}, {date(2005, 0, 1), date(2004, 12, 1)},
-    };
-    for (const auto& [composed, expected] : cases) EXPECT_EQ(composed, expected);
-    EXPECT_EQ(date(1904, 1, 1), 0);
-    EXPECT_LT(date(1903, 12, 31), 0);
-    EXPECT_GT(date(2032, 1, 1), kMaxDateValue);
-    EXPECT_EQ(ComposeDate(DateFields{2031, 12, 31, 23, 59, 59, 0}), kMaxDateValue);
 }
 
 }  // namespace

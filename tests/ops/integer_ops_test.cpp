@@ -16,41 +16,6 @@ constexpr int kDefaultU8 = 0, kDefaultS8 = 1, kDefaultU16 = 2, kDefaultS16 = 3, 
 constexpr int kDefaultNone = 6;
 constexpr FunctionId kU8Key = fid::FormatU8, kS8Key = fid::FormatS8, kU16Key = fid::FormatU16, kS16Key = fid::FormatS16, kU32Key = fid::FormatU32, kS32Key = fid::FormatS32;
 
-TEST(IntegerConversion, TruncatesTowardZeroThenWrapsModulo2To32) {
-    struct Case { double x; u32 asUnsigned; i32 asSigned; };
-    const Case cases[] = {
-        {2.9, 2, 2},                  {-2.9, 4294967294, -2},    {4294967295.0, 4294967295, -1},
-        {2147483648.0, 2147483648, -2147483647 - 1},            {4294967296.0, 0, 0},
-        {4294967297.9, 1, 1},         {-4294967297.0, 4294967295, -1},
-        {1e300, 0, 0},  // 2^300 times an odd number: the low bits are 0
-        {NAN, 0, 0},                  {INFINITY, 0, 0},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.x);
-        EXPECT_EQ(ToUnsigned32(c.x), c.asUnsigned);
-        EXPECT_EQ(ToSigned32(c.x), c.asSigned);
-    }
-    EXPECT_EQ(ValueOfBits(0x17F, FormatOfTag(S8)), 127);  // bits above the width are ignored
-    EXPECT_EQ(ValueOfBits(0x80000000u, FormatOfTag(S32)), -2147483648.0);
-    EXPECT_EQ(ValueOfBits(0x80000000u, FormatOfTag(U32)), 2147483648.0);
-    EXPECT_EQ(Narrow(-1, None, Meters), -1);  // a target that is no format reads as s32
-}
-
-TEST(IntegerFormatOf, UsesTheValuesOwnFormatElseThePreference) {
-    Preferences prefs = DefaultPreferences();
-    struct Case { int preference; ValueTag tag; ValueTag defaultTag; ValueTag result; };
-    const Case cases[] = {
-        {0, None, U8, U8},         {5, None, S32, S32},   {2, Meters, U16, U16}, {2, S8, U16, S8},
-        {6, None, None, None},        {7, Meters, None, None},  {7, U32, None, U32},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(testing::Message() << "preference " << c.preference << " tag " << c.tag);
-        prefs.SetIntegerFormat(c.preference);
-        EXPECT_EQ(DefaultIntegerFormatTag(prefs), c.defaultTag);
-        EXPECT_EQ(IntegerFormatOf(prefs, c.tag), c.result);
-    }
-}
-
 // The engine after `key` on `levels`, with `format` the default integer format.
 Engine InFormat(int format, std::initializer_list<TaggedValue> levels, FunctionId key) {
     Engine e = Holding(levels);
@@ -144,21 +109,6 @@ TEST(IntegerTags, BaseKeysMakeAPlainNumberTheWholeNumberShown) {
         e.Dispatch(c.base);
         EXPECT_EQ(XOf(e), Of(c.x)) << c.base;
     }
-}
-
-TEST(IntegerTags, HexadecimalEntryAndDisplay) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    e.state.status |= 4;
-    e.prefs.SetIntegerFormat(kDefaultS8);
-    Press(e, {fid::BaseHex, fid::HexF, fid::HexF, fid::Enter, 1, fid::IntegerAdd});
-    EXPECT_EQ(e.X(), 0.0);  // FF is -1 in s8
-    Press(e, {fid::Not});
-    EXPECT_EQ(XText(e), "FF.");
-    Press(e, {fid::BaseBinary});
-    EXPECT_EQ(XText(e), "11111111.");
-    Press(e, {fid::BaseDecimal});
-    EXPECT_EQ(XText(e), "-1.");
-    EXPECT_EQ(XLabel(e), "s8");
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <span>
 #include <tuple>
+#include <vector>
 
 #include "ops/constants.h"
 #include "ops_test_support.h"
@@ -40,19 +41,6 @@ TEST(Trigonometry, ExactZerosAtMultiplesOfRightAnglesInDegreesAndGrads) {
     }
 }
 
-TEST(Trigonometry, HyperbolicPrefixActsOnTheNextKeyOnlyWithoutAngleConversion) {
-    Engine e = Holding({{90, None}});
-    Press(e, {fid::Degrees, fid::Hyperbolic, fid::Sin});
-    EXPECT_DOUBLE_EQ(e.X(), std::sinh(90.0));
-    EXPECT_FALSE(e.state.status & status::Hyperbolic);
-    Press(e, {1, fid::Hyperbolic, fid::Acos});
-    EXPECT_EQ(e.X(), 0.0);
-    Press(e, {fid::Drop, 3, 0, fid::Sin});  // the prefix was used up
-    EXPECT_DOUBLE_EQ(e.X(), 0.5);
-    Press(e, {fid::Hyperbolic, fid::Hyperbolic, fid::Tan});  // pressed twice: cancelled
-    EXPECT_NEAR(e.X(), std::tan(0.5 * M_PI / 180), 1e-15);
-}
-
 TEST(Functions, ResultsAndTheUnitsTheyKeep) {
     const FunctionId F = fid::Factorial, L = fid::LogGamma, Sqrt = fid::SquareRoot, Sq = fid::Square;
     const double err = kErrorValue;
@@ -66,6 +54,8 @@ TEST(Functions, ResultsAndTheUnitsTheyKeep) {
         {fid::Abs, {-2, Kilograms}, {2, Kilograms}}, {fid::IntegerPart, {2.5, U8}, {2, U8}},      {fid::Floor, {2.5, PerYear}, {2, None}},
         {fid::FractionalPart, {2.3, Feet}, {0.3, Feet}}, {fid::FractionalPart, {-2.3, None}, {-0.3, None}},
         {fid::Ceiling, {2.5, Date}, {3, Date}},          {fid::Reciprocal, {4, Feet}, {0.25, None}},
+        {fid::ChangeSign, {5, Meters}, {-5, Meters}},  {fid::ChangeSign, {5, Date}, {-5, Date}},  // units and dates stay
+        {fid::ChangeSign, {5, PresentValue}, {-5, None}},  {fid::ChangeSign, {5, U8}, {-5, None}},
     });
     const FunctionId C = fid::Combinations, P = fid::Permutations;
     CheckOperators({
@@ -73,6 +63,7 @@ TEST(Functions, ResultsAndTheUnitsTheyKeep) {
         {C, {49, None}, {50, None}, {0, None}}, {P, {2, None}, {5, None}, {0, None}},    {P, {0, None}, {170, None}, {0, None}},  // Y < X: no way
         {C, {5, None}, {0.5, None}, {err, None}}, {C, {-1, None}, {5, None}, {err, None}}, {P, {2, None}, {171, None}, {err, None}},
         {P, {171, None}, {1, None}, {err, None}}, {P, {2, None}, {-1, None}, {err, None}},
+        {fid::PolarToRect, {30, None}, {2, Meters}, {2 * std::cos(M_PI / 6), None}},  // the angle in Y; no unit
     });
 }
 
@@ -94,26 +85,29 @@ TEST(LastX, SavedByEveryFunctionButAbsoluteValueFloorCeilingPiAndRandom) {
     }
 }
 
-TEST(Coordinates, TakeTheAngleFromYDropUnitsAndUseUpTheEnterMarker) {
-    Engine e = After({{30, None}, {2, Meters}}, fid::PolarToRect);
-    EXPECT_DOUBLE_EQ(e.X(), 2 * std::cos(M_PI / 6));
-    EXPECT_DOUBLE_EQ(e.Y(), 1.0);
-    EXPECT_EQ(e.XTag(), None);
-    EXPECT_EQ(e.YTag(), None);
-    e = MakeEngine(InputMethod::Simple);  // the algebraic methods leave an Enter marker for them
-    Press(e, {3, fid::Enter, 4, fid::RectToPolar});
-    EXPECT_EQ(e.state.pendingCount, 0);
-    Press(e, {fid::Add, 1, fid::Equals});
-    EXPECT_DOUBLE_EQ(e.X(), 6.0);
-}
-
-TEST(Percent, OfTheRunningTotalOnlyAfterAddOrSubtract) {
-    Engine e = MakeEngine(InputMethod::Simple);
-    Press(e, {2, 0, 0, fid::Multiply, 1, 0, fid::Percent});
-    EXPECT_DOUBLE_EQ(e.X(), 0.1);
-    e = MakeEngine(InputMethod::Rpn);
-    Press(e, {2, 0, 0, fid::Enter, 1, 0, fid::Percent});
-    EXPECT_EQ(std::pair(e.X(), e.Y()), std::pair(20.0, 200.0));  // no drop
+// The hyperbolic prefix acts on the next key only, without angle conversion; pressed twice it is
+// cancelled. Pi and the percent key follow the method: pi keeps a number being typed in RPN and
+// replaces X after an operator; percent is of the running total only after + or -, and in RPN
+// leaves Y. The coordinate keys use up the Enter marker the algebraic methods leave for them.
+TEST(KeySequences, PrefixRecallAndPercentFollowTheMethod) {
+    const struct { const char* name; InputMethod method; std::vector<Key> keys; double x, y; } cases[] = {
+        {"hyperbolic sine in degrees", InputMethod::Rpn, {9, 0, fid::Hyperbolic, fid::Sin}, std::sinh(90.0), 0},
+        {"the prefix is used up", InputMethod::Rpn, {2, fid::Hyperbolic, fid::Acos, 3, 0, fid::Sin}, 0.5, std::acosh(2.0)},
+        {"pressed twice, cancelled", InputMethod::Rpn, {3, 0, fid::Hyperbolic, fid::Hyperbolic, fid::Sin}, 0.5, 0},
+        {"pi keeps a number being typed", InputMethod::Rpn, {2, fid::Enter, 3, fid::Pi}, M_PI, 3},
+        {"pi after an operator", InputMethod::Simple, {2, fid::Multiply, fid::Pi, fid::Equals}, 2 * M_PI, 0},
+        {"percent of x", InputMethod::Simple, {2, 0, 0, fid::Multiply, 1, 0, fid::Percent}, 0.1, 200},
+        {"percent in RPN leaves y", InputMethod::Rpn, {2, 0, 0, fid::Enter, 1, 0, fid::Percent}, 20, 200},
+        {"coordinates use up the enter marker", InputMethod::Simple,
+         {3, fid::Enter, 4, fid::RectToPolar, fid::Add, 1, fid::Equals}, 6, std::atan2(3.0, 4.0) * 180 / M_PI},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        Engine e = MakeEngine(c.method);
+        Press(e, c.keys);
+        EXPECT_DOUBLE_EQ(e.X(), c.x);
+        EXPECT_DOUBLE_EQ(e.Y(), c.y);
+    }
 }
 
 TEST(RoundToDisplay, KeepsWhatTheDisplayShowsAndEndsTheFullDisplay) {
@@ -132,15 +126,6 @@ TEST(RoundToDisplay, KeepsWhatTheDisplayShowsAndEndsTheFullDisplay) {
     EXPECT_EQ(After({{kErrorValue, None}}, fid::RoundToDisplay).X(), kErrorValue);  // the formatter refuses it
 }
 
-TEST(RecallLift, PiKeepsANumberBeingTypedInRpnAndReplacesItAfterAnOperator) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {2, fid::Enter, 3, fid::Pi});
-    EXPECT_EQ(std::tuple(e.X(), e.Y(), e.Level(2).value), std::tuple(M_PI, 3.0, 2.0));
-    e = MakeEngine(InputMethod::Simple);
-    Press(e, {2, fid::Multiply, fid::Pi, fid::Equals});
-    EXPECT_DOUBLE_EQ(e.X(), 2 * M_PI);
-}
-
 TEST(Random, StoresTheFifteenBitGeneratorsStateWhichWrapsModulo2To32) {
     Engine e = MakeEngine(InputMethod::Rpn);
     e.state.randomSeed = 1;
@@ -153,42 +138,25 @@ TEST(Random, StoresTheFifteenBitGeneratorsStateWhichWrapsModulo2To32) {
 
 constexpr int kSpeedOfLight = 7, kPlanck = 12, kElectronMass = 15;
 
-TEST(Constants, EveryRowHasANameAndOnlyThoseRowsRecall) {
-    for (int i = 0; i < kConstantCount; ++i) EXPECT_FALSE(ConstantName(i).empty()) << i;
-    EXPECT_FALSE(ConstantName(32).empty());
-    Engine e = Holding({{5, None}});
-    for (const int outside : {33, -1}) {
-        EXPECT_TRUE(ConstantName(outside).empty());
-        EXPECT_FALSE(RecallConstant(e, outside, 3));
-    }
-    EXPECT_EQ(std::tuple(e.X(), e.state.constantsTopRow), std::tuple(5.0, 0));
-}
-
-TEST(Constants, RecallLiftsLeavesLastXAloneAndKeepsTheListsScroll) {
-    Engine e = Holding({{5, None}});
+// A constant is recalled as pi is: it lifts unless the lift is disabled, closes a number being
+// typed and does not replace X after an operator. It leaves Last X alone, keeps the list's scroll
+// position, and carries its unit when it has one. A row beyond the list recalls nothing.
+TEST(Constants, RecallFollowsTheLiftAndKeepsLastXAndTheListsScroll) {
+    Engine e = MakeEngine(InputMethod::Rpn);
     e.state.lastX = 9;
-    ASSERT_TRUE(RecallConstant(e, kSpeedOfLight, 4));
-    EXPECT_EQ(std::tuple(e.Y(), e.state.lastX, e.state.constantsTopRow), std::tuple(5.0, 9.0, 4));
+    Press(e, {2, fid::Enter});  // lift disabled: the recall replaces the copy of 2
+    ASSERT_TRUE(RecallConstant(e, kPlanck, 4));
+    EXPECT_EQ(std::tuple(e.X(), e.XTag(), e.Y(), e.state.lastX, e.state.constantsTopRow),
+              std::tuple(6.6260755e-34, None, 2.0, 9.0, 4));
+    Press(e, {3, 1});  // a number typed after a recall lifts it
+    RecallConstant(e, kSpeedOfLight, 0);
+    EXPECT_EQ(std::tuple(e.EntryOpen(), e.Y(), e.Level(2).value), std::tuple(false, 31.0, 6.6260755e-34));
     e.Dispatch(fid::KilometersPerHour);  // km/h: the tagged constants convert
     EXPECT_NEAR(e.X(), 1079252848.8, 1e-3);
-    ASSERT_TRUE(RecallConstant(e, kPlanck, 10));
-    EXPECT_EQ(XOf(e), Tagged(6.6260755e-34, None));
-    EXPECT_EQ(e.state.aux[0], kNoAux);
     ASSERT_TRUE(RecallConstant(e, kElectronMass, 10));
     EXPECT_EQ(XLabel(e), "kg");
-}
-
-TEST(Constants, RecallFollowsTheLiftAndClosesANumberBeingTyped) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {2, fid::Enter});  // lift disabled: the recall replaces the copy of 2
-    RecallConstant(e, kPlanck, 0);
-    EXPECT_EQ(e.Y(), 2.0);
-    Press(e, {3});  // a number typed after a recall lifts it
-    EXPECT_EQ(e.Y(), 6.6260755e-34);
-    Press(e, {1});
-    RecallConstant(e, kSpeedOfLight, 0);
-    EXPECT_FALSE(e.EntryOpen());
-    EXPECT_EQ(e.Y(), 31.0);
+    for (const int outside : {kConstantCount, -1}) EXPECT_FALSE(RecallConstant(e, outside, 3));
+    EXPECT_EQ(std::tuple(XLabel(e), e.state.constantsTopRow), std::tuple("kg", 10));
     e = MakeEngine(InputMethod::Simple);
     Press(e, {2, fid::Multiply});
     RecallConstant(e, kSpeedOfLight, 0);
