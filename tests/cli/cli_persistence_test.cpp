@@ -11,6 +11,7 @@
 #include "engine/function_ids.h"
 #include "session/session_store.h"
 
+#include "calculator/assembly.h"
 #include "temp_folder.h"
 
 namespace brinto::test {
@@ -163,7 +164,7 @@ TEST_F(CliPersistence, TroubleAndForeignFilesSayOneLineExitOneAndTouchNothing) {
 
 // A window's side of the calculator, as the desktop program keeps it: every command kept at once.
 struct WindowLike : Host {
-    Engine engine;
+    Engine engine{CalculatorFamilies()};
     Session session{engine, *this};
     SessionStore store{session};
     FixedPlatform clock;

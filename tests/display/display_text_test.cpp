@@ -152,7 +152,7 @@ TEST(EmptyEntry, AnEntryEditedToNothingShowsZero) {
     };
     const std::string zero = DisplayLevel(*std::make_unique<Engine>(), 0).text;
     for (const auto& keys : cases) {
-        auto e = std::make_unique<Engine>();
+        auto e = std::make_unique<Engine>(CalculatorFamilies());
         for (const FunctionId id : keys) e->Dispatch(id);
         EXPECT_EQ(e->X(), 0.0);
         EXPECT_EQ(DisplayLevel(*e, 0).text, zero);

@@ -3,6 +3,7 @@
 #include <initializer_list>
 #include <ostream>
 
+#include "calculator/assembly.h"
 #include "display/labels.h"
 #include "engine/engine.h"
 #include "engine/key_table.h"
@@ -27,7 +28,7 @@ inline std::ostream& operator<<(std::ostream& os, ValueTag tag) {
 namespace brinto::test {
 
 inline Engine MakeEngine(InputMethod method) {
-    Engine e;
+    Engine e(CalculatorFamilies());
     e.prefs.SetMethod(method);
     e.ClearStack();
     return e;

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "calculator/assembly.h"
 #include "engine/keyboards.h"
 #include "engine/numeric/date_fields.h"
 #include "session/recording_host.h"
@@ -13,7 +14,7 @@ namespace brinto {
 namespace {
 
 struct Fixture {
-    Engine engine;
+    Engine engine{CalculatorFamilies()};
     RecordingHost host;
     Session session{engine, host};
 
