@@ -55,7 +55,6 @@ double GridScale(int viewWidth);
 KeyGrid LayoutKeyGrid(int width, int height, int columns, int rows, const KeySizeSet& set,
                       Framed framed);
 Rect KeyRect(const KeyGrid& grid, int index);  // index 0 .. KeyCount() - 1
-std::vector<Rect> KeyRects(const KeyGrid& grid);
 // The key under a point; a point in a gap or a margin hits no key.
 std::optional<int> HitTest(const KeyGrid& grid, int x, int y);
 

@@ -362,23 +362,6 @@ bool Session::AssignUserKey(KeyHalf half, int key, FunctionId id) {
     return true;
 }
 
-void Session::ClearUserKeys(KeyHalf half) {
-    const Command command(*this);
-    std::fill_n(Half(half), kBlockKeys, kNoKey);
-    m_engine.dirty.userKeys = true;
-    m_host.Repaint();
-}
-
-bool Session::CopyUserKeys(KeyHalf into, int keyboard, KeyHalf from) {
-    const Command command(*this);
-    if (keyboard < 0 || keyboard >= kUserKeyboard) return false;
-    const KeyBlock block = KeyLayout(keyboard, from == KeyHalf::Shifted ? 1 : 0, m_userKeys);
-    std::copy(block.begin(), block.end(), Half(into));
-    m_engine.dirty.userKeys = true;
-    m_host.Repaint();
-    return true;
-}
-
 void Session::SetIntegerUserKeys(bool on) {
     const Command command(*this);
     if (m_engine.prefs.IntegerUserKeys() == on) return;

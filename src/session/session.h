@@ -91,9 +91,6 @@ public:
 
     // The "Customize Keyboard" dialog. `key` is 1..12 of the half; false for a key outside it.
     bool AssignUserKey(KeyHalf half, int key, FunctionId id);
-    void ClearUserKeys(KeyHalf half);
-    // The 12 keys of built-in keyboard `keyboard` (0..7) in state `from` into the User half `into`.
-    bool CopyUserKeys(KeyHalf into, int keyboard, KeyHalf from);
     void SetIntegerUserKeys(bool on);
 
     // A value typed into a register of a dialog (user registers, TVM, cash flows): one undoable

@@ -250,7 +250,6 @@ TEST(SessionCommands, EachChangeMarksItsRecord) {
         {"integer user keys", [](Session& s) { s.SetIntegerUserKeys(true); }, {true, false, false, false, false}},
         {"assign a user key", [](Session& s) { s.AssignUserKey(KeyHalf::Shifted, 12, fid::Add); },
          {false, false, false, false, true}},
-        {"clear user keys", [](Session& s) { s.ClearUserKeys(KeyHalf::Unshifted); }, {false, false, false, false, true}},
         {"store a register", [](Session& s) { s.StoreRegister(123, 2.5); }, {false, false, true, false, false}},
         {"constants list", [](Session& s) { s.SetConstantsTopRow(9); }, {false, true, false, false, false}},
         {"last view", [](Session& s) { s.SetLastView(View::CashFlow); }, {false, true, false, false, false}},
@@ -267,19 +266,12 @@ TEST(SessionCommands, EachChangeMarksItsRecord) {
     }
 }
 
-TEST(SessionCommands, UserKeysAreAssignedClearedAndCopiedByHalf) {
+TEST(SessionCommands, UserKeysAreAssignedByHalf) {
     Fixture f;
     EXPECT_TRUE(f.session.AssignUserKey(KeyHalf::Shifted, 12, fid::Add));
     EXPECT_FALSE(f.session.AssignUserKey(KeyHalf::Shifted, 13, fid::Add));
     EXPECT_FALSE(f.session.AssignUserKey(KeyHalf::Unshifted, 0, fid::Add));
     EXPECT_EQ(f.session.userKeys().keys[23], fid::Add);
-    EXPECT_TRUE(f.session.CopyUserKeys(KeyHalf::Unshifted, 1, KeyHalf::Shifted));
-    EXPECT_FALSE(f.session.CopyUserKeys(KeyHalf::Unshifted, kUserKeyboard, KeyHalf::Shifted));
-    const KeyBlock financialShifted = KeyLayout(1, 1, f.session.userKeys());
-    EXPECT_TRUE(KeyLayout(kUserKeyboard, 0, f.session.userKeys()) == financialShifted);
-    f.session.ClearUserKeys(KeyHalf::Shifted);
-    for (const FunctionId key : KeyLayout(kUserKeyboard, 1, f.session.userKeys())) EXPECT_EQ(key, kNoKey);
-    EXPECT_TRUE(KeyLayout(kUserKeyboard, 0, f.session.userKeys()) == financialShifted);  // the other half stays
 }
 
 // Values from dialogs enter as one undoable step each; what is no date or time changes nothing.

@@ -69,7 +69,7 @@ TEST_F(StateIoTest, FirstRunStartsOnDefaultsAndTheSaveLeavesFiveRecords) {
         EXPECT_TRUE(got.dirty);
     }
     ASSERT_TRUE(SaveState(e, keys, store));
-    EXPECT_EQ(store.CountRecords(), 5);
+    EXPECT_EQ(RecordCount(path), "5");
 }
 
 // A record is taken as stored (zero-filled when short) or replaced by what a first run gets and
