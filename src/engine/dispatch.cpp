@@ -293,6 +293,8 @@ bool HandleFormatPrefix(Engine& e, FunctionId id) {
         return true;
     }
     if (s.pendingFormat == kNoKey) return false;
+    // The prefix intercepts the key after it, whatever its family: a digit or point (entry keys)
+    // completes the format, backspace cancels it, any other key cancels it and goes on as usual.
     const FunctionId prefix = s.pendingFormat;
     s.pendingFormat = kNoKey;
     if (id == fid::Backspace) return true;

@@ -164,7 +164,8 @@ bool HandleRegisterKey(Engine& e, FunctionId id) {
         s.pendingArgument = ToNumber(id);
         return true;
     }
-    // A register prefix is waiting for its argument.
+    // A register prefix is waiting for its argument: it intercepts keys of other families (digits,
+    // the arithmetic operators, CFj and the keys that name a register) before their own handlers.
     if (FamilyOf(id) == kf::Shift) return false;
     const u32 pending = s.pendingArgument;
     const FunctionId base = RegisterBase(KeyOf(pending));

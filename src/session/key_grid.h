@@ -19,9 +19,6 @@ inline constexpr int kBaseScreenWidth = 240;
 
 struct Rect {
     int x = 0, y = 0, width = 0, height = 0;
-    bool Contains(int px, int py) const {
-        return px >= x && py >= y && px < x + width && py < y + height;
-    }
     friend bool operator==(const Rect&, const Rect&) = default;
 };
 

@@ -344,13 +344,6 @@ void Session::OverridePreferences(const Preferences& prefs) {
     m_host.Repaint();
 }
 
-void Session::SelectTheme(u16 themeId) {
-    const Command command(*this);
-    m_engine.prefs.SetTheme(themeId);
-    m_engine.dirty.preferences = true;
-    m_host.Repaint();
-}
-
 FunctionId* Session::Half(KeyHalf half) { return m_userKeys.keys + (half == KeyHalf::Shifted ? kBlockKeys : 0); }
 
 bool Session::AssignUserKey(KeyHalf half, int key, FunctionId id) {

@@ -87,7 +87,6 @@ public:
     // Preferences given for this run only (brinto-cli's --pref): not marked changed, so they are
     // saved only along with a later change.
     void OverridePreferences(const Preferences& prefs);
-    void SelectTheme(u16 themeId);
 
     // The "Customize Keyboard" dialog. `key` is 1..12 of the half; false for a key outside it.
     bool AssignUserKey(KeyHalf half, int key, FunctionId id);

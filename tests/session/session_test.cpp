@@ -246,7 +246,6 @@ TEST(SessionCommands, PreferencesSendTheMethodKeyOnce) {
 TEST(SessionCommands, EachChangeMarksItsRecord) {
     using Command = void (*)(Session&);
     const std::tuple<const char*, Command, DirtyFlags> cases[] = {  // preferences, state, registers, macro, keys
-        {"theme", [](Session& s) { s.SelectTheme(3); }, {true, false, false, false, false}},
         {"integer user keys", [](Session& s) { s.SetIntegerUserKeys(true); }, {true, false, false, false, false}},
         {"assign a user key", [](Session& s) { s.AssignUserKey(KeyHalf::Shifted, 12, fid::Add); },
          {false, false, false, false, true}},
