@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "calculator/assembly.h"
 #include "engine/engine.h"
 
 extern char** environ;
@@ -18,7 +19,7 @@ namespace brinto {
 namespace {
 
 Engine RpnEngine() {
-    Engine e;
+    Engine e(CalculatorFamilies());
     e.prefs.SetMethod(InputMethod::Rpn);
     e.ClearStack();
     return e;
@@ -63,7 +64,7 @@ std::vector<FunctionId> ProductSumProgram() {
 void BM_HundredThousandKeys(benchmark::State& state) {
     const std::vector<FunctionId> keys = ProductSumProgram();
     for (auto _ : state) {
-        Engine e;
+        Engine e(CalculatorFamilies());
         for (const FunctionId k : keys) e.Dispatch(k);
         benchmark::DoNotOptimize(e.X());
     }

@@ -2,6 +2,7 @@
 // amortization of a whole 30-year schedule.
 #include <benchmark/benchmark.h>
 
+#include "calculator/assembly.h"
 #include "engine/engine.h"
 #include "finance/amortization.h"
 #include "finance/amortization_schedule.h"
@@ -47,7 +48,7 @@ BENCHMARK(BM_NetPresentValue99Groups)->Unit(benchmark::kMicrosecond);
 // The argument is the number of decimal places: with more of them, more interest amounts lie
 // near enough to a decimal tie to be rounded by their digit string.
 void BM_Amortize360Payments(benchmark::State& state) {
-    Engine e;
+    Engine e(CalculatorFamilies());
     e.prefs.SetDigitField(static_cast<int>(state.range(0)) + 1);
     e.registers.values[reg::N] = 360;
     e.registers.values[reg::IYr] = 6;
@@ -64,7 +65,7 @@ BENCHMARK(BM_Amortize360Payments)->Arg(2)->Arg(4)->Unit(benchmark::kMicrosecond)
 
 // Every payment of the same loan listed, each with its interest, principal and balance.
 void BM_AmortizationSchedule360Payments(benchmark::State& state) {
-    Engine e;
+    Engine e(CalculatorFamilies());
     e.prefs.SetDigitField(3);  // two decimal places
     e.registers.values[reg::N] = 360;
     e.registers.values[reg::IYr] = 6;

@@ -3,6 +3,7 @@
 // stay under a microsecond. The stacks are set up so that every repetition takes the same path.
 #include <benchmark/benchmark.h>
 
+#include "calculator/assembly.h"
 #include "engine/engine.h"
 #include "ops/constants.h"
 #include "session/session.h"
@@ -18,7 +19,7 @@ struct Level {
 // Y and X are put back before every key, so that each repetition takes the same path; the rest of
 // the stack holds zeros.
 void KeyOn(benchmark::State& state, Level y, Level x, FunctionId key) {
-    Engine e;
+    Engine e(CalculatorFamilies());
     e.prefs.SetMethod(InputMethod::Rpn);
     e.prefs.SetStackDepth(4);
     e.ClearStack();
@@ -66,7 +67,7 @@ public:
 };
 
 void RecallConstantThroughSession(benchmark::State& state) {
-    Engine e;
+    Engine e(CalculatorFamilies());
     e.prefs.SetMethod(InputMethod::Rpn);
     e.ClearStack();
     NoHost host;

@@ -6,6 +6,7 @@
 #include <span>
 #include <string_view>
 
+#include "calculator/assembly.h"
 #include "engine/engine.h"
 #include "engine_invariants.h"
 #include "fuzz_check.h"
@@ -31,7 +32,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const bool migrated = MigrateLegacy(store, *parsed.values);
     FUZZ_CHECK(!migrated || parsed.values->slots.count(0), "migrated without a preferences value");
 
-    auto engine = std::make_unique<Engine>();
+    auto engine = std::make_unique<Engine>(CalculatorFamilies());
     UserKeyMap userKeys = EmptyUserKeyMap();
     LoadState(*engine, userKeys, store);
     brinto::fuzz::CheckEngineInvariants(*engine);

@@ -10,6 +10,7 @@
 #include <memory>
 #include <vector>
 
+#include "calculator/assembly.h"
 #include "display/display_text.h"
 #include "engine/engine.h"
 #include "engine_invariants.h"
@@ -59,7 +60,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (store.Open(std::string(RecordStore::kInMemory)) != OpenResult::Opened) return 0;
     FillStore(in, store);
 
-    auto engine = std::make_unique<Engine>();
+    auto engine = std::make_unique<Engine>(CalculatorFamilies());
     UserKeyMap userKeys = EmptyUserKeyMap();
     LoadState(*engine, userKeys, store);
     brinto::fuzz::CheckEngineInvariants(*engine);
@@ -67,7 +68,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     // Saved and loaded again, the repaired calculator comes back as it was.
     SaveState(*engine, userKeys, store);
-    auto again = std::make_unique<Engine>();
+    auto again = std::make_unique<Engine>(CalculatorFamilies());
     UserKeyMap againKeys = EmptyUserKeyMap();
     LoadState(*again, againKeys, store);
     FUZZ_CHECK(SameCalculator(*engine, userKeys, *again, againKeys), "a saved and reloaded state differs");

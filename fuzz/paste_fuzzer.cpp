@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "calculator/assembly.h"
 #include "engine/engine.h"
 #include "engine_invariants.h"
 #include "fuzz_check.h"
@@ -65,7 +66,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
     // Through a session: the base comes from the programmer keyboard's base keys, the input method
     // and a number being typed from the setup byte.
-    Engine engine;
+    Engine engine(CalculatorFamilies());
     QuietHost host;
     Session session(engine, host);
     engine.prefs.SetMethod(static_cast<InputMethod>(setup % 3));

@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "calculator/assembly.h"
 #include "display/display_text.h"
 #include "engine/engine.h"
 #include "engine_invariants.h"
@@ -113,7 +114,7 @@ void SetPreferenceField(Preferences& p, std::uint32_t field, std::uint32_t v) {
 }
 
 struct Calculator {
-    Engine engine;
+    Engine engine{CalculatorFamilies()};
     FuzzHost host;
     Session session{engine, host};
 

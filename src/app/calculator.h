@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "calculator/assembly.h"
 #include "engine/engine.h"
 #include "session/session.h"
 #include "session/session_store.h"
@@ -41,7 +42,7 @@ public:
     bool Save(const QByteArray& geometry);
     QByteArray SavedGeometry() const;
 
-    Engine engine;
+    Engine engine{CalculatorFamilies()};
     Session session;
     SessionStore store;
 };

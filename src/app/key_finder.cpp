@@ -67,7 +67,8 @@ void KeyFinder::Offer(const QString& typed) {
     m_offers->clear();
     m_offered.clear();
     for (const KeyChoice& choice : OfferKeys(typed.toStdString(), kOffersShown, MeaningShown)) {
-        // As KeyChoice::Caption() writes it, with the key's meaning in the window's language.
+        // "sqrt  √x  Square root": the name, the face where it differs, the meaning in the window's
+        // language.
         QString caption = Utf8(std::string(choice.name));
         if (choice.face != choice.name) caption += QStringLiteral("  ") + Utf8(std::string(choice.face));
         m_offers->addItem(caption + QStringLiteral("  ") + KeyMeaningText(choice.fullName));

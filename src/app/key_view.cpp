@@ -222,11 +222,6 @@ int KeyView::KeyAt(QPoint point) const {
 
 FunctionId KeyView::ActiveId(int index) const { return m_look.shifted ? Key(index).shifted : Key(index).unshifted; }
 
-FunctionId KeyView::LargeId(int index) const {
-    const LegendPlacement p = PlaceLegends(m_look.arrangement, m_look.shifted, KeyRect(m_grid, index));
-    return p.large == Legend::Shifted ? Key(index).shifted : Key(index).unshifted;
-}
-
 void KeyView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), ToQColor(m_look.colours.keyboardBackground));

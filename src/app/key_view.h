@@ -64,8 +64,6 @@ public:
     int KeyAt(QPoint point) const;
     // The function the key performs now: its shifted one while the latch is set.
     FunctionId ActiveId(int index) const;
-    // The legend drawn large on the face.
-    FunctionId LargeId(int index) const;
 
     // A tap on the key from outside the mouse: accessibility tools' press action.
     void Press(int index) { Q_EMIT Tapped(index); }

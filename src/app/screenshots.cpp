@@ -163,25 +163,6 @@ int ShootMessages(const QString& directory, Session& session) {
 
 }  // namespace
 
-const QStringList& ScreenshotNames() {
-    static const QStringList names = [] {
-        QStringList list;
-        for (const char* name : kKeyboardShots) list << QString::fromLatin1(name);
-        list << QStringLiteral("main-basic");
-        for (const char* name : kPreferencePages) list << QString::fromLatin1(name);
-        list << QStringLiteral("customize-keyboard");
-        for (const auto& [name, view] : kViewShots) list << QString::fromLatin1(name);
-        list << QStringLiteral("amortization-schedule") << QStringLiteral("cash-flow-diagram");
-        list << QStringLiteral("input-method") << QStringLiteral("enter-date") << QStringLiteral("enter-time")
-             << QStringLiteral("durations") << QStringLiteral("about") << QStringLiteral("customize-colors")
-             << QStringLiteral("color-chooser") << QStringLiteral("help");
-        for (const MessageShot& shot : kMessageShots) list << QString::fromLatin1(shot.name);
-        list << QStringLiteral("message-no-cash-flow") << QStringLiteral("history");
-        return list;
-    }();
-    return names;
-}
-
 int WriteScreenshots(const QString& directory) {
     if (!QDir().mkpath(directory)) {
         std::fprintf(stderr, "brinto: cannot make the folder %s\n", qPrintable(directory));

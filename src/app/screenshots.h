@@ -5,9 +5,6 @@
 
 namespace brinto {
 
-// The file names written, without ".png", in the order they are drawn.
-const QStringList& ScreenshotNames();
-
 // Needs a running QApplication; returns the program's exit code (0 when every file was written).
 int WriteScreenshots(const QString& directory);
 

@@ -10,6 +10,7 @@
 #include <sstream>
 #include <span>
 
+#include "calculator/assembly.h"
 #include "cli/completion.h"
 #include "cli/formula.h"
 #include "cli/json_report.h"
@@ -730,7 +731,7 @@ int RunCli(const std::vector<std::string>& args, std::istream& in, bool inIsTerm
 
     CliHost host(err);
     host.platform.pinnedNow = options->now;
-    Engine engine;
+    Engine engine(CalculatorFamilies());
     Session session(engine, host);
     SessionStore store(session);
     if (!LoadCalculator(*options, store, err)) return 1;

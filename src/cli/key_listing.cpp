@@ -45,10 +45,11 @@ void Padded(std::ostream& out, std::string_view text, std::size_t width) {
     out << ' ';
 }
 
-void Line(std::ostream& out, std::string_view name, std::string_view code, std::string_view legend,
-          std::string_view meaning, std::string_view aliases = {}) {
+void Line(std::ostream& out, std::string_view name, std::string_view code, std::string_view family,
+          std::string_view legend, std::string_view meaning, std::string_view aliases = {}) {
     Padded(out, name, 13);
     Padded(out, code, 5);
+    Padded(out, family, 13);
     Padded(out, legend, 6);
     out << meaning;
     if (!aliases.empty()) out << " (also " << aliases << ')';
@@ -57,8 +58,8 @@ void Line(std::ostream& out, std::string_view name, std::string_view code, std::
 
 void KeyLine(std::ostream& out, FunctionId id) {
     const KeyLegend* legend = FindLegend(id);
-    Line(out, KeyName(id), std::to_string(ToNumber(id)), legend ? legend->legend : "?",
-         legend ? legend->fullName : "", Aliases(id));
+    Line(out, KeyName(id), std::to_string(ToNumber(id)), FamilyName(FamilyOf(id)),
+         legend ? legend->legend : "?", legend ? legend->fullName : "", Aliases(id));
 }
 
 // Where a key sits: "General key:10", "Scientific shifted key:3", "keypad", "keypad shifted".
@@ -133,9 +134,9 @@ void ListKeys(std::ostream& out) {
         if (Places(k.id).empty()) KeyLine(out, k.id);
     }
     out << "# Commands\n";
-    for (const CommandInfo& c : Commands()) Line(out, c.name, "-", "-", c.meaning);
+    for (const CommandInfo& c : Commands()) Line(out, c.name, "-", "-", "-", c.meaning);
     out << "# Constants (recalled into X)\n";
-    for (int i = 0; i < kConstantCount; ++i) Line(out, "const:" + std::to_string(i), "-", "-", ConstantName(i));
+    for (int i = 0; i < kConstantCount; ++i) Line(out, "const:" + std::to_string(i), "-", "-", "-", ConstantName(i));
 }
 
 bool DescribeName(std::string_view name, std::ostream& out) {

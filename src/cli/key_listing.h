@@ -15,7 +15,7 @@ namespace brinto {
 // The name brinto-cli takes for a key, or "#CODE" for a key that has none.
 std::string KeyName(FunctionId id);
 
-// Every key, one a line: "NAME CODE LEGEND MEANING", with "(also ALIASES)" where it has aliases,
+// Every key, one a line: "NAME CODE FAMILY LEGEND MEANING", with "(also ALIASES)" where it has aliases,
 // under a "# KEYBOARD" heading for each keyboard's block (unshifted, then shifted), then the
 // keypad shared by all keyboards, the keys on no keyboard, the commands and the constants.
 void ListKeys(std::ostream& out);

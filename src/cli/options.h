@@ -30,7 +30,7 @@ inline constexpr std::array kCliOptions = {
     CliOption{"--tape", "", "", ValueKind::None, "after the last token, print the history tape (with --json, as JSON)"},
     CliOption{"--clear-tape", "", "", ValueKind::None, "clear the history tape before the first token"},
     CliOption{"--list-keys", "", "", ValueKind::None,
-              "list every key by keyboard (name, code, legend, meaning) and exit"},
+              "list every key by keyboard (name, code, family, legend, meaning) and exit"},
     CliOption{"--completion", "", "SHELL", ValueKind::Word,
               "print the completion script for SHELL (bash, zsh or fish) and exit"},
     CliOption{"--help", "-h", "", ValueKind::None, "print this text and exit"},

@@ -1,7 +1,5 @@
 #include "engine/algebraic.h"
 
-#include "engine/families.h"
-
 namespace brinto {
 
 namespace {
@@ -51,7 +49,7 @@ bool Defer(Engine& e, FunctionId op) {
 bool IsBinaryOperator(FunctionId id) { return LevelOf(id) != Level::None; }
 
 void ApplyBinary(Engine& e, FunctionId op) {
-    if (IsBinaryOperator(op)) EvaluateTwoOperand(e, op);
+    if (IsBinaryOperator(op)) e.families().evaluateTwoOperand(e, op);
 }
 
 void EvaluatePending(Engine& e, PendingScope scope) {

@@ -1,11 +1,9 @@
 // Dispatch: every key of every keyboard ends here. Around the family chain it keeps the stack-lift
 // state, the shift latches, macro recording, the undo history and the last-key words consistent.
-#include <array>
 #include <cstring>
 
 #include "engine/algebraic.h"
 #include "engine/built_in.h"
-#include "engine/families.h"
 #include "engine/macro.h"
 #include "engine/number_entry.h"
 #include "engine/numeric/integer_format.h"
@@ -16,21 +14,16 @@ namespace brinto {
 
 namespace {
 
-struct Family {
-    FamilyHandler handle;
-    // Whether taking a key ends a run of deferred operators; the operator handler keeps that
-    // flag itself.
-    bool endsOperatorRun;
-};
-constexpr std::array kFamilies = {
-    Family{HandleRegisterKey, true},  Family{HandleFormatPrefix, true},     Family{HandleModeKey, true},
-    Family{HandleFinancialKey, true}, Family{HandleScientificFamily, true}, Family{HandleConversionKey, true},
-    Family{HandleOperator, false},
-};
+bool IsShiftKey(FunctionId id) { return FamilyOf(id) == kf::Shift; }
 
-bool IsShiftKey(FunctionId id) { return id == fid::Shift || id == fid::FirstShift || id == fid::SecondShift; }
+bool IsMacroKey(FunctionId id) { return FamilyOf(id) == kf::Macro; }
 
-bool IsMacroKey(FunctionId id) { return id >= fid::MacroRecord && id <= fid::MacroStop; }
+// The keys that edit the number being typed leave it open.
+bool IsEntryKey(FunctionId id) { return FamilyOf(id) == kf::Entry; }
+
+// What an engine without families does where its own keys would ask another library: nothing.
+bool NoOperand(Engine&, FunctionId) { return false; }
+void NoStep(Engine&) {}
 
 bool PrefixPending(const CalcState& s) {
     return s.pendingArgument != kNoPendingArgument || s.pendingFormat != kNoKey || (s.status & status::Hyperbolic);
@@ -97,7 +90,7 @@ void Equals(Engine& e) {
     CalcState& s = e.state;
     if (!OperatorPending(s)) {
         if (s.repeatOperator == fid::Amortize) {
-            AmortizationRepeat(e);
+            e.families().amortizationRepeat(e);
         } else if (s.repeatOperator != kNoKey) {
             e.Lift();
             e.RecallLastX();
@@ -229,7 +222,7 @@ bool EndKey(Engine& e, FunctionId id, const Outcome& out) {
         return accepted;
     }
     if (IsMacroKey(id) || IsShiftKey(id)) return accepted;
-    if (out.actedAs <= fid::Backspace && !(s.status & status::KeepEntry) && !out.endsEntry) return accepted;
+    if (IsEntryKey(out.actedAs) && !(s.status & status::KeepEntry) && !out.endsEntry) return accepted;
     ClearBits(s.status, status::Entry | status::KeepEntry);
     if (out.actedAs == fid::Hyperbolic) {
         s.status ^= status::Hyperbolic;
@@ -300,6 +293,8 @@ bool HandleFormatPrefix(Engine& e, FunctionId id) {
         return true;
     }
     if (s.pendingFormat == kNoKey) return false;
+    // The prefix intercepts the key after it, whatever its family: a digit or point (entry keys)
+    // completes the format, backspace cancels it, any other key cancels it and goes on as usual.
     const FunctionId prefix = s.pendingFormat;
     s.pendingFormat = kNoKey;
     if (id == fid::Backspace) return true;
@@ -332,16 +327,16 @@ bool HandleModeKey(Engine& e, FunctionId id) {
         case fid::BaseHex: SetBase(s, status::BaseHex), baseChanged = true; break;
         default: return false;
     }
-    if (baseChanged) RederiveIntegerTag(e);
+    if (baseChanged) e.families().rederiveIntegerTag(e);
     e.dirty.state = true;
     e.KeepLiftState();
     e.RequestRedraw();
     return true;
 }
 
-bool HandleScientificFamily(Engine& e, FunctionId id) {
-    return HandleScientificKey(e, id) || HandleFinanceResultKey(e, id) || HandleDateKey(e, id) ||
-           HandleIntegerKey(e, id);
+const KeyFamilies& NoFamilies() {
+    static constexpr KeyFamilies kNone{{}, NoOperand, NoStep, NoStep};
+    return kNone;
 }
 
 bool Engine::Dispatch(FunctionId id) {
@@ -355,7 +350,7 @@ bool Engine::Dispatch(FunctionId id) {
 
     Outcome out{false, id, false};
     bool taken = false;
-    for (const Family& family : kFamilies) {
+    for (const Family& family : families().chain) {
         taken = family.handle(*this, id);
         if (!taken) continue;
         if (family.endsOperatorRun) ClearBits(s.engineFlags, flags::OperatorLast);

@@ -5,7 +5,8 @@
 
 namespace brinto {
 
-Engine::Engine(const Platform* platform) : m_platform(platform ? platform : &DefaultPlatform()) {
+Engine::Engine(const KeyFamilies& families, const Platform* platform)
+    : m_families(&families), m_platform(platform ? platform : &DefaultPlatform()) {
     prefs = DefaultPreferences();
     ResetAll();
     history.Init(&Records());

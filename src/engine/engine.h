@@ -1,8 +1,10 @@
 #pragma once
 // Engine: one calculator. It owns CalcState, the register record, the macro record and the undo
 // history, and reads Preferences. Every key reaches it through Dispatch; the display only reads it.
-// Many engines can live side by side (tests do this); nothing here is global.
+// Many engines can live side by side (tests do this); nothing here is global. An engine is given its
+// families of keys when it is made: a whole calculator's come from calculator/assembly.h.
 #include "engine/calc_state.h"
+#include "engine/families.h"
 #include "engine/function_ids.h"
 #include "engine/history.h"
 #include "engine/macro_record.h"
@@ -31,7 +33,9 @@ struct DirtyFlags {
 // The records (state, registers, macro) are the EngineRecords base, so an undo snapshot is one copy.
 class Engine : public EngineRecords {
 public:
-    explicit Engine(const Platform* platform = nullptr);
+    explicit Engine(const KeyFamilies& families, const Platform* platform = nullptr);
+    // An engine that only holds records: the dispatcher's own keys and no family.
+    explicit Engine(const Platform* platform = nullptr) : Engine(NoFamilies(), platform) {}
 
     EngineRecords& Records() { return *this; }
     const EngineRecords& Records() const { return *this; }
@@ -42,6 +46,7 @@ public:
 
     const Platform& platform() const { return *m_platform; }
     void SetPlatform(const Platform* platform);
+    const KeyFamilies& families() const { return *m_families; }
 
     // True when the key was accepted.
     bool Dispatch(FunctionId id);
@@ -123,6 +128,7 @@ public:
     double DurationSetting(int registerNumber) const;
 
 private:
+    const KeyFamilies* m_families;
     const Platform* m_platform;
 };
 

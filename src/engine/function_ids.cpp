@@ -31,10 +31,6 @@ constexpr std::array kRegisterKeys = {
 
 }  // namespace
 
-bool IsArithmeticOperator(FunctionId id) {
-    return (id >= fid::Add && id <= fid::Divide) || (id >= fid::IntegerAdd && id <= fid::IntegerDivide);
-}
-
 FunctionId IntegerVariant(FunctionId id) {
     for (const KeyPair& pair : kIntegerVariants) {
         if (pair.plain == id) return pair.variant;

@@ -313,9 +313,6 @@ using enum FunctionId;
 
 namespace brinto {
 
-// True for the four arithmetic operators and their integer variants.
-bool IsArithmeticOperator(FunctionId id);
-
 // The programmer keyboard's variant of a key (change sign, the four operators, rounding and the
 // two spare keys); every other key unchanged.
 FunctionId IntegerVariant(FunctionId id);

@@ -40,10 +40,7 @@ constexpr std::array kKeyRegisters = {
     KeyRegister{fid::FramesPerSecond, reg::FramesPerSecond},
 };
 
-bool IsRegisterPrefix(FunctionId id) {
-    const FunctionId base = RegisterBase(id);
-    return base == fid::Store || base == fid::Recall || base == fid::Exchange;
-}
+bool IsRegisterPrefix(FunctionId id) { return FamilyOf(id) == kf::Register; }
 
 // Two-digit register numbers with the large register set: its own key variants, or the plain
 // keys while "100 Registers" is on.
@@ -53,17 +50,17 @@ bool TwoDigitArgument(const Engine& e, FunctionId prefix) {
     return e.prefs.HundredRegisters();
 }
 
+// The arithmetic a register prefix takes: the four operators, their integer variants read as them;
+// kNoKey for any other key.
 FunctionId PlainArithmetic(FunctionId id) {
     switch (id) {
-        case fid::IntegerAdd: return fid::Add;
-        case fid::IntegerSubtract: return fid::Subtract;
-        case fid::IntegerMultiply: return fid::Multiply;
-        case fid::IntegerDivide: return fid::Divide;
-        default: return id;
+        case fid::Add: case fid::IntegerAdd: return fid::Add;
+        case fid::Subtract: case fid::IntegerSubtract: return fid::Subtract;
+        case fid::Multiply: case fid::IntegerMultiply: return fid::Multiply;
+        case fid::Divide: case fid::IntegerDivide: return fid::Divide;
+        default: return kNoKey;
     }
 }
-
-bool IsPlainArithmetic(FunctionId id) { return id >= fid::Add && id <= fid::Divide; }
 
 double Combine(double left, FunctionId op, double right) {
     switch (op) {
@@ -167,8 +164,9 @@ bool HandleRegisterKey(Engine& e, FunctionId id) {
         s.pendingArgument = ToNumber(id);
         return true;
     }
-    // A register prefix is waiting for its argument.
-    if (id == fid::Shift || id == fid::FirstShift || id == fid::SecondShift) return false;
+    // A register prefix is waiting for its argument: it intercepts keys of other families (digits,
+    // the arithmetic operators, CFj and the keys that name a register) before their own handlers.
+    if (FamilyOf(id) == kf::Shift) return false;
     const u32 pending = s.pendingArgument;
     const FunctionId base = RegisterBase(KeyOf(pending));
     const int firstDigit = FirstDigitOf(pending);
@@ -177,7 +175,7 @@ bool HandleRegisterKey(Engine& e, FunctionId id) {
         s.pendingArgument = kNoPendingArgument;
         return true;
     }
-    if (IsPlainArithmetic(arithmetic) && !HasOperator(pending) && firstDigit < 0 && base != fid::Exchange) {
+    if (arithmetic != kNoKey && !HasOperator(pending) && firstDigit < 0 && base != fid::Exchange) {
         s.pendingArgument = WithOperator(pending, arithmetic);
         return true;
     }

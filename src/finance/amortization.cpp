@@ -2,8 +2,8 @@
 
 #include <cmath>
 
-#include "engine/families.h"
 #include "engine/value_tags.h"
+#include "finance/key_handlers.h"
 #include "finance/tvm.h"
 
 namespace brinto {

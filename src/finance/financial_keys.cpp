@@ -4,11 +4,11 @@
 // that share the scientific family's place in the chain: amortization, NPV, IRR/YR, statistics.
 #include <array>
 
-#include "engine/families.h"
+#include "engine/value_tags.h"
 #include "finance/amortization.h"
 #include "finance/cash_flows.h"
 #include "finance/interest_and_margins.h"
-#include "engine/value_tags.h"
+#include "finance/key_handlers.h"
 #include "finance/statistics.h"
 #include "finance/tvm.h"
 
@@ -132,7 +132,7 @@ bool HandleFinanceResultKey(Engine& e, FunctionId id) {
             return true;
         case fid::Npv: NetPresentValueKey(e); return true;
         case fid::Irr: InternalRateKey(e); return true;
-        default: return HandleStatisticsKey(e, id);
+        default: return false;
     }
 }
 

@@ -3,9 +3,10 @@
 #include <array>
 #include <cmath>
 
-#include "finance/clean_difference.h"
 #include "engine/register_keys.h"
 #include "engine/value_tags.h"
+#include "finance/clean_difference.h"
+#include "finance/key_handlers.h"
 
 namespace brinto {
 

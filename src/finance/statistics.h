@@ -19,7 +19,4 @@ struct CentredSums {
 StatisticsSums SumsFromRegisters(const Engine& e);
 CentredSums Centre(const StatisticsSums& s);
 
-// The statistics keys; false for any other key.
-bool HandleStatisticsKey(Engine& e, FunctionId id);
-
 }  // namespace brinto

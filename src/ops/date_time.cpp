@@ -6,9 +6,9 @@
 #include <array>
 #include <cmath>
 
-#include "engine/families.h"
 #include "engine/numeric/date_fields.h"
 #include "engine/numeric/decimal_digits.h"
+#include "ops/key_handlers.h"
 #include "ops/units.h"
 
 namespace brinto {

@@ -5,8 +5,8 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "engine/families.h"
 #include "engine/numeric/integer_format.h"
+#include "ops/key_handlers.h"
 
 namespace brinto {
 

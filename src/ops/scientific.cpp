@@ -7,8 +7,8 @@
 #include <cmath>
 
 #include "display/number_format.h"
-#include "engine/families.h"
 #include "engine/numeric/decimal_digits.h"
+#include "ops/key_handlers.h"
 #include "ops/two_operand.h"
 #include "ops/units.h"
 

@@ -3,10 +3,10 @@
 #include <cmath>
 #include <optional>
 
-#include "engine/families.h"
 #include "engine/numeric/decimal_digits.h"
 #include "ops/date_time.h"
 #include "ops/integer_ops.h"
+#include "ops/key_handlers.h"
 #include "ops/units.h"
 
 namespace brinto {

@@ -6,10 +6,10 @@
 #include <initializer_list>
 #include <span>
 
-#include "engine/families.h"
 #include "engine/numeric/date_fields.h"
 #include "engine/numeric/decimal_digits.h"
 #include "ops/date_time.h"
+#include "ops/key_handlers.h"
 
 namespace brinto {
 

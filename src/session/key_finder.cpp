@@ -45,12 +45,6 @@ std::optional<int> Rank(const KeyInfo& key, const KeyLegend& legend, std::string
 
 }  // namespace
 
-std::string KeyChoice::Caption() const {
-    std::string caption(name);
-    if (face != name) caption.append("  ").append(face);
-    return caption.append("  ").append(fullName);
-}
-
 std::optional<FunctionId> FindKey(std::string_view typed, const ShownMeaning& shown) {
     typed = Trimmed(typed);
     if (typed.empty()) return std::nullopt;

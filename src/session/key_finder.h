@@ -19,8 +19,6 @@ struct KeyChoice {
     std::string_view name;      // brinto-cli's name for the key
     std::string_view fullName;  // what the key does, as its tooltip says
     std::string_view face;      // what is printed on the key
-    // One line for a completion list: "sqrt  √x  Square root".
-    std::string Caption() const;
 };
 
 // A key's full name as a translated window shows it, from the English one; empty: English only.

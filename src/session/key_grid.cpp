@@ -64,13 +64,6 @@ Rect KeyRect(const KeyGrid& grid, int index) {
             grid.top + row * (grid.keyHeight + grid.verticalGap), grid.keyWidth, grid.keyHeight};
 }
 
-std::vector<Rect> KeyRects(const KeyGrid& grid) {
-    std::vector<Rect> rects;
-    rects.reserve(grid.KeyCount());
-    for (int i = 0; i < grid.KeyCount(); ++i) rects.push_back(KeyRect(grid, i));
-    return rects;
-}
-
 std::optional<int> HitTest(const KeyGrid& grid, int x, int y) {
     if (grid.keyWidth <= 0 || grid.keyHeight <= 0 || x < grid.left || y < grid.top) return {};
     const int pitchX = grid.keyWidth + grid.horizontalGap;

@@ -19,9 +19,6 @@ inline constexpr int kBaseScreenWidth = 240;
 
 struct Rect {
     int x = 0, y = 0, width = 0, height = 0;
-    bool Contains(int px, int py) const {
-        return px >= x && py >= y && px < x + width && py < y + height;
-    }
     friend bool operator==(const Rect&, const Rect&) = default;
 };
 
@@ -55,7 +52,6 @@ double GridScale(int viewWidth);
 KeyGrid LayoutKeyGrid(int width, int height, int columns, int rows, const KeySizeSet& set,
                       Framed framed);
 Rect KeyRect(const KeyGrid& grid, int index);  // index 0 .. KeyCount() - 1
-std::vector<Rect> KeyRects(const KeyGrid& grid);
 // The key under a point; a point in a gap or a margin hits no key.
 std::optional<int> HitTest(const KeyGrid& grid, int x, int y);
 

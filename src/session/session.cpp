@@ -344,36 +344,12 @@ void Session::OverridePreferences(const Preferences& prefs) {
     m_host.Repaint();
 }
 
-void Session::SelectTheme(u16 themeId) {
-    const Command command(*this);
-    m_engine.prefs.SetTheme(themeId);
-    m_engine.dirty.preferences = true;
-    m_host.Repaint();
-}
-
 FunctionId* Session::Half(KeyHalf half) { return m_userKeys.keys + (half == KeyHalf::Shifted ? kBlockKeys : 0); }
 
 bool Session::AssignUserKey(KeyHalf half, int key, FunctionId id) {
     const Command command(*this);
     if (key < 1 || key > kBlockKeys) return false;
     Half(half)[key - 1] = id;
-    m_engine.dirty.userKeys = true;
-    m_host.Repaint();
-    return true;
-}
-
-void Session::ClearUserKeys(KeyHalf half) {
-    const Command command(*this);
-    std::fill_n(Half(half), kBlockKeys, kNoKey);
-    m_engine.dirty.userKeys = true;
-    m_host.Repaint();
-}
-
-bool Session::CopyUserKeys(KeyHalf into, int keyboard, KeyHalf from) {
-    const Command command(*this);
-    if (keyboard < 0 || keyboard >= kUserKeyboard) return false;
-    const KeyBlock block = KeyLayout(keyboard, from == KeyHalf::Shifted ? 1 : 0, m_userKeys);
-    std::copy(block.begin(), block.end(), Half(into));
     m_engine.dirty.userKeys = true;
     m_host.Repaint();
     return true;

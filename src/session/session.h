@@ -87,13 +87,9 @@ public:
     // Preferences given for this run only (brinto-cli's --pref): not marked changed, so they are
     // saved only along with a later change.
     void OverridePreferences(const Preferences& prefs);
-    void SelectTheme(u16 themeId);
 
     // The "Customize Keyboard" dialog. `key` is 1..12 of the half; false for a key outside it.
     bool AssignUserKey(KeyHalf half, int key, FunctionId id);
-    void ClearUserKeys(KeyHalf half);
-    // The 12 keys of built-in keyboard `keyboard` (0..7) in state `from` into the User half `into`.
-    bool CopyUserKeys(KeyHalf into, int keyboard, KeyHalf from);
     void SetIntegerUserKeys(bool on);
 
     // A value typed into a register of a dialog (user registers, TVM, cash flows): one undoable

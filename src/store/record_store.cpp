@@ -562,16 +562,6 @@ std::optional<long long> RecordStore::DataVersion() {
     return version;
 }
 
-int RecordStore::CountRecords() {
-    if (!m_db) return 0;
-    int count = 0;
-    for (sqlite3_stmt* scan : m_scan) {
-        while (sqlite3_step(scan) == SQLITE_ROW) ++count;
-        sqlite3_reset(scan);
-    }
-    return count;
-}
-
 bool RecordStore::AppendTape(const std::vector<TapeRow>& rows, std::size_t keep) {
     if (!m_db) return false;
     if (rows.empty()) return true;

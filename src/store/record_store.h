@@ -89,9 +89,6 @@ public:
     bool WriteRecord(u32 kind, const void* buffer, std::size_t size, u16 index = 0);
     bool WriteRecord(u32 kind, const void* buffer, std::size_t size, std::u16string_view name);
 
-    // Number of rows in both tables, for tests and diagnostics.
-    int CountRecords();
-
     // The history tape. Appending adds the rows after the others and keeps only the newest `keep`
     // (within the caller's transaction, or one of its own); reading gives up to the newest `newest`
     // rows, oldest first; the last row's number tells whether anyone added rows since.

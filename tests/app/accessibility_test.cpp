@@ -106,7 +106,9 @@ TEST(Accessibility, EveryInteractiveControlOfEveryWindowHasAName) {
     EXPECT_EQ(UnnamedIn(&desk.window), "");
     dialogs::DialogHost& dialogs = desk.window.Dialogs();
     std::vector<QWidget*> windows;
-    for (int view = 0; view < dialogs::kViewCount; ++view) windows.push_back(dialogs.Open(view));
+    for (int view = 0; view < dialogs::kViewCount; ++view) {
+        windows.push_back(dialogs.Open(static_cast<dialogs::View>(view)));
+    }
     windows.push_back(dialogs.OpenAbout());
     windows.push_back(dialogs.OpenEnterDate());
     windows.push_back(dialogs.OpenEnterTime());

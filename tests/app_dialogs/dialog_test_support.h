@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "app/dialogs/dialogs.h"
+#include "calculator/assembly.h"
 #include "session/recording_host.h"
 #include "session/session_store.h"
 
@@ -24,7 +25,7 @@ struct Place {
 
 // One run of the calculator: loaded from the place at the start, saved when the test says so.
 struct Run {
-    Engine engine;
+    Engine engine{CalculatorFamilies()};
     RecordingHost host;
     Session session{engine, host};
     SessionStore store{session};

@@ -11,6 +11,8 @@
 #include "cli_runner.h"
 #include "session/recording_host.h"
 #include "session/session_store.h"
+
+#include "calculator/assembly.h"
 #include "temp_folder.h"
 
 namespace brinto::test {
@@ -125,7 +127,7 @@ TEST_F(CliPersistence, DamageAndTroubleSayOneLineAndTroubleTouchesNothing) {
 // A window's side of the calculator, as the desktop program keeps it: every command kept at once.
 // (That a window and other programs are one calculator is the session's own test.)
 struct Window {
-    Engine engine;
+    Engine engine{CalculatorFamilies()};
     RecordingHost host;
     Session session{engine, host};
     SessionStore store{session};

@@ -35,8 +35,8 @@ std::string NameOf(FunctionId id) {
 
 std::string FirstWord(const std::string& line) { return line.substr(0, line.find(' ')); }
 
-// Every key is listed with its code and with the legend, meaning and aliases the desktop program
-// and the name table give it, and each built-in keyboard's section reads as its block does.
+// Every key is listed with its code and family and with the legend, meaning and aliases the desktop
+// program and the name table give it, and each built-in keyboard's section reads as its block does.
 TEST(Cli, ListKeysShowsEveryKeyAsTheKeyboardsDo) {
     const RunResult r = RunCli({"--list-keys"});
     ASSERT_EQ(r.exitCode, 0);
@@ -56,10 +56,11 @@ TEST(Cli, ListKeysShowsEveryKeyAsTheKeyboardsDo) {
         const KeyLegend* legend = FindLegend(k.id);
         ASSERT_TRUE(byName.count(std::string(k.name)) && legend) << k.name;
         std::istringstream words(byName[std::string(k.name)]);
-        std::string name, code, rest, aliases;
-        words >> name >> code >> std::ws;
+        std::string name, code, family, rest, aliases;
+        words >> name >> code >> family >> std::ws;
         std::getline(words, rest);
         EXPECT_EQ(code, std::to_string(ToNumber(k.id))) << name;
+        EXPECT_EQ(family, FamilyName(k.family)) << name;
         EXPECT_EQ(rest.rfind(std::string(legend->legend), 0), 0u) << rest;
         EXPECT_NE(rest.find(std::string(legend->fullName)), std::string::npos) << rest;
         for (const KeyAlias& a : kKeyAliases) {

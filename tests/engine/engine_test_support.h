@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "calculator/assembly.h"
 #include "display/labels.h"
 #include "engine/engine.h"
 #include "engine/key_table.h"
@@ -29,7 +30,7 @@ inline std::ostream& operator<<(std::ostream& os, ValueTag tag) {
 namespace brinto::test {
 
 inline Engine MakeEngine(InputMethod method) {
-    Engine e;
+    Engine e(CalculatorFamilies());
     e.prefs.SetMethod(method);
     e.ClearStack();
     return e;

@@ -44,7 +44,6 @@ TEST(KeyFinder, OffersExactThenStartingThenHoldingKeysOnce) {
     EXPECT_TRUE(offered(fid::CubeRoot));
     EXPECT_EQ(OfferKeys("s", 4).size(), 4u);
     EXPECT_TRUE(OfferKeys("   ", 10).empty());
-    EXPECT_EQ(OfferKeys("sqrt", 1)[0].Caption(), "sqrt  √x  Square root");
 }
 
 // A translated window finds a key by the meaning it shows as well as by the English one.

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "calculator/assembly.h"
 #include "finance/cash_flows.h"
 
 namespace brinto {
@@ -19,7 +20,7 @@ void Type(Engine& e, std::string_view number) {
 }
 
 Engine WithKeys(const std::vector<std::pair<std::string_view, FunctionId>>& typed) {
-    Engine e;
+    Engine e(CalculatorFamilies());
     e.prefs.SetMethod(InputMethod::Rpn);
     e.ResetState();
     for (const auto& [number, key] : typed) {

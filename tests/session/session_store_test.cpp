@@ -11,6 +11,7 @@
 
 #include <cstdlib>
 
+#include "calculator/assembly.h"
 #include "engine/function_ids.h"
 #include "session/recording_host.h"
 #include "temp_folder.h"
@@ -20,7 +21,7 @@ namespace {
 
 // One front end's run: an engine, its host, its session and its store.
 struct FrontEnd {
-    Engine engine;
+    Engine engine{CalculatorFamilies()};
     RecordingHost host;
     Session session{engine, host};
     SessionStore store{session};

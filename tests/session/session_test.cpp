@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "calculator/assembly.h"
 #include "engine/keyboards.h"
 #include "engine/numeric/date_fields.h"
 #include "session/recording_host.h"
@@ -14,7 +15,7 @@ namespace brinto {
 namespace {
 
 struct Fixture {
-    Engine engine;
+    Engine engine{CalculatorFamilies()};
     RecordingHost host;
     Session session{engine, host};
 
@@ -312,11 +313,9 @@ TEST(SessionCommands, PreferencesSendTheMethodKeyOnce) {
 TEST(SessionCommands, EachChangeMarksItsRecord) {
     using Command = void (*)(Session&);
     const std::tuple<const char*, Command, DirtyFlags> cases[] = {  // preferences, state, registers, macro, keys
-        {"theme", [](Session& s) { s.SelectTheme(3); }, {true, false, false, false, false}},
         {"integer user keys", [](Session& s) { s.SetIntegerUserKeys(true); }, {true, false, false, false, false}},
         {"assign a user key", [](Session& s) { s.AssignUserKey(KeyHalf::Shifted, 12, fid::Add); },
          {false, false, false, false, true}},
-        {"clear user keys", [](Session& s) { s.ClearUserKeys(KeyHalf::Unshifted); }, {false, false, false, false, true}},
         {"store a register", [](Session& s) { s.StoreRegister(123, 2.5); }, {false, false, true, false, false}},
         {"constants list", [](Session& s) { s.SetConstantsTopRow(9); }, {false, true, false, false, false}},
         {"last view", [](Session& s) { s.SetLastView(View::CashFlow); }, {false, true, false, false, false}},
@@ -333,19 +332,12 @@ TEST(SessionCommands, EachChangeMarksItsRecord) {
     }
 }
 
-TEST(SessionCommands, UserKeysAreAssignedClearedAndCopiedByHalf) {
+TEST(SessionCommands, UserKeysAreAssignedByHalf) {
     Fixture f;
     EXPECT_TRUE(f.session.AssignUserKey(KeyHalf::Shifted, 12, fid::Add));
     EXPECT_FALSE(f.session.AssignUserKey(KeyHalf::Shifted, 13, fid::Add));
     EXPECT_FALSE(f.session.AssignUserKey(KeyHalf::Unshifted, 0, fid::Add));
     EXPECT_EQ(f.session.userKeys().keys[23], fid::Add);
-    EXPECT_TRUE(f.session.CopyUserKeys(KeyHalf::Unshifted, 1, KeyHalf::Shifted));
-    EXPECT_FALSE(f.session.CopyUserKeys(KeyHalf::Unshifted, kUserKeyboard, KeyHalf::Shifted));
-    const KeyBlock financialShifted = KeyLayout(1, 1, f.session.userKeys());
-    EXPECT_TRUE(KeyLayout(kUserKeyboard, 0, f.session.userKeys()) == financialShifted);
-    f.session.ClearUserKeys(KeyHalf::Shifted);
-    for (const FunctionId key : KeyLayout(kUserKeyboard, 1, f.session.userKeys())) EXPECT_EQ(key, kNoKey);
-    EXPECT_TRUE(KeyLayout(kUserKeyboard, 0, f.session.userKeys()) == financialShifted);  // the other half stays
 }
 
 // Values from dialogs enter as one undoable step each; what is no date or time changes nothing.

@@ -61,7 +61,7 @@ TEST_F(RecordStoreTest, FindingMatchesKindIndexAndNameExactly) {
 TEST_F(RecordStoreTest, ReadsDeliverAtMostTheBufferAndWritesReplace) {
     for (const std::size_t size : {12u, 11u, 10u}) ASSERT_TRUE(store.WriteRecord(4, "0123456789xy", size));
     ASSERT_TRUE(store.WriteRecord(5, "", 0));
-    EXPECT_EQ(store.CountRecords(), 2);
+    EXPECT_EQ(RecordCount(path), "2");
     EXPECT_EQ(Read(4, 0, {}, 4), "0123");
     EXPECT_EQ(Read(4, 0, {}, 64), "0123456789");
     EXPECT_EQ(Read(5), "");  // found, empty

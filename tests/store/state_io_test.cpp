@@ -71,7 +71,7 @@ TEST_F(StateIoTest, FirstRunStartsOnDefaultsAndSavesWriteWhatChanged) {
         EXPECT_TRUE(got.dirty);
     }
     ASSERT_TRUE(SaveState(e, keys, store));
-    EXPECT_EQ(store.CountRecords(), 5);
+    EXPECT_EQ(RecordCount(path), "5");
     e.prefs.SetTheme(3);          // changed without its flag: stays out of the file
     e.registers.values[0] = 9.0;  // changed with its flag
     e.dirty.registers = true;

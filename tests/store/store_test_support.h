@@ -34,6 +34,11 @@ inline std::string Sql(const std::filesystem::path& path, const std::string& sql
     return first.value_or("");
 }
 
+// The records in a store's file: the rows of both record tables.
+inline std::string RecordCount(const std::filesystem::path& path) {
+    return Sql(path, "SELECT (SELECT count(*) FROM BrintoConfig) + (SELECT count(*) FROM BrintoState)");
+}
+
 // Saves every record, changed or not.
 inline bool SaveAll(Engine& e, const UserKeyMap& keys, RecordStore& store) {
     e.dirty = {true, true, true, true, true};

@@ -115,11 +115,6 @@ void DialogHost::Place(QWidget* window) const {
     window->move(where);
 }
 
-QWidget* DialogHost::Open(int view) {
-    if (view < 0 || view >= kViewCount) return nullptr;
-    return Open(static_cast<View>(view));
-}
-
 QWidget* DialogHost::Open(View view) {
     m_session.SetLastView(view);
     switch (view) {

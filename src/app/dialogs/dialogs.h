@@ -47,8 +47,6 @@ public:
     // Opens a view and remembers it as the last one. Returns the window shown: for "Cash Flow"
     // with no entry beyond CF0, the "No Cash Flow Entries" message instead.
     QWidget* Open(View view);
-    // The same for the number the calculator remembers; nothing for a number that names no view.
-    QWidget* Open(int view);
     QDialog* OpenAbout();
     // "Enter Date" and "Enter Time", on X's date or time or else on now; OK enters the choice.
     EnterDateDialog* OpenEnterDate();
