@@ -6,7 +6,7 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QListWidget>
-#include <QMenuBar>
+#include <QMenu>
 
 #include "app/dialogs/preferences_dialog.h"
 #include "app_fixture.h"
@@ -60,37 +60,23 @@ TEST(Windows, EachOpensFromItsMenuEntryAndShortcut) {
         {nullptr, QKeySequence(Qt::Key_F1), "Brinto Help"},
     };
     Desk desk;
-    QStringList menus;  // every menu with its entries, in order
-    for (QAction* m : desk.window.menuBar()->actions()) {
-        menus << m->text() + QLatin1Char(':');
-        for (QAction* a : m->menu()->actions()) menus << (a->isSeparator() ? QStringLiteral("-") : a->text());
+    // Nothing is made before it is first wanted.
+    EXPECT_EQ(desk.window.openedDialogs(), nullptr);
+    QStringList menus;  // every menu with its entries, in order, each with its mnemonic
+    for (QMenu* m : Menus(desk.window)) {
+        menus << m->title() + QLatin1Char(':');
+        for (QAction* a : m->actions()) menus << (a->isSeparator() ? QStringLiteral("-") : a->text());
     }
-    // Each with its mnemonic, none used twice in one menu or on the bar.
     EXPECT_EQ(menus.join(QLatin1Char('|')).toStdString(),
               "&View:|&Basic|&Advanced|-|&Stack...|&User Registers...|&Constants...|&TVM...|Amorti&zation...|"
               "Cash &Flow...|Stat&istical...|-|Enter &Date...|Enter Ti&me...|Du&rations...|-|&History Tape|&Edit:|&Undo|&Redo|-|Cu&t|"
               "&Copy|&Paste|-|&Find Key...|S&hift|&Options:|&Preferences...|&Keyboard...|-|&About Brinto...|-|&Quit");
-    const auto mnemonicsUnique = [](const QList<QAction*>& entries) {
-        QString letters;
-        for (const QAction* a : entries) {
-            const qsizetype amp = a->text().indexOf(QLatin1Char('&'));
-            if (amp < 0) continue;
-            if (letters.contains(a->text()[amp + 1].toLower())) return false;
-            letters += a->text()[amp + 1].toLower();
-        }
-        return true;
-    };
-    EXPECT_TRUE(mnemonicsUnique(desk.window.menuBar()->actions()));
-    for (QAction* m : desk.window.menuBar()->actions()) EXPECT_TRUE(mnemonicsUnique(m->menu()->actions())) << m->text().toStdString();
-    // Nothing is made before it is first wanted.
-    EXPECT_EQ(desk.window.openedDialogs(), nullptr);
     for (const Row& row : rows) {
         if (row.entry) {
             QAction* entry = MenuEntry(desk.window, row.entry);
             ASSERT_NE(entry, nullptr) << row.entry;
             EXPECT_EQ(entry->shortcut(), row.shortcut) << row.entry;
-            entry->trigger();
-            QCoreApplication::processEvents();  // entries act once the menu has closed
+            Trigger(desk.window, row.entry);
             EXPECT_EQ(OpenWindows(desk.window), QStringList{QString::fromLatin1(row.title)}) << row.entry;
             CloseWindows(desk);
         }
@@ -128,8 +114,7 @@ TEST(Windows, DisplayTapsAndTheActionButtonOpenTheirTarget) {
     CloseWindows(desk);
 
     // An open Stack view follows the keys typed on the main window.
-    MenuEntry(desk.window, "Stack...")->trigger();
-    QCoreApplication::processEvents();
+    Trigger(desk.window, "Stack...");
     desk.Type("7");
     QStringList lines;
     for (QListWidget* list : desk.window.findChildren<QListWidget*>()) {
@@ -141,8 +126,7 @@ TEST(Windows, DisplayTapsAndTheActionButtonOpenTheirTarget) {
 TEST(Windows, PreferencesThemeIsAppliedAfterOk) {
     Desk desk;
     const ScreenColours before = desk.window.colours();
-    MenuEntry(desk.window, "Preferences...")->trigger();
-    QCoreApplication::processEvents();
+    Trigger(desk.window, "Preferences...");
     auto* sheet = qobject_cast<dialogs::PreferencesDialog*>(QApplication::activeModalWidget());
     ASSERT_NE(sheet, nullptr);
     auto* theme = sheet->findChild<QComboBox*>(QStringLiteral("Theme:"));
