@@ -5,8 +5,6 @@
 
 #include <QAccessible>
 #include <QApplication>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QStackedWidget>
 #include <QTabWidget>
 #include <QTableWidget>

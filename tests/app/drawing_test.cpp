@@ -8,7 +8,6 @@
 #include <QImage>
 #include <QMenuBar>
 #include <QPalette>
-#include <QSet>
 #include <functional>
 
 #include "app_fixture.h"

@@ -3,7 +3,6 @@
 // through their widgets on the offscreen platform.
 #include <gtest/gtest.h>
 
-#include <QDialog>
 #include <QDialogButtonBox>
 #include <QPushButton>
 #include <QTableWidget>

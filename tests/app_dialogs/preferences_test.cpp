@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QSignalSpy>
-#include <QSlider>
 #include <QTabWidget>
 
 #include "app/dialogs/colour_dialogs.h"
