@@ -1,5 +1,8 @@
 #include "app_fixture.h"
 
+#include <gtest/gtest.h>
+
+#include <QMenu>
 #include <QMenuBar>
 #include <cstdio>
 
@@ -17,13 +20,29 @@ std::string CommandOutput(const std::string& command) {
     return out;
 }
 
+QList<QMenu*> Menus(MainWindow& window) {
+    QList<QMenu*> menus;
+    for (QAction* title : window.menuBar()->actions()) {
+        Q_EMIT title->menu()->aboutToShow();  // a menu may fill itself only when first opened
+        menus << title->menu();
+    }
+    return menus;
+}
+
 QAction* MenuEntry(MainWindow& window, const char* entry) {
-    for (QAction* menu : window.menuBar()->actions()) {
-        for (QAction* a : menu->menu()->actions()) {
+    for (QMenu* menu : Menus(window)) {
+        for (QAction* a : menu->actions()) {
             if (QString(a->text()).remove(QLatin1Char('&')) == QString::fromLatin1(entry)) return a;
         }
     }
     return nullptr;
+}
+
+void Trigger(MainWindow& window, const char* entry) {
+    QAction* action = MenuEntry(window, entry);
+    ASSERT_NE(action, nullptr) << entry;
+    action->trigger();
+    QCoreApplication::processEvents();
 }
 
 std::string Desk::XLine() {

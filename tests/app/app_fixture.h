@@ -1,6 +1,7 @@
 #pragma once
 // A desktop calculator in memory with its real main window on the offscreen platform, a host that
 // records messages instead of showing them, and clicks on keys by their drawn rectangles.
+#include <QList>
 #include <QTest>
 #include <string>
 #include <vector>
@@ -10,12 +11,18 @@
 #include "app/window_host.h"
 #include "engine/function_ids.h"
 
+class QMenu;
+
 namespace brinto::test {
 
 // What a shell command writes on its standard output.
 std::string CommandOutput(const std::string& command);
-// The entry of the window's menus with caption `entry`, or nullptr.
+// The menus of the menu bar, each with its entries, as the user finds them on opening it.
+QList<QMenu*> Menus(MainWindow& window);
+// The entry of the window's menus with caption `entry` (mnemonic left out), or nullptr.
 QAction* MenuEntry(MainWindow& window, const char* entry);
+// Chooses that entry, as the user does, and lets it act (entries act once the menu has closed).
+void Trigger(MainWindow& window, const char* entry);
 
 class RecordingHost : public WindowHost {
 public:

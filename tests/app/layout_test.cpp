@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QButtonGroup>
 #include <QDialogButtonBox>
 #include <QFontMetrics>
@@ -77,25 +76,6 @@ TEST(Layout, KeysStayPutAtTheFirstKey) {
     EXPECT_EQ(calculator.engine.X(), 5.0);
     EXPECT_EQ(window.keyboardView()->geometry(), keys);
     EXPECT_EQ(window.display()->geometry(), display);
-}
-
-// The Stack view opens beside the calculator; the other windows centred on it.
-TEST(Layout, StackBesideOthersCentred) {
-    Desk desk;
-    desk.window.move(20, 20);
-    desk.window.OpenView(View::Stack);
-    QWidget* stack = QApplication::activeModalWidget();
-    for (QWidget* w : QApplication::topLevelWidgets()) {
-        if (w->isVisible() && w->windowTitle() == QStringLiteral("Stack")) stack = w;
-    }
-    ASSERT_NE(stack, nullptr);
-    EXPECT_FALSE(stack->frameGeometry().intersects(desk.window.frameGeometry()));
-    desk.window.OpenView(View::Tvm);
-    QWidget* tvm = QApplication::activeModalWidget();
-    ASSERT_NE(tvm, nullptr);
-    EXPECT_LE((tvm->frameGeometry().center() - desk.window.frameGeometry().center()).manhattanLength(), 4);
-    tvm->close();
-    stack->close();
 }
 
 // While a prefix waits for its register digits the display says so, until it completes or is

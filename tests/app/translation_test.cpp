@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QLocale>
+#include <QMenu>
 #include <QMenuBar>
 #include <QSet>
 #include <QTranslator>
@@ -33,8 +34,7 @@ TEST(German, TheWindowStartsInGermanUnderAGermanLocale) {
     for (const QAction* menu : desk.window.menuBar()->actions()) menus << menu->text();
     EXPECT_EQ(menus, QStringList({QStringLiteral("&Ansicht"), QStringLiteral("&Bearbeiten"),
                                   QStringLiteral("&Optionen")}));
-    EXPECT_EQ(desk.window.menuBar()->actions().value(1)->menu()->actions().value(0)->text(),
-              QString::fromUtf8("&Rückgängig"));
+    EXPECT_EQ(Menus(desk.window).value(1)->actions().value(0)->text(), QString::fromUtf8("&Rückgängig"));
     // A key's tooltip says what it does in German; its face stays the calculator's.
     EXPECT_EQ(KeyMeaningText("Square root"), QStringLiteral("Quadratwurzel"));
     EXPECT_EQ(MessageText(message::NothingToUndoCaption), QString::fromUtf8("Nichts rückgängig zu machen"));
@@ -112,7 +112,7 @@ TEST(Translations, EachMenuUnderlinesEachLetterOnce) {
                 return letters;
             };
             QList<QList<QAction*>> menus = {desk.window.menuBar()->actions()};
-            for (QAction* menu : desk.window.menuBar()->actions()) menus << menu->menu()->actions();
+            for (QMenu* menu : Menus(desk.window)) menus << menu->actions();
             for (const QList<QAction*>& actions : menus) {
                 const QStringList letters = underlined(actions);
                 EXPECT_EQ(letters.size(), QSet<QString>(letters.begin(), letters.end()).size())

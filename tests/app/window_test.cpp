@@ -1,23 +1,20 @@
-// The main window through its real widgets: taps on drawn keys, hardware keys, menu commands and
-// their messages, keyboard switching, and the faces of every theme.
+// The main window through its real widgets: taps on drawn keys, hardware keys, keyboard switching,
+// the clipboard, the history tape, the not-saved line, quitting, the icon and the geometry kept.
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
-#include <QAction>
 #include <QButtonGroup>
 #include <QClipboard>
 #include <QComboBox>
 #include <QGuiApplication>
 #include <QImage>
-#include <QMenuBar>
-#include <QStatusBar>
 #include <QLabel>
+#include <QStatusBar>
 #include <QTimer>
 #include <QTreeWidget>
 #include <charconv>
-#include <filesystem>
 #include <cmath>
-#include <cstdio>
+#include <filesystem>
 #include <regex>
 
 #include "app/tape_panel.h"
@@ -29,22 +26,10 @@
 namespace brinto::test {
 namespace {
 
-// brinto-cli's whole state after `tokens`, as JSON.
-std::string CliJson(const std::string& tokens) {
-    const std::string command = std::string(BRINTO_CLI_PATH) +
-                                " --memory --json --now '2005-03-15 14:05:00' " + tokens + " 2>/dev/null";
-    return CommandOutput(command);
-}
-
-// Level `level` as brinto-cli's JSON writes it: the shortest value and the tag.
-std::string LevelOf(const Engine& e, int level) {
-    char buffer[64];
-    const double value = e.state.stack[level];
-    const auto end = std::to_chars(buffer, buffer + sizeof buffer, std::isnan(value) ? NAN : value).ptr;
-    return "\"value\":\"" + std::string(buffer, end) + "\",\"tag\":" + std::to_string(ToNumber(e.state.tags[level]));
-}
-
-std::vector<std::string> CliLevels(const std::string& json) {
+// Each stack level as brinto-cli's JSON writes it after `tokens`: the shortest value and the tag.
+std::vector<std::string> CliLevels(const std::string& tokens) {
+    const std::string json = CommandOutput(std::string(BRINTO_CLI_PATH) + " --memory --json --now '2005-03-15 14:05:00' " +
+                                           tokens + " 2>/dev/null");
     static const std::regex level(R"re("value":"[^"]*","tag":\d+)re");
     std::vector<std::string> levels;
     for (auto it = std::sregex_iterator(json.begin(), json.end(), level); it != std::sregex_iterator(); ++it) {
@@ -53,12 +38,19 @@ std::vector<std::string> CliLevels(const std::string& json) {
     return levels;
 }
 
+std::string LevelOf(const Engine& e, int level) {
+    char buffer[64];
+    const double value = e.state.stack[level];
+    const auto end = std::to_chars(buffer, buffer + sizeof buffer, std::isnan(value) ? NAN : value).ptr;
+    return "\"value\":\"" + std::string(buffer, end) + "\",\"tag\":" + std::to_string(ToNumber(e.state.tags[level]));
+}
+
 TEST(Window, EveryBlockKeyOfEveryKeyboardActsAsInBrintoCli) {
     // RPN is chosen on the shifted General block and the keyboard reached with the Down arrow;
     // then each block key in turn, shifted or not, gets operands typed on the keyboard. The whole
     // stack must end as brinto-cli's after the same keys.
     for (int keyboard = 0; keyboard < kUserKeyboard; ++keyboard) {
-        for (int shift = 0; shift <= 1; ++shift) {
+        for (const bool shift : {false, true}) {
             Desk desk;
             ASSERT_TRUE(desk.Click(fid::Shift));
             desk.ClickBlock(3);
@@ -66,61 +58,60 @@ TEST(Window, EveryBlockKeyOfEveryKeyboardActsAsInBrintoCli) {
             std::string tokens = "rpn kb:" + std::to_string(keyboard);
             for (int k = 1; k <= kBlockKeys; ++k) {
                 // Typed, not tapped: a prefix key may have left the keypad shifted.
-                desk.Type("7");
-                desk.Press(Qt::Key_Return);
-                desk.Type("3");
+                desk.Type("7\r3");
                 if (shift) {
                     ASSERT_TRUE(desk.Click(fid::Shift));
                 }
                 desk.ClickBlock(k);
                 tokens += std::string(" 7 enter 3") + (shift ? " shift" : "") + " key:" + std::to_string(k);
             }
-            const std::vector<std::string> cli = CliLevels(CliJson(tokens));
-            ASSERT_GE(cli.size(), 20u) << tokens;
-            for (int level = 0; level < 20; ++level) EXPECT_EQ(LevelOf(desk.engine(), level), cli[level]) << tokens;
-            EXPECT_EQ(desk.engine().Keyboard(), keyboard) << tokens;
+            SCOPED_TRACE(tokens);
+            const std::vector<std::string> cli = CliLevels(tokens);
+            ASSERT_GE(cli.size(), 20u);
+            for (int level = 0; level < 20; ++level) EXPECT_EQ(LevelOf(desk.engine(), level), cli[level]);
+            EXPECT_EQ(desk.engine().Keyboard(), keyboard);
         }
     }
 }
 
-TEST(Window, KeypadAndHardwareKeysInEachInputMethod) {
+// Characters, Return and Backspace reach the calculator in each input method, and the drawn keypad
+// of either view; a character that is no key beeps.
+TEST(Window, TypedAndTappedKeysReachTheCalculator) {
     struct Case {
-        const char* method;  // the shifted General key that selects it
-        int methodKey;
+        int methodKey;  // the shifted General key that selects the input method; 0: none
+        bool basic;     // the Basic view instead of the Advanced keyboard
+        std::vector<FunctionId> taps;
         const char* typed;
-        const char* expected;
+        const char* x;
+        int beeps;
     };
     const Case cases[] = {
-        {"simple", 1, "2+3*5=", "25."},
-        {"precedence", 2, "2+3*5=", "17."},
-        {"rpn", 3, "2\r3\r5*+", "17."},
-        {"simple", 1, "1234567.5=", "1,234,567.5"},
-        {"rpn", 3, "12\b4\r", "14."},  // Backspace edits the number being typed
+        {1, false, {}, "2+3*5=", "25.", 0},
+        {2, false, {}, "2+3*5=", "17.", 0},
+        {3, false, {}, "2\r3\r5*+", "17.", 0},
+        {3, false, {}, "12\b4\r", "14.", 0},  // Backspace edits the number being typed
+        {0, false, {fid::Digit2, fid::Add, fid::Digit3, fid::Multiply, fid::Digit5, fid::Equals}, "", "25.", 0},
+        {0, true, {fid::Digit2, fid::Add, fid::Digit3, fid::Multiply, fid::Digit5, fid::Equals}, "", "25.", 0},
+        {0, false, {}, "q", "0.", 1},
     };
     for (const Case& c : cases) {
+        SCOPED_TRACE(std::to_string(c.methodKey) + (c.basic ? " basic " : " ") + c.typed);
         Desk desk;
-        desk.Click(fid::Shift);
-        desk.ClickBlock(c.methodKey);
+        if (c.methodKey) {
+            desk.Click(fid::Shift);
+            desk.ClickBlock(c.methodKey);
+        }
+        if (c.basic) desk.Press(Qt::Key_Left);
+        ASSERT_EQ(desk.window.basicView()->isVisible(), c.basic);
+        for (FunctionId id : c.taps) ASSERT_TRUE(desk.Click(id)) << ToNumber(id);
         for (const char* p = c.typed; *p; ++p) {
             if (*p == '\r') desk.Press(Qt::Key_Return);
             else if (*p == '\b') desk.Press(Qt::Key_Backspace);
             else QTest::keyClick(&desk.window, *p);
         }
-        EXPECT_EQ(desk.XLine(), c.expected) << c.method << ' ' << c.typed;
+        EXPECT_EQ(desk.XLine(), c.x);
+        EXPECT_EQ(desk.host.beeps, c.beeps);
     }
-    // The same keys tapped on the drawn keypad, in the Basic view too.
-    for (bool basic : {false, true}) {
-        Desk desk;
-        if (basic) desk.Press(Qt::Key_Left);
-        ASSERT_EQ(desk.window.basicView()->isVisible(), basic);
-        for (FunctionId id : {fid::Digit2, fid::Add, fid::Digit3, fid::Multiply, fid::Digit5, fid::Equals}) {
-            ASSERT_TRUE(desk.Click(id)) << ToNumber(id);
-        }
-        EXPECT_EQ(desk.XLine(), "25.");
-    }
-    Desk desk;
-    desk.Type("q");
-    EXPECT_EQ(desk.host.beeps, 1);  // a character that is no key
 }
 
 TEST(Window, KeyboardsSwitchByArrowsDropDownAndStrip) {
@@ -136,8 +127,7 @@ TEST(Window, KeyboardsSwitchByArrowsDropDownAndStrip) {
     desk.ChangePreferences([](Preferences& p) { p.SetQuickSwitch(true); });
     EXPECT_FALSE(desk.window.selector()->isVisible());
     ASSERT_TRUE(desk.window.quickSwitch()->isVisible());
-    QAbstractButton* programmer = desk.window.quickSwitchButtons()->button(4);
-    EXPECT_TRUE(programmer->isChecked());
+    EXPECT_TRUE(desk.window.quickSwitchButtons()->button(4)->isChecked());
     QTest::mouseClick(desk.window.quickSwitchButtons()->button(7), Qt::LeftButton);
     EXPECT_EQ(desk.engine().Keyboard(), 7);
     EXPECT_EQ(desk.window.selector()->currentIndex(), 7);
@@ -150,31 +140,19 @@ TEST(Window, KeyboardsSwitchByArrowsDropDownAndStrip) {
     desk.Press(Qt::Key_Left);
     EXPECT_TRUE(desk.window.quickSwitch()->isVisible());
     EXPECT_TRUE(desk.window.selector()->isEnabled());
-    desk.session().SelectKeyboard(kUserKeyboard + 1);  // no such keyboard: ignored
-    EXPECT_EQ(desk.engine().Keyboard(), 7);
 }
 
-TEST(Window, MenuCommandsAndTheirMessages) {
+// Copy and Paste go through the system clipboard, and the undo shortcuts reach the session; a
+// confirmation the user declines leaves the calculator as it was; the View menu switches views.
+TEST(Window, ClipboardUndoAndConfirmation) {
     Desk desk;
-    const auto trigger = [&](const char* entry) {
-        QAction* action = MenuEntry(desk.window, entry);
-        ASSERT_NE(action, nullptr) << entry;
-        action->trigger();
-        QCoreApplication::processEvents();  // entries act once the menu has closed
-    };
-    trigger("Undo");
-    trigger("Redo");
-    EXPECT_EQ(desk.host.messages, (std::vector<std::string>{"Nothing to Undo", "Nothing to Redo"}));
-
-    // Copy and Paste through the system clipboard; Cut drops X.
     desk.Type("42");
-    trigger("Copy");
+    Trigger(desk.window, "Copy");
     EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("42"));
     desk.Type("+1=");
-    EXPECT_EQ(desk.XLine(), "43.");
     QGuiApplication::clipboard()->setText(QStringLiteral("abc-7.5"));
     QTest::keyClick(&desk.window, Qt::Key_V, Qt::ControlModifier);
-    QCoreApplication::processEvents();
+    QCoreApplication::processEvents();  // menu entries act once the key's event is answered
     EXPECT_EQ(desk.XLine(), "7.5");
     QTest::keyClick(&desk.window, Qt::Key_Z, Qt::ControlModifier);
     QCoreApplication::processEvents();
@@ -182,24 +160,15 @@ TEST(Window, MenuCommandsAndTheirMessages) {
     QTest::keyClick(&desk.window, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
     QCoreApplication::processEvents();
     EXPECT_EQ(desk.XLine(), "7.5");
-
-    // Clear All asks first; Cancel executes nothing.
-    desk.host.messages.clear();
     desk.session().StoreRegister(5, 9.0);
     desk.host.confirm = false;
     ASSERT_TRUE(desk.Click(fid::Shift));
     ASSERT_TRUE(desk.Click(fid::ClearAll));
     EXPECT_EQ(desk.engine().registers.values[5], 9.0);
-    desk.host.confirm = true;
-    // The cancelled key left the shift latched.
-    EXPECT_TRUE(desk.Click(fid::ClearAll));
-    EXPECT_EQ(desk.engine().registers.values[5], 0.0);
-    EXPECT_EQ(desk.host.messages, (std::vector<std::string>{"Clear All", "Clear All"}));
-
-    // Basic and Advanced from the View menu.
-    trigger("Basic");
+    EXPECT_EQ(desk.host.messages, std::vector<std::string>{"Clear All"});
+    Trigger(desk.window, "Basic");
     EXPECT_TRUE(desk.window.basicView()->isVisible());
-    trigger("Advanced");
+    Trigger(desk.window, "Advanced");
     EXPECT_TRUE(desk.window.keyboardView()->isVisible());
 }
 
@@ -242,10 +211,9 @@ TEST(Window, TheHistoryTapeFollowsRecallsAndCopies) {
     desk.calculator.store.KeepEachCommand();
     desk.Type("2+3=");
     QTest::keyClick(&desk.window, Qt::Key_H, Qt::ControlModifier);
-    QCoreApplication::processEvents();  // menu entries act once the key's event is answered
+    QCoreApplication::processEvents();
     TapePanel* tape = desk.window.tapePanel();
-    ASSERT_NE(tape, nullptr);
-    ASSERT_TRUE(tape->isVisible());
+    ASSERT_TRUE(tape && tape->isVisible());
     QTreeWidget* list = tape->list();
     desk.Type("4*");
     ASSERT_EQ(list->topLevelItemCount(), 3);
@@ -262,9 +230,9 @@ TEST(Window, TheHistoryTapeFollowsRecallsAndCopies) {
     EXPECT_FALSE(tape->isVisible());
 }
 
-TEST(Window, IconIsBuiltInAtTheSizesAWindowShows) {
-    // Each size drawn at its own size, on the window and on the application, so the About box shows
-    // it too.
+// Each size of the icon drawn at its own size, on the window and on the application (so the About
+// box shows it too); the window's size is kept beside the calculator.
+TEST(Window, IconAtEverySizeAndGeometryKept) {
     Desk desk;
     for (const int size : {16, 22, 24, 32, 48, 64, 128}) {
         const QImage image(QStringLiteral(":/icons/%1x%1/apps/io.github.brinto.Brinto.png").arg(size));
@@ -272,26 +240,23 @@ TEST(Window, IconIsBuiltInAtTheSizesAWindowShows) {
         EXPECT_EQ(desk.window.windowIcon().actualSize(QSize(size, size)), QSize(size, size)) << size;
     }
     EXPECT_FALSE(QGuiApplication::windowIcon().isNull());
-}
 
-TEST(Window, SizeAndPositionAreKeptBesideTheCalculator) {
     const std::string db = std::filesystem::temp_directory_path() /
                            ("brinto-geometry-" + std::to_string(QCoreApplication::applicationPid()) + ".db");
-    {
+    for (const bool again : {false, true}) {
         RecordingHost host;
         Calculator calculator(host);
         calculator.Start(AppOptions{db, false, {}, {}});
         MainWindow window(calculator.session);
-        window.resize(500, 620);
-        calculator.Save(window.saveGeometry());
+        if (!again) {
+            window.resize(500, 620);
+            calculator.Save(window.saveGeometry());
+            continue;
+        }
+        ASSERT_TRUE(window.restoreGeometry(calculator.SavedGeometry()));
+        EXPECT_EQ(window.size(), QSize(500, 620));
+        EXPECT_TRUE(host.messages.empty());
     }
-    RecordingHost host;
-    Calculator calculator(host);
-    calculator.Start(AppOptions{db, false, {}, {}});
-    MainWindow window(calculator.session);
-    ASSERT_TRUE(window.restoreGeometry(calculator.SavedGeometry()));
-    EXPECT_EQ(window.size(), QSize(500, 620));
-    EXPECT_TRUE(host.messages.empty());
     std::filesystem::remove(db);
 }
 

@@ -1,9 +1,8 @@
-// Every number field of every window reads text the same way: one table of inputs, typed into
-// each field as a user types them (editor, text, Return), with the value stored or the refusal
-// shown and the field still in edit.
+// Every kind of number field reads text the same way: one table of inputs, typed into a field of
+// each kind in each window as a user types them (editor, text, Return), with the value stored or
+// the refusal shown and the field still in edit.
 #include <QLabel>
 #include <QLineEdit>
-#include <QTableWidget>
 #include <cmath>
 #include <functional>
 #include <limits>
@@ -11,9 +10,6 @@
 #include "app/dialogs/date_time_dialogs.h"
 #include "app/dialogs/register_view.h"
 #include "app_dialogs/dialog_test_support.h"
-#include "app_dialogs/test_classes.h"
-#include "engine/function_ids.h"
-#include "engine/register_bank.h"
 
 namespace brinto::test {
 namespace {
@@ -75,7 +71,7 @@ bool Takes(FieldKind kind, double v) {
 // A number field of a register view: its place, its kind and where its value is stored.
 struct TableField {
     const char* name;
-    dialogs::View view;
+    View view;
     int row, column;
     FieldKind kind;
     std::function<double(const Engine&)> stored;
@@ -85,110 +81,92 @@ std::function<double(const Engine&)> Register(int n) {
     return [n](const Engine& e) { return e.registers.values[n]; };
 }
 
+TEST(NumberFields, EveryKindOfTableFieldReadsTheSameTable) {
+    Rig run;
+    run.Type("100");
+    run.session.Tap(fid::CashFlow);
+    run.Type("200");
+    run.session.Tap(fid::CashFlow);
+    const TableField fields[] = {
+        {"TVM PV", View::Tvm, 3, 1, FieldKind::Value, Register(reg::PV)},
+        {"Amortization Start", View::Amortization, 5, 1, FieldKind::Payment,
+         [](const Engine& e) { return double(e.state.amortStart); }},
+        {"Statistical sum xy", View::Statistical, 5, 1, FieldKind::Value, Register(reg::SumXY)},
+        {"Cash flow CF0", View::CashFlow, 0, 1, FieldKind::Value, Register(0)},
+        {"Cash flow Nj of CF1", View::CashFlow, 1, 2, FieldKind::GroupCount,
+         [](const Engine& e) { return double(e.registers.aux[1]); }},
+        {"User register R99", View::UserRegisters, 99, 1, FieldKind::Value, Register(99)},
+    };
+    for (const TableField& field : fields) {
+        for (const Input& input : kInputs) {
+            SCOPED_TRACE(std::string(field.name) + " <- \"" + input.text + (input.commaRadix ? "\" (Comma Radix)" : "\""));
+            run.engine.prefs.SetCommaRadix(input.commaRadix);
+            auto* view = qobject_cast<dialogs::RegisterView*>(run.dialogs.Open(field.view));
+            ASSERT_NE(view, nullptr);
+            QTableWidget* table = view->table();
+            const QModelIndex index = table->model()->index(field.row, field.column);
+            table->editItem(table->item(field.row, field.column));
+            auto* edit = qobject_cast<QLineEdit*>(table->indexWidget(index));
+            ASSERT_NE(edit, nullptr);
+            const double before = field.stored(run.engine);
+            edit->setText(QString::fromUtf8(input.text));
+            QTest::keyClick(edit, Qt::Key_Return);
+            QCoreApplication::processEvents();  // the view commits an accepted editor after the key
+            const bool open = table->indexWidget(index) != nullptr;
+            if (Takes(field.kind, input.value)) {
+                EXPECT_FALSE(open || view->problem()->isVisibleTo(view));
+                EXPECT_EQ(field.stored(run.engine), input.value);
+            } else {
+                // Refused: still in edit, with the reason under the table, and nothing stored.
+                EXPECT_TRUE(open && view->problem()->isVisibleTo(view));
+                EXPECT_FALSE(view->problem()->text().isEmpty());
+                EXPECT_TRUE(field.stored(run.engine) == before || std::isnan(before));
+                if (&input == &kInputs[1]) {
+                    // Closing the view gives the refused edit up; reopened, it shows the register.
+                    view->close();
+                    QCoreApplication::processEvents();
+                    run.dialogs.Open(field.view);
+                    EXPECT_EQ(table->indexWidget(index), nullptr);
+                    EXPECT_FALSE(view->problem()->isVisibleTo(view));
+                } else {
+                    QTest::keyClick(edit, Qt::Key_Escape);
+                    QCoreApplication::processEvents();
+                }
+            }
+            view->close();
+        }
+    }
+}
+
+// The duration settings show their defaults while unset and take positive numbers; a refused one
+// keeps the dialog open on it and stores none. "Default" brings the defaults back, and OK is one
+// undoable step.
+TEST(NumberFields, DurationSettingsTakePositiveNumbers) {
+    Rig run;
+    dialogs::DurationsDialog* d = run.dialogs.OpenDurations();
+    EXPECT_EQ(d->field(0)->text(), QStringLiteral("365.25"));
+    const double unset = run.engine.DurationSetting(reg::DaysPerYear + 4);
+    for (const char* text : {"0", "-3", "abc", "360"}) {
+        SCOPED_TRACE(text);
+        d = run.dialogs.OpenDurations();
+        d->field(0)->setText(QString::fromUtf8(text));
+        d->field(4)->setText(QStringLiteral("2"));
+        Click(Button(d, QDialogButtonBox::Ok));
+        const bool taken = std::string_view(text) == "360";
+        EXPECT_EQ(d->isVisible(), !taken);
+        EXPECT_EQ(d->findChild<QLabel*>(QStringLiteral("problem"))->isVisibleTo(d), !taken);
+        EXPECT_EQ(run.engine.DurationSetting(reg::DaysPerYear + 4), taken ? 2.0 : unset);
+        if (!taken) Click(Button(d, QDialogButtonBox::Cancel));
+    }
+    d = run.dialogs.OpenDurations();
+    EXPECT_EQ(d->field(0)->text(), QStringLiteral("360."));  // as the display writes it
+    Click(ButtonCalled(d, QStringLiteral("Default")));
+    EXPECT_EQ(d->field(0)->text(), QStringLiteral("365.25"));
+    Click(Button(d, QDialogButtonBox::Cancel));
+    run.session.Undo();
+    EXPECT_EQ(run.engine.DurationSetting(reg::DaysPerYear), 365.25);
+    EXPECT_EQ(run.engine.DurationSetting(reg::DaysPerYear + 4), unset);
+}
+
 }  // namespace
-
-class NumberFieldTests : public QObject {
-    Q_OBJECT
-private slots:
-    void EveryTableFieldReadsTheSameTable() {
-        Place place;
-        Run run(place);
-        run.Type("100");
-        run.session.Tap(fid::CashFlow);
-        run.Type("200");
-        run.session.Tap(fid::CashFlow);
-        const TableField fields[] = {
-            {"TVM P/YR", dialogs::View::Tvm, 0, 1, FieldKind::Value, Register(reg::PYr)},
-            {"TVM N", dialogs::View::Tvm, 1, 1, FieldKind::Value, Register(reg::N)},
-            {"TVM I/YR", dialogs::View::Tvm, 2, 1, FieldKind::Value, Register(reg::IYr)},
-            {"TVM PV", dialogs::View::Tvm, 3, 1, FieldKind::Value, Register(reg::PV)},
-            {"TVM PMT", dialogs::View::Tvm, 4, 1, FieldKind::Value, Register(reg::PMT)},
-            {"TVM FV", dialogs::View::Tvm, 5, 1, FieldKind::Value, Register(reg::FV)},
-            {"Amortization PV", dialogs::View::Amortization, 3, 1, FieldKind::Value, Register(reg::PV)},
-            {"Amortization Start", dialogs::View::Amortization, 5, 1, FieldKind::Payment,
-             [](const Engine& e) { return double(e.state.amortStart); }},
-            {"Amortization End", dialogs::View::Amortization, 6, 1, FieldKind::Payment,
-             [](const Engine& e) { return double(e.state.amortEnd); }},
-            {"Statistical n", dialogs::View::Statistical, 0, 1, FieldKind::Value, Register(reg::StatN)},
-            {"Statistical sum xy", dialogs::View::Statistical, 5, 1, FieldKind::Value, Register(reg::SumXY)},
-            {"Cash flow CF0", dialogs::View::CashFlow, 0, 1, FieldKind::Value, Register(0)},
-            {"Cash flow Nj of CF1", dialogs::View::CashFlow, 1, 2, FieldKind::GroupCount,
-             [](const Engine& e) { return double(e.registers.aux[1]); }},
-            {"User register R0", dialogs::View::UserRegisters, 0, 1, FieldKind::Value, Register(0)},
-            {"User register R99", dialogs::View::UserRegisters, 99, 1, FieldKind::Value, Register(99)},
-        };
-        for (const TableField& field : fields) {
-            for (const Input& input : kInputs) {
-                const QString where = QStringLiteral("%1 <- \"%2\"%3")
-                                          .arg(QString::fromUtf8(field.name), QString::fromUtf8(input.text),
-                                               input.commaRadix ? QStringLiteral(" (Comma Radix)") : QString());
-                run.engine.prefs.SetCommaRadix(input.commaRadix);
-                auto* view = qobject_cast<dialogs::RegisterView*>(run.dialogs.Open(field.view));
-                QVERIFY2(view, qPrintable(where));
-                QTableWidget* table = view->table();
-                table->editItem(table->item(field.row, field.column));
-                auto* edit = qobject_cast<QLineEdit*>(table->indexWidget(table->model()->index(field.row, field.column)));
-                QVERIFY2(edit, qPrintable(where));
-                const double before = field.stored(run.engine);
-                edit->setText(QString::fromUtf8(input.text));
-                QTest::keyClick(edit, Qt::Key_Return);
-                QCoreApplication::processEvents();  // the view commits an accepted editor after the key
-                const bool open = table->indexWidget(table->model()->index(field.row, field.column)) != nullptr;
-                if (Takes(field.kind, input.value)) {
-                    QVERIFY2(!open && !view->problem()->isVisibleTo(view), qPrintable(where));
-                    QVERIFY2(field.stored(run.engine) == input.value, qPrintable(where));
-                } else {
-                    // Refused: still in edit, with the reason under the table, and nothing stored.
-                    QVERIFY2(open && view->problem()->isVisibleTo(view), qPrintable(where));
-                    QVERIFY2(!view->problem()->text().isEmpty(), qPrintable(where));
-                    QVERIFY2(field.stored(run.engine) == before || std::isnan(before), qPrintable(where));
-                    if (&input == &kInputs[0] + 1) {
-                        // Closing the view gives the refused edit up; reopened, it shows the register.
-                        view->close();
-                        QCoreApplication::processEvents();
-                        run.dialogs.Open(field.view);
-                        QVERIFY2(!table->indexWidget(table->model()->index(field.row, field.column)), qPrintable(where));
-                        QVERIFY2(!view->problem()->isVisibleTo(view), qPrintable(where));
-                    } else {
-                        QTest::keyClick(edit, Qt::Key_Escape);
-                        QCoreApplication::processEvents();
-                    }
-                }
-                view->close();
-            }
-        }
-    }
-
-    // The five duration settings take positive numbers; a refused one keeps the dialog open on
-    // it and stores none of the five.
-    void DurationFieldsReadTheSameTable() {
-        Place place;
-        Run run(place);
-        for (int i = 0; i < 5; ++i) {
-            for (const Input& input : kInputs) {
-                const QString where = QStringLiteral("duration %1 <- \"%2\"").arg(i).arg(QString::fromUtf8(input.text));
-                run.engine.prefs.SetCommaRadix(input.commaRadix);
-                dialogs::DurationsDialog* d = run.dialogs.OpenDurations();
-                const int number = reg::DaysPerYear + i;
-                const double before = run.engine.DurationSetting(number);
-                d->field(i)->setText(QString::fromUtf8(input.text));
-                Click(Button(d, QDialogButtonBox::Ok));
-                auto* problem = d->findChild<QLabel*>(QStringLiteral("problem"));
-                if (Takes(FieldKind::Positive, input.value)) {
-                    QVERIFY2(!d->isVisible(), qPrintable(where));
-                    QVERIFY2(run.engine.DurationSetting(number) == input.value, qPrintable(where));
-                } else {
-                    QVERIFY2(d->isVisible() && problem->isVisibleTo(d), qPrintable(where));
-                    QVERIFY2(run.engine.DurationSetting(number) == before, qPrintable(where));
-                    Click(Button(d, QDialogButtonBox::Cancel));
-                }
-            }
-        }
-    }
-};
-
-static RegisterTests<NumberFieldTests> numberFields;
-
 }  // namespace brinto::test
-
-#include "number_fields_test.moc"
