@@ -1,6 +1,7 @@
 #include "engine/numeric/date_fields.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstdint>
 
 namespace brinto {
@@ -14,6 +15,20 @@ consteval bool Ascending(const auto& table) {
     return true;
 }
 static_assert(Ascending(kFourYearTable) && kFourYearTable.back() == kDaysPerCycle);
+
+// Each month of the cycle 1904..1907 starts on the day the civil calendar gives, and the first day
+// is a Friday. Within 1904..2031 every fourth year is a leap year in both (2000 too), so the one
+// cycle stands for the whole range.
+consteval bool TableIsTheCivilCalendar() {
+    namespace chr = std::chrono;
+    const chr::sys_days epoch = chr::year{kDateEpochYear} / chr::January / 1;
+    for (int m = 0; m < 48; ++m) {
+        const chr::sys_days first = chr::year{kDateEpochYear + m / 12} / chr::month(m % 12 + 1) / 1;
+        if ((first - epoch).count() != kFourYearTable[m]) return false;
+    }
+    return chr::weekday{epoch} == chr::Friday;
+}
+static_assert(TableIsTheCivilCalendar());
 
 constexpr std::int64_t FloorDivide(std::int64_t a, std::int64_t b) {
     return a / b - (a % b != 0 && (a < 0) != (b < 0) ? 1 : 0);
