@@ -23,7 +23,10 @@ constexpr FunctionId Plus = fid::Add, Minus = fid::Subtract, Times = fid::Multip
                      Eq = fid::Equals, Open = fid::OpenParen, Close = fid::CloseParen;
 
 // Where a key must leave the stack lift alone, enable it or disable it, the row ends with keys
-// whose result differs in each case.
+// whose result differs in each case. The hyperbolic prefix acts on the next key only, without
+// angle conversion; pi keeps a number being typed in RPN and replaces X after an operator; percent
+// is of the running total only after + or -, and in RPN leaves Y; the coordinate keys use up the
+// Enter marker the algebraic methods leave for them.
 TEST(InputMethods, KeySequencesLeaveExpectedXAndY) {
     const MethodCase cases[] = {
         {"simple left to right", InputMethod::Simple, {2, Plus, 3, Times, 5, Eq}, 25},
@@ -58,6 +61,15 @@ TEST(InputMethods, KeySequencesLeaveExpectedXAndY) {
         {"backspace only cancels the hyperbolic prefix", InputMethod::Rpn, {1, fid::Hyperbolic, fid::Backspace, fid::Asin}, 90},
         {"backspace outside an entry clears x, lift disabled", InputMethod::Rpn,
          {1, fid::Enter, 4, fid::Enter, 5, Plus, fid::Backspace, 3, Plus}, 4},
+        {"hyperbolic sine in degrees", InputMethod::Rpn, {9, 0, fid::Hyperbolic, fid::Sin}, std::sinh(90.0), 0},
+        {"the prefix is used up", InputMethod::Rpn, {2, fid::Hyperbolic, fid::Acos, 3, 0, fid::Sin}, 0.5, std::acosh(2.0)},
+        {"pressed twice, cancelled", InputMethod::Rpn, {3, 0, fid::Hyperbolic, fid::Hyperbolic, fid::Sin}, 0.5, 0},
+        {"pi keeps a number being typed", InputMethod::Rpn, {2, fid::Enter, 3, fid::Pi}, M_PI, 3},
+        {"pi after an operator", InputMethod::Simple, {2, Times, fid::Pi, Eq}, 2 * M_PI, 0},
+        {"percent of x", InputMethod::Simple, {2, 0, 0, Times, 1, 0, fid::Percent}, 0.1, 200},
+        {"percent in RPN leaves y", InputMethod::Rpn, {2, 0, 0, fid::Enter, 1, 0, fid::Percent}, 20, 200},
+        {"coordinates use up the enter marker", InputMethod::Simple,
+         {3, fid::Enter, 4, fid::RectToPolar, Plus, 1, Eq}, 6, std::atan2(3.0, 4.0) * 180 / M_PI},
     };
     for (const MethodCase& c : cases) {
         SCOPED_TRACE(c.name);

@@ -85,31 +85,6 @@ TEST(LastX, SavedByEveryFunctionButAbsoluteValueFloorCeilingPiAndRandom) {
     }
 }
 
-// The hyperbolic prefix acts on the next key only, without angle conversion; pressed twice it is
-// cancelled. Pi and the percent key follow the method: pi keeps a number being typed in RPN and
-// replaces X after an operator; percent is of the running total only after + or -, and in RPN
-// leaves Y. The coordinate keys use up the Enter marker the algebraic methods leave for them.
-TEST(KeySequences, PrefixRecallAndPercentFollowTheMethod) {
-    const struct { const char* name; InputMethod method; std::vector<Key> keys; double x, y; } cases[] = {
-        {"hyperbolic sine in degrees", InputMethod::Rpn, {9, 0, fid::Hyperbolic, fid::Sin}, std::sinh(90.0), 0},
-        {"the prefix is used up", InputMethod::Rpn, {2, fid::Hyperbolic, fid::Acos, 3, 0, fid::Sin}, 0.5, std::acosh(2.0)},
-        {"pressed twice, cancelled", InputMethod::Rpn, {3, 0, fid::Hyperbolic, fid::Hyperbolic, fid::Sin}, 0.5, 0},
-        {"pi keeps a number being typed", InputMethod::Rpn, {2, fid::Enter, 3, fid::Pi}, M_PI, 3},
-        {"pi after an operator", InputMethod::Simple, {2, fid::Multiply, fid::Pi, fid::Equals}, 2 * M_PI, 0},
-        {"percent of x", InputMethod::Simple, {2, 0, 0, fid::Multiply, 1, 0, fid::Percent}, 0.1, 200},
-        {"percent in RPN leaves y", InputMethod::Rpn, {2, 0, 0, fid::Enter, 1, 0, fid::Percent}, 20, 200},
-        {"coordinates use up the enter marker", InputMethod::Simple,
-         {3, fid::Enter, 4, fid::RectToPolar, fid::Add, 1, fid::Equals}, 6, std::atan2(3.0, 4.0) * 180 / M_PI},
-    };
-    for (const auto& c : cases) {
-        SCOPED_TRACE(c.name);
-        Engine e = MakeEngine(c.method);
-        Press(e, c.keys);
-        EXPECT_DOUBLE_EQ(e.X(), c.x);
-        EXPECT_DOUBLE_EQ(e.Y(), c.y);
-    }
-}
-
 TEST(RoundToDisplay, KeepsWhatTheDisplayShowsAndEndsTheFullDisplay) {
     Engine e = Holding({{2.0 / 3.0, Meters}});
     Press(e, {fid::FormatFixed, 2});
@@ -154,9 +129,9 @@ TEST(Constants, RecallFollowsTheLiftAndKeepsLastXAndTheListsScroll) {
     e.Dispatch(fid::KilometersPerHour);  // km/h: the tagged constants convert
     EXPECT_NEAR(e.X(), 1079252848.8, 1e-3);
     ASSERT_TRUE(RecallConstant(e, kElectronMass, 10));
-    EXPECT_EQ(XLabel(e), "kg");
+    EXPECT_EQ(e.XTag(), Kilograms);
     for (const int outside : {kConstantCount, -1}) EXPECT_FALSE(RecallConstant(e, outside, 3));
-    EXPECT_EQ(std::tuple(XLabel(e), e.state.constantsTopRow), std::tuple("kg", 10));
+    EXPECT_EQ(std::tuple(e.XTag(), e.state.constantsTopRow), std::tuple(Kilograms, 10));
     e = MakeEngine(InputMethod::Simple);
     Press(e, {2, fid::Multiply});
     RecallConstant(e, kSpeedOfLight, 0);
