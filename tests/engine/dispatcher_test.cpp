@@ -71,10 +71,11 @@ TEST(RegisterClears, KeysClearTheirGroups) {
     Engine e = MakeEngine(InputMethod::Rpn);
     const RegisterBank& r = e.registers;
     std::fill_n(e.registers.values, kRegisterCount, 1.0);
+    std::fill_n(e.registers.aux, kUserRegisters, 2u);
     e.registers.values[reg::PYr] = 0.0;
     e.Dispatch(fid::ClearFinancial);
-    EXPECT_EQ(std::tuple(r.values[5], r.values[reg::PV], r.values[reg::PYr], r.cashFlowCount, r.values[reg::DaysPerYear]),
-              std::tuple(0.0, 0.0, 12.0, -1, 1.0));
+    EXPECT_EQ(std::tuple(r.values[5], r.aux[5], r.values[reg::PV], r.values[reg::PYr], r.cashFlowCount, r.values[reg::DaysPerYear]),
+              std::tuple(0.0, 0u, 0.0, 12.0, -1, 1.0));
     EXPECT_EQ(std::pair(e.X(), e.XTag()), std::pair(12.0, ValueTag::PerYear));
     e.Dispatch(fid::ClearStatistics);
     EXPECT_EQ(std::pair(r.values[reg::DaysPerYear], e.DurationSetting(reg::DaysPerYear)), std::pair(0.0, 365.25));

@@ -4,7 +4,6 @@
 #include <tuple>
 #include <vector>
 
-#include "display/display_text.h"
 #include "finance/cash_flows.h"
 #include "engine/value_tags.h"
 #include "engine/engine_test_support.h"
@@ -48,7 +47,7 @@ TEST(CashFlows, GroupsAreValuedAsTheFlowsWrittenOutUpToAZeroCount) {
     EXPECT_EQ(irrFrom10(), rate);
     Store(e, "0", fid::IYr);
     e.Dispatch(fid::Npv);
-    EXPECT_EQ(DisplayLevel(e, 0).text, "error");  // no rate: 0 / 0
+    EXPECT_TRUE(std::isnan(e.X()));  // no rate: 0 / 0, which the display shows as an error
 }
 
 TEST(CashFlows, ReturnRateFromTypedOrStoredGuess) {
@@ -81,9 +80,6 @@ TEST(CashFlows, EntryKeysStoreAndLabelWithoutMovingTheStack) {
     while (e.registers.cashFlowCount < 99) Store(e, "1", fid::CashFlow);
     EXPECT_FALSE((Type(e, "2"), e.Dispatch(fid::CashFlow)));  // the 101st entry is refused
     EXPECT_EQ(e.registers.cashFlowCount, 99);
-    e.Dispatch(fid::ClearFinancial);
-    const RegisterBank& r = e.registers;
-    EXPECT_EQ(std::tuple(r.cashFlowCount, r.aux[1], r.values[1], r.values[reg::PYr]), std::tuple(-1, 0u, 0.0, 12.0));
 }
 
 }  // namespace
