@@ -12,7 +12,10 @@ namespace {
 using test::MakeEngine;
 using test::Press;
 
-TEST(FormatPrefix, DigitOrPointSetsTheDisplayFormat) {
+// A format key waits for its digit count (or the point) and backspace cancels it; backspace
+// outside an entry drops X when the preference says so; an unknown key changes nothing, not even
+// the history.
+TEST(Dispatcher, FormatPrefixDroppingBackspaceAndUnknownKeys) {
     Engine e = MakeEngine(InputMethod::Rpn);
     Press(e, {fid::FormatStandard, fid::Point});
     EXPECT_EQ(std::pair(e.prefs.Format(), e.prefs.DigitField()), std::pair(NumberFormat::Standard, 0));
@@ -20,24 +23,13 @@ TEST(FormatPrefix, DigitOrPointSetsTheDisplayFormat) {
     EXPECT_EQ(std::pair(e.prefs.Format(), e.prefs.DigitField()), std::pair(NumberFormat::Scientific, 4));
     EXPECT_TRUE(e.dirty.preferences);
     Press(e, {fid::FormatFixed, fid::Backspace, 7});  // backspace cancels; 7 is typed
-    EXPECT_EQ(e.prefs.Format(), NumberFormat::Scientific);
-    EXPECT_EQ(e.X(), 7.0);
-}
-
-TEST(Dispatcher, BackspaceOutsideAnEntryDropsWhenThePreferenceSaysSo) {
-    Engine e = MakeEngine(InputMethod::Rpn);
+    EXPECT_EQ(std::pair(e.prefs.Format(), e.X()), std::pair(NumberFormat::Scientific, 7.0));
     e.prefs.SetBackspaceDrops(true);
-    Press(e, {4, fid::Enter, 9, fid::Enter, fid::Backspace});
-    EXPECT_EQ(std::pair(e.X(), e.Y()), std::pair(9.0, 4.0));
-}
-
-TEST(Dispatcher, UnknownKeyIsNotAcceptedAndChangesNothing) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {1, 2});
+    Press(e, {fid::Enter, 9, fid::Enter, fid::Backspace});
+    EXPECT_EQ(std::pair(e.X(), e.Y()), std::pair(9.0, 7.0));
     const int steps = e.history.UndoCount();
     EXPECT_FALSE(e.Dispatch(FunctionIdFrom(9999)));
-    EXPECT_EQ(e.state.lastCommand, fid::Digit2);
-    EXPECT_EQ(e.history.UndoCount(), steps);  // not an undo step either
+    EXPECT_EQ(std::pair(e.state.lastCommand, e.history.UndoCount()), std::pair(fid::Backspace, steps));
 }
 
 // Standard lasts one key, Sticky until pressed again, Locking holds on a double press.
