@@ -59,10 +59,8 @@ TEST(TvmKeys, SolveWithoutTypingStoreWhenTyping) {
 TEST(TvmKeys, LabelsBalanceRestartAndChangedFlag) {
     Engine e = MakeEngine(InputMethod::Rpn);
     const struct { FunctionId key; ValueTag label; bool restartsBalance; } cases[] = {
-        {fid::N, label::Months, false},    {fid::IYr, label::YearlyRate, true}, {fid::PV, label::PresentValue, true},
-        {fid::PMT, label::Payment, true},  {fid::FV, label::FutureValue, false}, {fid::PYr, label::PerYear, true},
-        {fid::Nom, label::Nominal, true},  {fid::Eff, label::Effective, false},  {fid::TimesPYr, label::Months, false},
-        {fid::Cost, label::Cost, false},   {fid::Price, label::Price, false},    {fid::Markup, label::Markup, false}};
+        {fid::N, label::Months, false},    {fid::PV, label::PresentValue, true},  {fid::FV, label::FutureValue, false},
+        {fid::TimesPYr, label::Months, false}};
     for (const auto& c : cases) {
         for (const char* typed : {"12", ""}) {
             e.state.amortBalance = 1234.5;
