@@ -24,28 +24,26 @@ TEST(History, KeepsTheTenNewestSteps) {
     EXPECT_EQ(e.state.pendingCount, 1);  // the first step is gone
 }
 
-TEST(History, NewOperationEndsTheRedoChain) {
+// A macro's playback is one step; a new operation ends the redo chain; Clear All empties the
+// registers, the macro and the stack, and undo brings them back.
+TEST(History, PlaybackIsOneStepANewOperationEndsRedoAndClearAllIsUndone) {
     Engine e = MakeEngine(InputMethod::Rpn);
+    Press(e, {fid::MacroRecord, 1, fid::Add, 2, fid::Multiply, fid::MacroStop, 7, fid::StoreVariant, 4});
     Press(e, {5, fid::Enter, 6, fid::Add});
     ASSERT_TRUE(Undo(e));
     EXPECT_EQ(e.X(), 6.0);
     ASSERT_TRUE(Redo(e));
     EXPECT_EQ(e.X(), 11.0);
+    e.Dispatch(fid::MacroPlay);  // (11 + 1) x 2
+    EXPECT_EQ(e.X(), 24.0);
     ASSERT_TRUE(Undo(e));
+    EXPECT_EQ(e.X(), 11.0);
     Press(e, {fid::Multiply});
-    EXPECT_FALSE(e.history.CanRedo());
-    EXPECT_EQ(e.X(), 30.0);
-}
-
-TEST(History, ClearAllClearsEverythingAndUndoBringsItBack) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {fid::MacroRecord, 1, fid::Add, fid::MacroStop});
-    Press(e, {7, fid::StoreVariant, 4, fid::Enter});
+    EXPECT_EQ(std::pair(e.X(), e.history.CanRedo()), std::pair(77.0, false));
     Press(e, {fid::ClearAll});
     EXPECT_EQ(std::tuple(e.registers.values[4], e.macro.macroLength, e.X(), e.Y()), std::tuple(0.0, 0, 0.0, 0.0));
     ASSERT_TRUE(Undo(e));
-    EXPECT_EQ(e.registers.values[4], 7.0);
-    EXPECT_EQ(e.macro.macroLength, 4);
+    EXPECT_EQ(std::pair(e.registers.values[4], int{e.macro.macroLength}), std::pair(7.0, 6));
 }
 
 TEST(History, FirstShiftSurvivesUndoOnlyWhenSticky) {
@@ -87,17 +85,6 @@ TEST(Macro, PlaybackInTheRecordedMethodUpToAnErrorOrTheEnd) {
         EXPECT_EQ(e.IsRpn(), c.rpn);
         EXPECT_FALSE(e.state.engineFlags & flags::Playing);
     }
-}
-
-TEST(Macro, PlaybackIsOneUndoStep) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {fid::MacroRecord, 1, fid::Add, 2, fid::Multiply, fid::MacroStop});
-    Press(e, {4, fid::Enter});
-    const double before = e.X();
-    e.Dispatch(fid::MacroPlay);
-    EXPECT_EQ(e.X(), 10.0);
-    ASSERT_TRUE(Undo(e));
-    EXPECT_EQ(e.X(), before);
 }
 
 // While a recording is paused the keys still go into the macro, after the recorded pause where
