@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdint>
+#include <limits>
 
 namespace brinto {
 
@@ -30,17 +31,18 @@ consteval bool TableIsTheCivilCalendar() {
 }
 static_assert(TableIsTheCivilCalendar());
 
+// Fractions are cut off; what lies outside the range, NaN and infinity too, is held at its ends
+// (2^32 + 7 would wrap into the range as a u32).
+constexpr double kNaN = std::numeric_limits<double>::quiet_NaN(), kInf = std::numeric_limits<double>::infinity();
+static_assert(DateSeconds(12.7) == 12 && DateSeconds(-5) == 0 && DateSeconds(kNaN) == 0 && DateSeconds(-kInf) == 0);
+static_assert(DateSeconds(4294967296.0 + 7) == kMaxDateValue && DateSeconds(kInf) == kMaxDateValue &&
+              DateSeconds(kMaxDateValue + 0.5) == kMaxDateValue && DateSeconds(1e10) == kMaxDateValue);
+
 constexpr std::int64_t FloorDivide(std::int64_t a, std::int64_t b) {
     return a / b - (a % b != 0 && (a < 0) != (b < 0) ? 1 : 0);
 }
 
 }  // namespace
-
-u32 DateSeconds(double value) {
-    if (!(value > 0)) return 0;  // also NaN
-    if (value >= kMaxDateValue) return kMaxDateValue;
-    return static_cast<u32>(value);
-}
 
 DateFields SplitDate(double value) {
     const u32 seconds = DateSeconds(value);
