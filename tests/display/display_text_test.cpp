@@ -103,6 +103,12 @@ TEST_F(DisplayTextTest, ValuesShowAsFormatRadixBaseAndTagSay) {
     }
     e.state.status = octal;
     EXPECT_EQ(Formatted(255, kU8, true), "377");  // without the point
+    Put(0, kInfinity);
+    Put(1, -1, kDate);
+    Put(2, 3);
+    const DisplayLine x = DisplayLevel(e, 0), y = DisplayLevel(e, 1);
+    EXPECT_EQ(std::tuple(x.error, y.error, y.label), std::tuple(true, true, "date"));
+    EXPECT_FALSE(DisplayLevel(e, 2).error);
 }
 
 TEST_F(DisplayTextTest, TheNumberBeingTypedShowsAsTyped) {
@@ -123,15 +129,6 @@ TEST_F(DisplayTextTest, TheNumberBeingTypedShowsAsTyped) {
     EXPECT_EQ(DisplayLevel(e, 0).text, "FFFF0");
     Put(1, 1234.5);
     EXPECT_EQ(DisplayLevel(e, 1).text, "4D2.");  // other levels show their values
-}
-
-TEST_F(DisplayTextTest, ValuesTheFormatterRefusesShowError) {
-    Put(0, kInfinity);
-    Put(1, -1, kDate);
-    Put(2, 3);
-    const DisplayLine x = DisplayLevel(e, 0), y = DisplayLevel(e, 1);
-    EXPECT_EQ(std::tuple(x.error, y.error, y.label), std::tuple(true, true, "date"));
-    EXPECT_FALSE(DisplayLevel(e, 2).error);
 }
 
 TEST_F(DisplayTextTest, LabelsComeFromTheTagWithCashFlowDecorations) {

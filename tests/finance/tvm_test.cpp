@@ -38,7 +38,7 @@ TEST(SecantSolver, AStuckPointIsARootOnlyWhenItsResidualIsSmall) {
     EXPECT_NEAR(SolveSecant([](double x) { return 5e-8 + (x - 1) * (x - 1); }, 1 - 4e-8, 1 + 4e-8), 1.0, 1e-7);
 }
 
-TEST(TvmKeys, SolveWithoutTypingStoreWhenTyping) {
+TEST(TvmKeys, SolveOrStoreLabelAndRestartTheBalance) {
     Engine e = MakeEngine(InputMethod::Rpn);
     for (const auto& [number, key] : {std::pair{"360", fid::N}, {"6", fid::IYr}, {"100000", fid::PV}, {"0", fid::FV}}) {
         Store(e, number, key);
@@ -54,10 +54,7 @@ TEST(TvmKeys, SolveWithoutTypingStoreWhenTyping) {
     Store(e, "360", fid::N);
     e.Dispatch(fid::IYr);  // the failed solve's error value is no guess: it restarts from 0
     EXPECT_NEAR(e.X(), 6.0, 1e-10);
-}
-
-TEST(TvmKeys, LabelsBalanceRestartAndChangedFlag) {
-    Engine e = MakeEngine(InputMethod::Rpn);
+    e = MakeEngine(InputMethod::Rpn);
     const struct { FunctionId key; ValueTag label; bool restartsBalance; } cases[] = {
         {fid::N, label::Months, false},    {fid::PV, label::PresentValue, true},  {fid::FV, label::FutureValue, false},
         {fid::TimesPYr, label::Months, false}};

@@ -15,7 +15,7 @@ using enum ValueTag;
 constexpr FunctionId kInchesKey = fid::Inches, kFeetKey = fid::Feet, kMetersPerSKey = fid::MetersPerSecond;
 constexpr FunctionId kHoursKey = fid::Hours, kMinutesKey = fid::Minutes;
 
-TEST(UnitKeys, ConvertWithinTheirTableAndOnlyLabelOtherValues) {
+TEST(UnitKeysAndRules, ConvertWithinTheirTableLabelOtherValuesAndTagArithmetic) {
     Engine e = Holding({{12, None}});
     e.state.lastX = 99;
     e.Dispatch(kInchesKey);
@@ -27,9 +27,6 @@ TEST(UnitKeys, ConvertWithinTheirTableAndOnlyLabelOtherValues) {
         {fid::DegC, {-40, DegF}, {-40, DegC}},   {fid::DegF, {5, Meters}, {5, DegF}},
         {kMinutesKey, {1.3, Hms}, {90, Minutes}}, {kHoursKey, {90, None}, {90, Hours}}, {kHoursKey, {90, Meters}, {90, Hours}},
     });
-}
-
-TEST(UnitRules, AddSubtractMultiplyAndDivide) {
     const FunctionId Add = fid::Add, Sub = fid::Subtract, Mul = fid::Multiply, Div = fid::Divide;
     CheckOperators({
         {Add, {5, None}, {3, Feet}, {8, Feet}},            {Sub, {5, Kilograms}, {3, None}, {2, Kilograms}},
