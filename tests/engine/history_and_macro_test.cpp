@@ -16,13 +16,23 @@ using test::Press;
 bool Undo(Engine& e) { return e.history.Undo(e.Records(), e.prefs.StickyShift()); }
 bool Redo(Engine& e) { return e.history.Redo(e.Records(), e.prefs.StickyShift()); }
 
-TEST(History, KeepsTheTenNewestSteps) {
+TEST(History, KeepsTheTenNewestStepsAndTheFirstShiftOnlyWhenSticky) {
     Engine e = MakeEngine(InputMethod::Simple);
     for (int i = 0; i < 11; ++i) e.Dispatch(fid::Enter);  // each pushes one more Enter marker
     int undone = 0;
     while (Undo(e)) ++undone;
     EXPECT_EQ(undone, 10);
     EXPECT_EQ(e.state.pendingCount, 1);  // the first step is gone
+    for (const bool sticky : {false, true}) {
+        SCOPED_TRACE(sticky ? "sticky" : "standard");
+        e = MakeEngine(InputMethod::Rpn);
+        e.prefs.SetShift(sticky ? ShiftMode::Sticky : ShiftMode::Standard);
+        Press(e, {5, fid::Enter});
+        e.state.status |= status::FirstShift;  // a shift latched before the next step
+        Press(e, {fid::Drop});
+        ASSERT_TRUE(Undo(e));
+        EXPECT_EQ(static_cast<bool>(e.state.status & status::FirstShift), sticky);
+    }
 }
 
 // A macro's playback is one step; a new operation ends the redo chain; Clear All empties the
@@ -45,19 +55,6 @@ TEST(History, PlaybackIsOneStepANewOperationEndsRedoAndClearAllIsUndone) {
     EXPECT_EQ(std::tuple(e.registers.values[4], e.macro.macroLength, e.X(), e.Y()), std::tuple(0.0, 0, 0.0, 0.0));
     ASSERT_TRUE(Undo(e));
     EXPECT_EQ(std::pair(e.registers.values[4], int{e.macro.macroLength}), std::pair(7.0, 6));
-}
-
-TEST(History, FirstShiftSurvivesUndoOnlyWhenSticky) {
-    for (const bool sticky : {false, true}) {
-        SCOPED_TRACE(sticky ? "sticky" : "standard");
-        Engine e = MakeEngine(InputMethod::Rpn);
-        e.prefs.SetShift(sticky ? ShiftMode::Sticky : ShiftMode::Standard);
-        Press(e, {5, fid::Enter});
-        e.state.status |= status::FirstShift;  // a shift latched before the next step
-        Press(e, {fid::Drop});
-        ASSERT_TRUE(Undo(e));
-        EXPECT_EQ(static_cast<bool>(e.state.status & status::FirstShift), sticky);
-    }
 }
 
 // Playback runs in the recorded method up to an error or the end, and leaves the method the user

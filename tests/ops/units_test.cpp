@@ -54,7 +54,7 @@ TEST(UnitKeysAndRules, ConvertWithinTheirTableLabelOtherValuesAndTagArithmetic) 
     });
 }
 
-TEST(DurationChain, EveryPathAndTheDeliberateFailure) {
+TEST(TimeKeys, DurationsTakeEveryPathAndDatesGiveTheirFields) {
     struct Case { ValueTag from, to; double v, result; };
     const double err = kErrorValue;
     const Case cases[] = {
@@ -77,19 +77,15 @@ TEST(DurationChain, EveryPathAndTheDeliberateFailure) {
             EXPECT_NEAR(result, c.result, c.result * 1e-13);
         }
     }
-}
-
-TEST(TimeKeys, ExtractTheFieldsOfDates) {
-    const double err = kErrorValue;
     const FunctionId kTimeKeys[] = {fid::Years, fid::Months, fid::Weeks,   fid::Days,
                                     fid::Hours, fid::Minutes, fid::Seconds, fid::Frames};
-    struct Case { ValueTag kind; double value; double fields[8]; };  // years .. frames
-    const Case cases[] = {
+    struct Fields { ValueTag kind; double value; double fields[8]; };  // years .. frames
+    const Fields dates[] = {
         {Date, 3792009600, {2024, 2, err, 29, err, err, err, err}},  // 2024-02-29
         {Time, 49510, {err, err, err, err, 13, 45, 10, err}},
         {DateTime, 3792059110, {2024, 2, err, 29, 13, 45, 10, err}},
     };
-    for (const Case& c : cases) {
+    for (const Fields& c : dates) {
         for (int k = 0; k < 8; ++k) {
             const FunctionId key = kTimeKeys[k];
             SCOPED_TRACE(testing::Message() << "kind " << c.kind << " key " << key);
