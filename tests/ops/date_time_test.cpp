@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <tuple>
+#include <utility>
 
 #include "engine/numeric/date_fields.h"
 #include "ops_test_support.h"
