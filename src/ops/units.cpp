@@ -131,7 +131,7 @@ consteval bool UnitRowsAreConsistent() {
     }
     return true;
 }
-static_assert(UnitRowsAreConsistent(), "a unit key or tag appears twice");
+static_assert(UnitRowsAreConsistent(), "a unit key or tag appears twice, or a row is not in its tag's table");
 
 const UnitRow* FindTag(std::span<const UnitRow> table, ValueTag t) {
     for (const UnitRow& row : table) {
