@@ -111,7 +111,7 @@ TEST_F(DisplayTextTest, ValuesShowAsFormatRadixBaseAndTagSay) {
     EXPECT_FALSE(DisplayLevel(e, 2).error);
 }
 
-TEST_F(DisplayTextTest, TheNumberBeingTypedShowsAsTyped) {
+TEST_F(DisplayTextTest, TheNumberBeingTypedShowsAsTypedAndTheClipboardGetsThePlainNumber) {
     struct Case { const char* typed; bool comma; std::string_view shown; };
     const Case cases[] = {
         {".5", false, "0.5"},         {"-.5e-3", false, "-0.5e-3"},         {"1.500", false, "1.500"},
@@ -129,6 +129,20 @@ TEST_F(DisplayTextTest, TheNumberBeingTypedShowsAsTyped) {
     EXPECT_EQ(DisplayLevel(e, 0).text, "FFFF0");
     Put(1, 1234.5);
     EXPECT_EQ(DisplayLevel(e, 1).text, "4D2.");  // other levels show their values
+    e.state.status = 0;  // the clipboard gets the plain number, not what was typed
+    const std::pair<double, std::string_view> copies[] = {{1e12, "1e12"}, {-0.25, "-0.25"}};
+    for (const auto& [value, text] : copies) {
+        Put(0, value);
+        EXPECT_EQ(ClipboardText(e), text);
+    }
+    e.prefs.SetCommaRadix(true);
+    e.prefs.SetFormat(NumberFormat::Fixed);
+    e.prefs.SetDigitField(3);
+    Put(0, 0.5);
+    EXPECT_EQ(ClipboardText(e), "0,50");
+    e.state.status = status::BaseHex;
+    Put(0, 255, kU8);
+    EXPECT_EQ(ClipboardText(e), "FF");
 }
 
 TEST_F(DisplayTextTest, LabelsComeFromTheTagWithCashFlowDecorations) {
@@ -150,22 +164,6 @@ TEST_F(DisplayTextTest, LabelsComeFromTheTagWithCashFlowDecorations) {
     Put(0, 250.5, ValueTag::Interest);
     EXPECT_EQ(DisplayLevel(e, 0, Amortizing::Yes).label, "Calculating...  1-12");
     EXPECT_EQ(DisplayLevel(e, 0).label, "Int");
-}
-
-TEST_F(DisplayTextTest, ClipboardGetsThePlainNumber) {
-    const std::pair<double, std::string_view> cases[] = {{1e12, "1e12"}, {-0.25, "-0.25"}};
-    for (const auto& [value, text] : cases) {
-        Put(0, value);
-        EXPECT_EQ(ClipboardText(e), text);
-    }
-    e.prefs.SetCommaRadix(true);
-    e.prefs.SetFormat(NumberFormat::Fixed);
-    e.prefs.SetDigitField(3);
-    Put(0, 0.5);
-    EXPECT_EQ(ClipboardText(e), "0,50");
-    e.state.status = status::BaseHex;
-    Put(0, 255, kU8);
-    EXPECT_EQ(ClipboardText(e), "FF");
 }
 
 TEST(FormatDecimal, FormsDigitsAndCarries) {
