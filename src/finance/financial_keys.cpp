@@ -2,6 +2,7 @@
 // being typed, solve for it (TVM, P/YR, NOM% and EFF%, cost, price, margin and markup), the
 // P/YR conversions, and the cash-flow entry keys. Also the financial and statistical results
 // that share the scientific family's place in the chain: amortization, NPV, IRR/YR, statistics.
+#include <algorithm>
 #include <array>
 
 #include "engine/value_tags.h"
@@ -84,6 +85,11 @@ consteval bool DistinctKeys(const auto& table) {
     return true;
 }
 static_assert(DistinctKeys(kRegisterKeys), "a financial key appears twice");
+// An amortization's balance rests on the rate, the loan, the payment and their period only.
+static_assert(std::ranges::all_of(kRegisterKeys, [](const RegisterKey& key) {
+    const int r = key.registerNumber;
+    return (key.balance == Balance::Restart) == (r == reg::IYr || r == reg::PV || r == reg::PMT || r == reg::PYr);
+}));
 
 // Store or solve: the choice rests only on whether a number is being typed. A typed number is
 // stored and the next number replaces it; otherwise the register is computed from the others,

@@ -3,6 +3,7 @@
 // and coordinate conversions, and percent.
 #include <math.h>  // lgamma_r, which reports the sign of the gamma function
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -55,6 +56,11 @@ constexpr std::array kUnary = {
     UnaryRow{fid::Floor, [](double x) { return std::floor(x); }, SavesLastX::No, ResultTag::Kept},
     UnaryRow{fid::Ceiling, [](double x) { return std::ceil(x); }, SavesLastX::No, ResultTag::Kept},
 };
+
+// Of these functions only |x|, floor and ceiling leave Last X alone.
+static_assert(std::ranges::all_of(kUnary, [](const UnaryRow& row) {
+    return (row.savesLastX == SavesLastX::No) == (row.id == fid::Abs || row.id == fid::Floor || row.id == fid::Ceiling);
+}));
 
 void StoreResult(Engine& e, double result, ValueTag tag) {
     e.SetX(result);

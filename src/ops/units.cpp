@@ -112,7 +112,8 @@ constexpr std::span<const UnitRow> TableOfCategory(Category category) {
     return {};
 }
 
-// Each key and each tag in one row only, and each row in the table of its tag's category.
+// Each key and each tag in one row only, and each row in the table of its tag's category: a unit
+// key converts into its table's base and back to where it started.
 consteval bool UnitRowsAreConsistent() {
     const std::span<const UnitRow> tables[] = {kLength, kArea, kVolume, kSpeed, kMass, kTime};
     const Category categories[] = {Category::Length, Category::Area, Category::Volume,
@@ -120,6 +121,7 @@ consteval bool UnitRowsAreConsistent() {
     for (std::size_t t = 0; t < std::size(tables); ++t) {
         for (const UnitRow& row : tables[t]) {
             if (TableOfCategory(categories[t]).data() != tables[t].data()) return false;
+            if (TagCategory(row.tag) != categories[t]) return false;
             for (std::size_t u = 0; u < std::size(tables); ++u) {
                 for (const UnitRow& other : tables[u]) {
                     if (&other != &row && (other.key == row.key || other.tag == row.tag)) return false;
@@ -129,7 +131,7 @@ consteval bool UnitRowsAreConsistent() {
     }
     return true;
 }
-static_assert(UnitRowsAreConsistent(), "a unit key or tag appears twice");
+static_assert(UnitRowsAreConsistent(), "a unit key or tag appears twice, or a row is not in its tag's table");
 
 const UnitRow* FindTag(std::span<const UnitRow> table, ValueTag t) {
     for (const UnitRow& row : table) {

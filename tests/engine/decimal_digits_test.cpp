@@ -5,7 +5,6 @@
 #include <cmath>
 #include <cstring>
 #include <limits>
-#include <string>
 #include <string_view>
 
 
@@ -32,7 +31,7 @@ TEST(RoundDigits, RoundsHalfUpOnTheDigitString) {
     }
 }
 
-TEST(RoundTo14, RoundsTheShortestDecimalNotTheBinaryValue) {
+TEST(RoundTo14AndToPlaces, RoundTheShortestDecimalAsTheDisplayShowsIt) {
     // The double nearest 1.00000000000005 lies just below it: rounding the binary value would
     // give 1.0; rounding its shortest decimal gives ...01.
     const std::pair<double, double> cases[] = {
@@ -43,15 +42,12 @@ TEST(RoundTo14, RoundsTheShortestDecimalNotTheBinaryValue) {
     for (const auto& [value, rounded] : cases) EXPECT_EQ(RoundTo14(value), rounded) << value;
     EXPECT_TRUE(std::isnan(RoundTo14(std::nan(""))));
     EXPECT_TRUE(std::signbit(RoundTo14(-0.0)));
-}
-
-TEST(RoundToPlaces, RoundsAsTheDisplayShowsTheValue) {
-    const struct { double value; int places; double rounded; } cases[] = {
+    const struct { double value; int places; double rounded; } toPlaces[] = {
         {0.125, 2, 0.13}, {1.005, 2, 1.01}, {-1.005, 2, -1.01},  // the double lies below 1.005; its digits do not
         {0.0049, 2, 0.0}, {0.005, 2, 0.01}, {999.995, 2, 1000},  {0.5, 0, 1.0}, {1e20, 2, 1e20}, {45.5, -1, 45.5},
         {2689.2104999999998, 3, 2689.211},  // 12 digits first: 2689.21050000, a tie
         {1234567890.12345, 3, 1234567890.12}};  // no more than 12 digits survive
-    for (const auto& c : cases) {
+    for (const auto& c : toPlaces) {
         EXPECT_EQ(RoundToPlaces(c.value, c.places), c.rounded) << c.value;
         EXPECT_EQ(RoundToPlacesByDigits(c.value, c.places), c.rounded) << c.value;
     }

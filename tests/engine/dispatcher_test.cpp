@@ -12,7 +12,10 @@ namespace {
 using test::MakeEngine;
 using test::Press;
 
-TEST(FormatPrefix, DigitOrPointSetsTheDisplayFormat) {
+// A format key waits for its digit count (or the point) and backspace cancels it; backspace
+// outside an entry drops X when the preference says so; an unknown key changes nothing, not even
+// the history.
+TEST(Dispatcher, FormatPrefixDroppingBackspaceAndUnknownKeys) {
     Engine e = MakeEngine(InputMethod::Rpn);
     Press(e, {fid::FormatStandard, fid::Point});
     EXPECT_EQ(std::pair(e.prefs.Format(), e.prefs.DigitField()), std::pair(NumberFormat::Standard, 0));
@@ -20,24 +23,13 @@ TEST(FormatPrefix, DigitOrPointSetsTheDisplayFormat) {
     EXPECT_EQ(std::pair(e.prefs.Format(), e.prefs.DigitField()), std::pair(NumberFormat::Scientific, 4));
     EXPECT_TRUE(e.dirty.preferences);
     Press(e, {fid::FormatFixed, fid::Backspace, 7});  // backspace cancels; 7 is typed
-    EXPECT_EQ(e.prefs.Format(), NumberFormat::Scientific);
-    EXPECT_EQ(e.X(), 7.0);
-}
-
-TEST(Dispatcher, BackspaceOutsideAnEntryDropsWhenThePreferenceSaysSo) {
-    Engine e = MakeEngine(InputMethod::Rpn);
+    EXPECT_EQ(std::pair(e.prefs.Format(), e.X()), std::pair(NumberFormat::Scientific, 7.0));
     e.prefs.SetBackspaceDrops(true);
-    Press(e, {4, fid::Enter, 9, fid::Enter, fid::Backspace});
-    EXPECT_EQ(std::pair(e.X(), e.Y()), std::pair(9.0, 4.0));
-}
-
-TEST(Dispatcher, UnknownKeyIsNotAcceptedAndChangesNothing) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Press(e, {1, 2});
+    Press(e, {fid::Enter, 9, fid::Enter, fid::Backspace});
+    EXPECT_EQ(std::pair(e.X(), e.Y()), std::pair(9.0, 7.0));
     const int steps = e.history.UndoCount();
     EXPECT_FALSE(e.Dispatch(FunctionIdFrom(9999)));
-    EXPECT_EQ(e.state.lastCommand, fid::Digit2);
-    EXPECT_EQ(e.history.UndoCount(), steps);  // not an undo step either
+    EXPECT_EQ(std::pair(e.state.lastCommand, e.history.UndoCount()), std::pair(fid::Backspace, steps));
 }
 
 // Standard lasts one key, Sticky until pressed again, Locking holds on a double press.
@@ -71,15 +63,37 @@ TEST(RegisterClears, KeysClearTheirGroups) {
     Engine e = MakeEngine(InputMethod::Rpn);
     const RegisterBank& r = e.registers;
     std::fill_n(e.registers.values, kRegisterCount, 1.0);
+    std::fill_n(e.registers.aux, kUserRegisters, 2u);
     e.registers.values[reg::PYr] = 0.0;
     e.Dispatch(fid::ClearFinancial);
-    EXPECT_EQ(std::tuple(r.values[5], r.values[reg::PV], r.values[reg::PYr], r.cashFlowCount, r.values[reg::DaysPerYear]),
-              std::tuple(0.0, 0.0, 12.0, -1, 1.0));
+    EXPECT_EQ(std::tuple(r.values[5], r.aux[5], r.values[reg::PV], r.values[reg::PYr], r.cashFlowCount, r.values[reg::DaysPerYear]),
+              std::tuple(0.0, 0u, 0.0, 12.0, -1, 1.0));
     EXPECT_EQ(std::pair(e.X(), e.XTag()), std::pair(12.0, ValueTag::PerYear));
     e.Dispatch(fid::ClearStatistics);
     EXPECT_EQ(std::pair(r.values[reg::DaysPerYear], e.DurationSetting(reg::DaysPerYear)), std::pair(0.0, 365.25));
     e.Dispatch(fid::ClearDate);
     EXPECT_EQ(std::tuple(e.X(), e.XTag(), r.values[reg::DaysPerYear]), std::tuple(30.0, ValueTag::FramesPerSecond, 365.25));
+}
+
+// Each key's row names the family that acts on it: offered to the calculator's chain in a plain
+// state, the key is taken by the family its row names, and a key no family takes is one of the
+// dispatcher's own.
+TEST(KeyTable, EachRowNamesTheFamilyThatTakesItsKey) {
+    for (const KeyInfo& k : kKeyTable) {
+        Engine e = test::MakeEngine(InputMethod::Rpn);
+        e.SetX(2);
+        e.SetY(3);
+        e.registers.cashFlowCount = 0;  // a cash flow to give a count (Nj)
+        KeyFamily taker = kf::BuiltIn;
+        for (const Family& family : e.families().chain) {
+            if (family.handle(e, k.id)) {
+                taker = family.family;
+                break;
+            }
+        }
+        const bool dispatchers = k.family == kf::Entry || k.family == kf::Shift || k.family == kf::Macro;
+        EXPECT_EQ(FamilyName(taker), FamilyName(dispatchers ? kf::BuiltIn : k.family)) << k.name;
+    }
 }
 
 }  // namespace

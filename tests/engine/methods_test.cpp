@@ -11,19 +11,44 @@ namespace {
 
 using test::MakeEngine;
 
+// Keys pressed in a method, and the X and Y they leave; where a register prefix is tested, the
+// register it names with its value, and X's label.
 struct MethodCase {
     const char* name;
     InputMethod method;
     std::vector<test::Key> keys;
     double x;
     double y = NAN;  // not checked unless given
+    int reg = -1;    // none
+    double value = 0;
+    ValueTag tag = ValueTag::None;
+    bool programmer = false;  // the programmer keyboard, whose keyboard layer sends integer keys
 };
 
+void Check(const MethodCase& c) {
+    SCOPED_TRACE(c.name);
+    Engine e = MakeEngine(c.method);
+    if (c.programmer) e.state.status |= 4;
+    test::Press(e, c.keys);
+    EXPECT_DOUBLE_EQ(e.X(), c.x);
+    if (!std::isnan(c.y)) {
+        EXPECT_DOUBLE_EQ(e.Y(), c.y);
+    }
+    EXPECT_EQ(std::pair(e.XTag(), e.state.pendingArgument), std::pair(c.tag, kNoPendingArgument));
+    if (c.reg >= 0) {
+        EXPECT_EQ(e.registers.values[c.reg], c.value);
+    }
+}
+
+constexpr InputMethod Rpn = InputMethod::Rpn;
 constexpr FunctionId Plus = fid::Add, Minus = fid::Subtract, Times = fid::Multiply, By = fid::Divide,
                      Eq = fid::Equals, Open = fid::OpenParen, Close = fid::CloseParen;
 
 // Where a key must leave the stack lift alone, enable it or disable it, the row ends with keys
-// whose result differs in each case.
+// whose result differs in each case. The hyperbolic prefix acts on the next key only, without
+// angle conversion; pi keeps a number being typed in RPN and replaces X after an operator; percent
+// is of the running total only after + or -, and in RPN leaves Y; the coordinate keys use up the
+// Enter marker the algebraic methods leave for them.
 TEST(InputMethods, KeySequencesLeaveExpectedXAndY) {
     const MethodCase cases[] = {
         {"simple left to right", InputMethod::Simple, {2, Plus, 3, Times, 5, Eq}, 25},
@@ -58,16 +83,17 @@ TEST(InputMethods, KeySequencesLeaveExpectedXAndY) {
         {"backspace only cancels the hyperbolic prefix", InputMethod::Rpn, {1, fid::Hyperbolic, fid::Backspace, fid::Asin}, 90},
         {"backspace outside an entry clears x, lift disabled", InputMethod::Rpn,
          {1, fid::Enter, 4, fid::Enter, 5, Plus, fid::Backspace, 3, Plus}, 4},
+        {"hyperbolic sine in degrees", InputMethod::Rpn, {9, 0, fid::Hyperbolic, fid::Sin}, std::sinh(90.0), 0},
+        {"the prefix is used up", InputMethod::Rpn, {2, fid::Hyperbolic, fid::Acos, 3, 0, fid::Sin}, 0.5, std::acosh(2.0)},
+        {"pressed twice, cancelled", InputMethod::Rpn, {3, 0, fid::Hyperbolic, fid::Hyperbolic, fid::Sin}, 0.5, 0},
+        {"pi keeps a number being typed", InputMethod::Rpn, {2, fid::Enter, 3, fid::Pi}, M_PI, 3},
+        {"pi after an operator", InputMethod::Simple, {2, Times, fid::Pi, Eq}, 2 * M_PI, 0},
+        {"percent of x", InputMethod::Simple, {2, 0, 0, Times, 1, 0, fid::Percent}, 0.1, 200},
+        {"percent in RPN leaves y", InputMethod::Rpn, {2, 0, 0, fid::Enter, 1, 0, fid::Percent}, 20, 200},
+        {"coordinates use up the enter marker", InputMethod::Simple,
+         {3, fid::Enter, 4, fid::RectToPolar, Plus, 1, Eq}, 6, std::atan2(3.0, 4.0) * 180 / M_PI},
     };
-    for (const MethodCase& c : cases) {
-        SCOPED_TRACE(c.name);
-        Engine e = MakeEngine(c.method);
-        test::Press(e, c.keys);
-        EXPECT_DOUBLE_EQ(e.X(), c.x);
-        if (!std::isnan(c.y)) {
-            EXPECT_DOUBLE_EQ(e.Y(), c.y);
-        }
-    }
+    for (const MethodCase& c : cases) Check(c);
 }
 
 TEST(InputMethods, PendingStackRefusesTheFortyFirstEntry) {
@@ -87,53 +113,42 @@ constexpr FunctionId Sto = fid::Store, Rcl = fid::Recall, Xch = fid::Exchange;
 
 // A register prefix waits for its register: one digit with the small set, two with the large one
 // (the default), or a key that names a register. Store and recall take an arithmetic key first;
-// exchange does not, so there the key cancels the prefix and acts. Each row ends with the register
-// it names and the X and Y the keys leave.
+// exchange does not, so there the key cancels the prefix and acts. Each row ends with the X and Y
+// the keys leave, then the register named and its value.
 TEST(RegisterKeys, PrefixSequencesLeaveRegisterXAndY) {
-    struct Case {
-        const char* name;
-        std::vector<test::Key> keys;
-        int reg;
-        double value, x, y;
-        ValueTag tag = ValueTag::None;  // X's label
-        bool programmer = false;  // the programmer keyboard, whose keyboard layer sends integer keys
+    const MethodCase cases[] = {
+        {"store takes two digits", Rpn, {7, Sto, 0, 3}, 7, 0, 3, 7},
+        {"store plus", Rpn, {7, Sto, 0, 3, 2, Sto, Plus, 0, 3}, 2, 7, 3, 9},
+        {"store minus is cleaned", Rpn, {fid::Point, 3, Sto, 0, 3, fid::Point, 1, Sto, Minus, 0, 3},
+         0.1, 0.3, 3, 0.2},
+        {"store times", Rpn, {7, Sto, 0, 3, 2, Sto, Times, 0, 3}, 2, 7, 3, 14},
+        {"store divides", Rpn, {7, Sto, 0, 3, 2, Sto, By, 0, 3}, 2, 7, 3, 3.5},
+        {"recall lifts, naming the register", Rpn, {7, Sto, 4, 2, fid::Enter, 5, Rcl, 4, 2},
+         7, 5, 42, 7, label::CashFlow},
+        {"recall divides x, keeps y", Rpn, {8, Sto, 0, 1, fid::Enter, 2, 0, Rcl, By, 0, 1}, 2.5, 8, 1, 8},
+        {"recall minus", Rpn, {8, Sto, 0, 1, fid::Enter, 2, 0, Rcl, Minus, 0, 1}, 12, 8, 1, 8},
+        {"exchange swaps x with the register", Rpn, {7, Sto, 0, 3, 2, Xch, 0, 3}, 7, 7, 3, 2, label::CashFlow},
+        {"exchange takes no arithmetic", Rpn, {7, Sto, 0, 3, fid::Enter, 2, Xch, Plus, 0, 3}, 3, 9, 3, 7},
+        {"the small set's key takes one digit", Rpn, {7, fid::StoreVariant, 4, fid::RecallVariant, 4},
+         7, 7, 4, 7, label::CashFlow},
+        {"the large set's key takes two", Rpn, {7, fid::StoreLarge, 4, 7, 0}, 0, 7, 47, 7},
+        {"the next register after the last", Rpn, {7, Sto, 9, 8, Sto, fid::CashFlow, Rcl, 9, 9},
+         7, 7, 99, 7, label::CashFlow},
+        {"none after ninety-nine", Rpn, {7, Sto, 9, 9, 5, Sto, fid::CashFlow}, 5, 7, reg::N, 0},
+        {"a key names its register", Rpn, {9, Sto, fid::PV, 1, Rcl, fid::PV}, 9, 1, reg::PV, 9, label::PresentValue},
+        {"periods per year", Rpn, {Rcl, fid::PYr}, 12, 0, reg::PYr, 12, label::PerYear},
+        {"backspace cancels the prefix", Rpn, {5, fid::Enter, Sto, fid::Backspace, 7}, 7, 5, 0, 0},
+        {"another key cancels it, then acts", Rpn, {5, fid::Enter, 3, Sto, fid::Swap}, 5, 3, 0, 0},
+        {"integer keys do plain register arithmetic", Rpn,
+         {2, 0, 0, Sto, 0, 1, 1, 0, 0, Sto, fid::IntegerAdd, 0, 1, Rcl, fid::IntegerDivide, 0, 1},
+         1.0 / 3, 200, 1, 300, ValueTag::None, true},
+        {"integer times and minus", Rpn,
+         {6, Sto, 0, 1, 7, Sto, fid::IntegerMultiply, 0, 1, Sto, fid::IntegerSubtract, 0, 1},
+         7, 6, 1, 35, ValueTag::None, true},
+        {"a hex number is stored as its value", Rpn, {fid::BaseHex, fid::HexF, fid::HexF, Sto, 0, 2},
+         255, 0, 2, 255, ValueTag::None, true},
     };
-    const Case cases[] = {
-        {"store takes two digits", {7, Sto, 0, 3}, 3, 7, 7, 0},
-        {"store plus", {7, Sto, 0, 3, 2, Sto, Plus, 0, 3}, 3, 9, 2, 7},
-        {"store minus is cleaned", {fid::Point, 3, Sto, 0, 3, fid::Point, 1, Sto, Minus, 0, 3}, 3, 0.2, 0.1, 0.3},
-        {"store times", {7, Sto, 0, 3, 2, Sto, Times, 0, 3}, 3, 14, 2, 7},
-        {"store divides", {7, Sto, 0, 3, 2, Sto, By, 0, 3}, 3, 3.5, 2, 7},
-        {"recall lifts, naming the register", {7, Sto, 4, 2, fid::Enter, 5, Rcl, 4, 2}, 42, 7, 7, 5, label::CashFlow},
-        {"recall divides x, keeps y", {8, Sto, 0, 1, fid::Enter, 2, 0, Rcl, By, 0, 1}, 1, 8, 2.5, 8},
-        {"recall minus", {8, Sto, 0, 1, fid::Enter, 2, 0, Rcl, Minus, 0, 1}, 1, 8, 12, 8},
-        {"exchange swaps x with the register", {7, Sto, 0, 3, 2, Xch, 0, 3}, 3, 2, 7, 7, label::CashFlow},
-        {"exchange takes no arithmetic", {7, Sto, 0, 3, fid::Enter, 2, Xch, Plus, 0, 3}, 3, 7, 3, 9},
-        {"the small set's key takes one digit", {7, fid::StoreVariant, 4, fid::RecallVariant, 4}, 4, 7, 7, 7, label::CashFlow},
-        {"the large set's key takes two", {7, fid::StoreLarge, 4, 7, 0}, 47, 7, 0, 7},
-        {"the next register after the last", {7, Sto, 9, 8, Sto, fid::CashFlow, Rcl, 9, 9}, 99, 7, 7, 7, label::CashFlow},
-        {"none after ninety-nine", {7, Sto, 9, 9, 5, Sto, fid::CashFlow}, reg::N, 0, 5, 7},
-        {"a key names its register", {9, Sto, fid::PV, 1, Rcl, fid::PV}, reg::PV, 9, 9, 1, label::PresentValue},
-        {"periods per year", {Rcl, fid::PYr}, reg::PYr, 12, 12, 0, label::PerYear},
-        {"backspace cancels the prefix", {5, fid::Enter, Sto, fid::Backspace, 7}, 0, 0, 7, 5},
-        {"another key cancels it, then acts", {5, fid::Enter, 3, Sto, fid::Swap}, 0, 0, 5, 3},
-        {"integer keys do plain register arithmetic", {2, 0, 0, Sto, 0, 1, 1, 0, 0, Sto, fid::IntegerAdd, 0, 1,
-                                                       Rcl, fid::IntegerDivide, 0, 1}, 1, 300, 1.0 / 3, 200, ValueTag::None, true},
-        {"integer times and minus", {6, Sto, 0, 1, 7, Sto, fid::IntegerMultiply, 0, 1, Sto, fid::IntegerSubtract, 0, 1},
-         1, 35, 7, 6, ValueTag::None, true},
-        {"a hex number is stored as its value", {fid::BaseHex, fid::HexF, fid::HexF, Sto, 0, 2}, 2, 255, 255, 0, ValueTag::None, true},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        Engine e = MakeEngine(InputMethod::Rpn);
-        if (c.programmer) e.state.status |= 4;
-        test::Press(e, c.keys);
-        EXPECT_EQ(e.state.pendingArgument, kNoPendingArgument);
-        EXPECT_EQ(e.registers.values[c.reg], c.value);
-        EXPECT_EQ(e.X(), c.x);
-        EXPECT_EQ(e.Y(), c.y);
-        EXPECT_EQ(e.XTag(), c.tag);
-    }
+    for (const MethodCase& c : cases) Check(c);
 }
 
 }  // namespace

@@ -39,16 +39,21 @@ TEST(Stack, KeysMoveValuesTagsAndAuxCodesWithinTheDepth) {
     }
 }
 
-struct EntryCase {
-    const char* name;
-    std::vector<test::Key> keys;
-    const char* text;
-    double x;
-    bool open = true;
-};
-
-TEST(NumberEntry, KeysBuildTheTextAndX) {
-    const EntryCase cases[] = {
+// The keys build the text being typed and X, on the programmer keyboard, where a letter A-F
+// switches decimal entry to hexadecimal. A decimal number that already holds a point or an
+// exponent cannot be read in hexadecimal, so there the letter must be refused instead of turning
+// "85.5e" into the text "85.5eA" and X into nonsense. A digit that a smaller base lacks switches
+// the entry back to decimal.
+TEST(NumberEntry, KeysBuildTheTextXAndBase) {
+    struct Case {
+        std::string_view name;
+        std::vector<test::Key> keys;
+        std::string_view text;
+        double x;
+        u16 base = 0;
+        bool open = true;
+    };
+    const Case cases[] = {
         {"thirteenth digit refused", {1, 2, 3, 4, 5, 6, 7, 8, 9, 0, 1, 2, 3}, "123456789012", 123456789012.0},
         {"point is not a digit", {1, 2, 3, 4, 5, 6, 7, 8, 9, 0, 1, 2, fid::Point, 3}, "123456789012.", 123456789012.0},
         {"bare exponent", {fid::Exponent}, "1e", 1.0},
@@ -61,50 +66,15 @@ TEST(NumberEntry, KeysBuildTheTextAndX) {
         {"mantissa sign", {1, fid::ChangeSign, 2}, "-12", -12.0},
         {"backspace over e", {1, fid::Exponent, fid::Backspace, 2}, "12", 12.0},
         {"exponent beyond a double", {9, fid::Exponent, 9, 9, 9}, "9e999", std::numeric_limits<double>::infinity()},
-        {"backspace over the last character closes it", {5, fid::Backspace}, "", 0, false},
-    };
-    for (const EntryCase& c : cases) {
-        SCOPED_TRACE(c.name);
-        Engine e = MakeEngine(InputMethod::Rpn);
-        Press(e, c.keys);
-        EXPECT_STREQ(e.state.entryText, c.text);
-        EXPECT_EQ(e.X(), c.x);
-        EXPECT_EQ(e.EntryOpen(), c.open);
-    }
-}
-
-TEST(NumberEntry, HexLettersAreNotCountedDownByBackspace) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    e.state.status |= 4;  // programmer keyboard
-    Press(e, {fid::BaseHex, 1, fid::HexF, fid::HexF, fid::Backspace, fid::Backspace});
-    EXPECT_STREQ(e.state.entryText, "1");
-    EXPECT_EQ(e.state.entryDigits, 3);
-    int accepted = 0;
-    for (int i = 0; i < 8; ++i) accepted += e.Dispatch(fid::Digit1) ? 1 : 0;
-    EXPECT_EQ(accepted, 5);
-}
-
-// On the programmer keyboard a letter A-F switches decimal entry to hexadecimal. A decimal number
-// that already holds a point or an exponent cannot be read in hexadecimal, so there the letter
-// must be refused instead of turning "85.5e" into the text "85.5eA" and X into nonsense. A digit
-// that a smaller base lacks switches the entry back to decimal.
-TEST(IntegerEntry, SwitchesOnlyNumbersThatHaveAReadingInTheNewBase) {
-    struct Case {
-        std::string_view name;
-        std::vector<test::Key> keys;
-        std::string_view text;
-        double x;
-        u16 base;
-    };
-    const Case cases[] = {
+        {"backspace over the last character closes it", {5, fid::Backspace}, "", 0, 0, false},
         {"plainDigitsSwitch", {8, 5, fid::HexA}, "85A", 0x85A, status::BaseHex},
         {"negativeDigitsSwitch", {8, 5, fid::ChangeSign, fid::HexA}, "-85A", -0x85A, status::BaseHex},
-        {"pointRefused", {8, 5, fid::Point, 5, fid::HexA}, "85.5", 85.5, 0},
-        {"exponentRefused", {8, 5, fid::Point, 5, fid::Exponent, fid::HexA}, "85.5e", 85.5, 0},
-        {"bareExponentRefused", {fid::Exponent, 2, fid::HexF}, "1e2", 100.0, 0},
+        {"pointRefused", {8, 5, fid::Point, 5, fid::HexA}, "85.5", 85.5},
+        {"exponentRefused", {8, 5, fid::Point, 5, fid::Exponent, fid::HexA}, "85.5e", 85.5},
+        {"bareExponentRefused", {fid::Exponent, 2, fid::HexF}, "1e2", 100.0},
         {"freshEntrySwitches", {fid::HexA, fid::HexB}, "AB", 0xAB, status::BaseHex},
-        {"eightLeavesOctal", {fid::BaseOctal, 7, 8}, "78", 78, 0},
-        {"twoLeavesBinary", {fid::BaseBinary, 1, 2}, "12", 12, 0},
+        {"eightLeavesOctal", {fid::BaseOctal, 7, 8}, "78", 78},
+        {"twoLeavesBinary", {fid::BaseBinary, 1, 2}, "12", 12},
         // A 32-bit word reads as signed; more octal digits than 32 bits wrap.
         {"hexWordIsSigned", {fid::BaseHex, fid::HexF, fid::HexF, fid::HexF, fid::HexF, fid::HexF, fid::HexF, fid::HexF, fid::HexF}, "FFFFFFFF", -1, status::BaseHex},
         {"octalWraps", {fid::BaseOctal, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7, 7}, "77777777777", -1, status::BaseOctal},
@@ -118,7 +88,19 @@ TEST(IntegerEntry, SwitchesOnlyNumbersThatHaveAReadingInTheNewBase) {
         EXPECT_EQ(std::string_view(e.state.entryText), c.text);
         EXPECT_EQ(e.X(), c.x);
         EXPECT_EQ(e.EntryBase(), c.base);
+        EXPECT_EQ(e.EntryOpen(), c.open);
     }
+}
+
+TEST(NumberEntry, HexLettersAreNotCountedDownByBackspace) {
+    Engine e = MakeEngine(InputMethod::Rpn);
+    e.state.status |= 4;  // programmer keyboard
+    Press(e, {fid::BaseHex, 1, fid::HexF, fid::HexF, fid::Backspace, fid::Backspace});
+    EXPECT_STREQ(e.state.entryText, "1");
+    EXPECT_EQ(e.state.entryDigits, 3);
+    int accepted = 0;
+    for (int i = 0; i < 8; ++i) accepted += e.Dispatch(fid::Digit1) ? 1 : 0;
+    EXPECT_EQ(accepted, 5);
 }
 
 TEST(NumberEntry, IntegerBaseIsDroppedOffTheProgrammerKeyboard) {

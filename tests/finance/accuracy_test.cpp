@@ -8,7 +8,6 @@
 #include <cmath>
 #include <cstdio>
 #include <random>
-#include <string>
 
 #include "display/number_format.h"
 #include "finance/cash_flows.h"

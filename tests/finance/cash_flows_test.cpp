@@ -4,7 +4,6 @@
 #include <tuple>
 #include <vector>
 
-#include "display/display_text.h"
 #include "finance/cash_flows.h"
 #include "engine/value_tags.h"
 #include "engine/engine_test_support.h"
@@ -39,24 +38,18 @@ TEST(CashFlows, GroupsAreValuedAsTheFlowsWrittenOutUpToAZeroCount) {
         EXPECT_NEAR(e.X(), static_cast<double>(FlatValue(flat, std::stold(rate) / 1200)), 1e-9) << rate;
         EXPECT_EQ(e.registers.values[reg::PV], e.X());
     }
-    const auto irrFrom10 = [&e] { return Store(e, "10", fid::IYr), e.Dispatch(fid::Irr), e.X(); };
-    const double rate = irrFrom10();
+    Store(e, "10", fid::Irr);  // a typed guess
+    const double rate = e.X();
     EXPECT_NEAR(static_cast<double>(FlatValue(flat, rate / 1200.0L)), 0.0, 1e-6);
     // A count of 0 ends the series there, although later entries stay in the list.
     Enter(e, {{"9000", "0"}, {"7000", ""}});
     EXPECT_EQ(e.registers.cashFlowCount, 6);
-    EXPECT_EQ(irrFrom10(), rate);
+    Store(e, "10", fid::IYr);  // a stored guess
+    e.Dispatch(fid::Irr);
+    EXPECT_EQ(std::pair(e.X(), e.registers.values[reg::IYr]), std::pair(rate, rate));
     Store(e, "0", fid::IYr);
     e.Dispatch(fid::Npv);
-    EXPECT_EQ(DisplayLevel(e, 0).text, "error");  // no rate: 0 / 0
-}
-
-TEST(CashFlows, ReturnRateFromTypedOrStoredGuess) {
-    Engine e = MakeEngine(InputMethod::Rpn);
-    Store(e, "1", fid::PYr);
-    Enter(e, {{"-1000", ""}, {"300", "4"}});
-    Store(e, "50", fid::Irr);  // a typed guess
-    EXPECT_NEAR(e.registers.values[reg::IYr], 7.71384729521, 1e-10);
+    EXPECT_TRUE(std::isnan(e.X()));  // no rate: 0 / 0, which the display shows as an error
     e.Dispatch(fid::ClearFinancial);
     Enter(e, {{"100", ""}, {"50", "3"}});  // money only comes in: no rate
     e.Dispatch(fid::Irr);
@@ -81,9 +74,6 @@ TEST(CashFlows, EntryKeysStoreAndLabelWithoutMovingTheStack) {
     while (e.registers.cashFlowCount < 99) Store(e, "1", fid::CashFlow);
     EXPECT_FALSE((Type(e, "2"), e.Dispatch(fid::CashFlow)));  // the 101st entry is refused
     EXPECT_EQ(e.registers.cashFlowCount, 99);
-    e.Dispatch(fid::ClearFinancial);
-    const RegisterBank& r = e.registers;
-    EXPECT_EQ(std::tuple(r.cashFlowCount, r.aux[1], r.values[1], r.values[reg::PYr]), std::tuple(-1, 0u, 0.0, 12.0));
 }
 
 }  // namespace

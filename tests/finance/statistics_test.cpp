@@ -25,7 +25,7 @@ protected:
     }
 };
 
-TEST_F(Statistics, PointsOnALine) {
+TEST_F(Statistics, PointsOnALineAndTheSigmaKeys) {
     for (const char* x : {"1", "2", "3"}) Add(x, std::to_string(2 * std::stoi(x) + 1));  // y = 2x + 1
     ExpectX(fid::MeanX, 2, label::MeanX);
     ExpectX(fid::MeanY, 5, label::MeanY);
@@ -44,9 +44,7 @@ TEST_F(Statistics, PointsOnALine) {
     for (int k = 0; k < 3; ++k) Add("0.3", "0.7");
     ExpectX(fid::SampleDeviation, 0, label::SampleDeviationX);
     EXPECT_EQ(e.Y(), 0.0);
-}
-
-TEST_F(Statistics, SigmaKeysKeepYAndShowTheCount) {
+    e.Dispatch(fid::ClearStatistics);
     ExpectX(fid::SigmaMinus, kErrorValue, ValueTag::None);  // nothing to remove
     Add("3", "8");
     EXPECT_EQ(std::tuple(e.X(), e.Y()), std::tuple(1.0, 8.0));

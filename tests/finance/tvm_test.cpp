@@ -38,7 +38,7 @@ TEST(SecantSolver, AStuckPointIsARootOnlyWhenItsResidualIsSmall) {
     EXPECT_NEAR(SolveSecant([](double x) { return 5e-8 + (x - 1) * (x - 1); }, 1 - 4e-8, 1 + 4e-8), 1.0, 1e-7);
 }
 
-TEST(TvmKeys, SolveWithoutTypingStoreWhenTyping) {
+TEST(TvmKeys, SolveOrStoreLabelAndRestartTheBalance) {
     Engine e = MakeEngine(InputMethod::Rpn);
     for (const auto& [number, key] : {std::pair{"360", fid::N}, {"6", fid::IYr}, {"100000", fid::PV}, {"0", fid::FV}}) {
         Store(e, number, key);
@@ -54,15 +54,10 @@ TEST(TvmKeys, SolveWithoutTypingStoreWhenTyping) {
     Store(e, "360", fid::N);
     e.Dispatch(fid::IYr);  // the failed solve's error value is no guess: it restarts from 0
     EXPECT_NEAR(e.X(), 6.0, 1e-10);
-}
-
-TEST(TvmKeys, LabelsBalanceRestartAndChangedFlag) {
-    Engine e = MakeEngine(InputMethod::Rpn);
+    e = MakeEngine(InputMethod::Rpn);
     const struct { FunctionId key; ValueTag label; bool restartsBalance; } cases[] = {
-        {fid::N, label::Months, false},    {fid::IYr, label::YearlyRate, true}, {fid::PV, label::PresentValue, true},
-        {fid::PMT, label::Payment, true},  {fid::FV, label::FutureValue, false}, {fid::PYr, label::PerYear, true},
-        {fid::Nom, label::Nominal, true},  {fid::Eff, label::Effective, false},  {fid::TimesPYr, label::Months, false},
-        {fid::Cost, label::Cost, false},   {fid::Price, label::Price, false},    {fid::Markup, label::Markup, false}};
+        {fid::N, label::Months, false},    {fid::PV, label::PresentValue, true},  {fid::FV, label::FutureValue, false},
+        {fid::TimesPYr, label::Months, false}};
     for (const auto& c : cases) {
         for (const char* typed : {"12", ""}) {
             e.state.amortBalance = 1234.5;

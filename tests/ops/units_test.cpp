@@ -2,10 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 
 #include "ops_test_support.h"
-#include "engine/key_table.h"
 
 namespace brinto {
 namespace {
@@ -14,9 +12,9 @@ using namespace test;
 using enum ValueTag;
 
 constexpr FunctionId kInchesKey = fid::Inches, kFeetKey = fid::Feet, kMetersPerSKey = fid::MetersPerSecond;
-constexpr FunctionId kHoursKey = fid::Hours, kMinutesKey = fid::Minutes, kDaysKey = fid::Days;
+constexpr FunctionId kHoursKey = fid::Hours, kMinutesKey = fid::Minutes;
 
-TEST(UnitKeys, ConvertWithinTheirTableAndOnlyLabelOtherValues) {
+TEST(UnitKeysAndRules, ConvertWithinTheirTableLabelOtherValuesAndTagArithmetic) {
     Engine e = Holding({{12, None}});
     e.state.lastX = 99;
     e.Dispatch(kInchesKey);
@@ -28,37 +26,6 @@ TEST(UnitKeys, ConvertWithinTheirTableAndOnlyLabelOtherValues) {
         {fid::DegC, {-40, DegF}, {-40, DegC}},   {fid::DegF, {5, Meters}, {5, DegF}},
         {kMinutesKey, {1.3, Hms}, {90, Minutes}}, {kHoursKey, {90, None}, {90, Hours}}, {kHoursKey, {90, Meters}, {90, Hours}},
     });
-}
-
-TEST(UnitKeys, EveryUnitKeyConvertsBackToItsStart) {
-    // Each key attaches its unit to 7, then converts into its table's base and back: a key mapped
-    // to another table's row would not come back to 7.
-    struct Base { Category category; FunctionId key; };
-    const Base bases[] = {{Category::Length, fid::Meters},         {Category::Area, fid::SquareMeters},
-                          {Category::Volume, fid::CubicMeters},    {Category::Speed, fid::MetersPerSecond},
-                          {Category::Mass, fid::Kilograms}};
-    int unitKeys = 0;
-    for (const KeyInfo& row : kKeyTable) {
-        const FunctionId key = row.id;
-        SCOPED_TRACE(key);
-        Engine e = After({{7, None}}, key);
-        const ValueTag tag = e.XTag();
-        const Base* base = nullptr;
-        for (const Base& b : bases) {
-            if (b.category == TagCategory(tag)) base = &b;
-        }
-        if (!base) continue;  // not a unit key
-        ++unitKeys;
-        e.Dispatch(base->key);
-        EXPECT_NE(e.XTag(), None);
-        e.Dispatch(key);
-        EXPECT_NEAR(e.X(), 7.0, 1e-12);
-        EXPECT_EQ(e.XTag(), tag);
-    }
-    EXPECT_EQ(unitKeys, 47);  // the length, area, volume, speed and mass keys
-}
-
-TEST(UnitRules, AddSubtractMultiplyAndDivide) {
     const FunctionId Add = fid::Add, Sub = fid::Subtract, Mul = fid::Multiply, Div = fid::Divide;
     CheckOperators({
         {Add, {5, None}, {3, Feet}, {8, Feet}},            {Sub, {5, Kilograms}, {3, None}, {2, Kilograms}},
@@ -86,7 +53,7 @@ TEST(UnitRules, AddSubtractMultiplyAndDivide) {
     });
 }
 
-TEST(DurationChain, EveryPathAndTheDeliberateFailure) {
+TEST(TimeKeys, DurationsTakeEveryPathAndDatesGiveTheirFields) {
     struct Case { ValueTag from, to; double v, result; };
     const double err = kErrorValue;
     const Case cases[] = {
@@ -109,36 +76,15 @@ TEST(DurationChain, EveryPathAndTheDeliberateFailure) {
             EXPECT_NEAR(result, c.result, c.result * 1e-13);
         }
     }
-}
-
-TEST(DurationChain, FollowsTheSettingsAndTheirDefaults) {
-    Engine e = Holding({{1, Days}});
-    e.registers.values[reg::HoursPerDay] = 8;
-    e.Dispatch(kHoursKey);
-    EXPECT_EQ(e.X(), 8.0);
-    EXPECT_EQ(e.state.lastX, 0.0);  // the time keys do not save Last X
-    // Clearing the statistics zeroes the register of days per year; durations then use 365.25.
-    e = After({{1, Years}}, fid::ClearStatistics);
-    EXPECT_EQ(e.registers.values[reg::DaysPerYear], 0.0);
-    e.Dispatch(kDaysKey);
-    EXPECT_EQ(e.X(), 365.25);
-    e = Holding({{1, Seconds}});
-    e.registers.values[reg::FramesPerSecond] = NAN;
-    e.Dispatch(fid::Frames);
-    EXPECT_EQ(e.X(), 30.0);
-}
-
-TEST(TimeKeys, ExtractTheFieldsOfDates) {
-    const double err = kErrorValue;
     const FunctionId kTimeKeys[] = {fid::Years, fid::Months, fid::Weeks,   fid::Days,
                                     fid::Hours, fid::Minutes, fid::Seconds, fid::Frames};
-    struct Case { ValueTag kind; double value; double fields[8]; };  // years .. frames
-    const Case cases[] = {
+    struct Fields { ValueTag kind; double value; double fields[8]; };  // years .. frames
+    const Fields dates[] = {
         {Date, 3792009600, {2024, 2, err, 29, err, err, err, err}},  // 2024-02-29
         {Time, 49510, {err, err, err, err, 13, 45, 10, err}},
         {DateTime, 3792059110, {2024, 2, err, 29, 13, 45, 10, err}},
     };
-    for (const Case& c : cases) {
+    for (const Fields& c : dates) {
         for (int k = 0; k < 8; ++k) {
             const FunctionId key = kTimeKeys[k];
             SCOPED_TRACE(testing::Message() << "kind " << c.kind << " key " << key);

@@ -1,7 +1,9 @@
 #include "engine/numeric/date_fields.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cstdint>
+#include <limits>
 
 namespace brinto {
 
@@ -15,17 +17,32 @@ consteval bool Ascending(const auto& table) {
 }
 static_assert(Ascending(kFourYearTable) && kFourYearTable.back() == kDaysPerCycle);
 
+// Each month of the cycle 1904..1907 starts on the day the civil calendar gives, and the first day
+// is a Friday. Within 1904..2031 every fourth year is a leap year in both (2000 too), so the one
+// cycle stands for the whole range.
+consteval bool TableIsTheCivilCalendar() {
+    namespace chr = std::chrono;
+    const chr::sys_days epoch = chr::year{kDateEpochYear} / chr::January / 1;
+    for (int m = 0; m < 48; ++m) {
+        const chr::sys_days first = chr::year{kDateEpochYear + m / 12} / chr::month(m % 12 + 1) / 1;
+        if ((first - epoch).count() != kFourYearTable[m]) return false;
+    }
+    return chr::weekday{epoch} == chr::Friday;
+}
+static_assert(TableIsTheCivilCalendar());
+
+// Fractions are cut off; what lies outside the range, NaN and infinity too, is held at its ends
+// (2^32 + 7 would wrap into the range as a u32).
+constexpr double kNaN = std::numeric_limits<double>::quiet_NaN(), kInf = std::numeric_limits<double>::infinity();
+static_assert(DateSeconds(12.7) == 12 && DateSeconds(-5) == 0 && DateSeconds(kNaN) == 0 && DateSeconds(-kInf) == 0);
+static_assert(DateSeconds(4294967296.0 + 7) == kMaxDateValue && DateSeconds(kInf) == kMaxDateValue &&
+              DateSeconds(kMaxDateValue + 0.5) == kMaxDateValue && DateSeconds(1e10) == kMaxDateValue);
+
 constexpr std::int64_t FloorDivide(std::int64_t a, std::int64_t b) {
     return a / b - (a % b != 0 && (a < 0) != (b < 0) ? 1 : 0);
 }
 
 }  // namespace
-
-u32 DateSeconds(double value) {
-    if (!(value > 0)) return 0;  // also NaN
-    if (value >= kMaxDateValue) return kMaxDateValue;
-    return static_cast<u32>(value);
-}
 
 DateFields SplitDate(double value) {
     const u32 seconds = DateSeconds(value);

@@ -29,7 +29,11 @@ constexpr bool IsDateInRange(double value) { return value >= 0 && value <= kMaxD
 
 // Whole seconds of a date value, held within the date range: NaN and negative values give 0,
 // values above the range (and +infinity) give kMaxDateValue, fractions are cut off.
-u32 DateSeconds(double value);
+constexpr u32 DateSeconds(double value) {
+    if (!(value > 0)) return 0;  // also NaN
+    if (value >= kMaxDateValue) return kMaxDateValue;
+    return static_cast<u32>(value);
+}
 
 // The calendar fields of a date value (taken through DateSeconds), including the day of week.
 DateFields SplitDate(double value);
