@@ -9,10 +9,7 @@
 
 #include "cli/cli.h"
 #include "cli_runner.h"
-#include "session/recording_host.h"
-#include "session/session_store.h"
-
-#include "calculator/assembly.h"
+#include "session/tape.h"
 #include "temp_folder.h"
 
 namespace brinto::test {
@@ -124,23 +121,6 @@ TEST_F(CliPersistence, DamageAndTroubleSayOneLineAndTroubleTouchesNothing) {
     EXPECT_EQ(Cli({"--db", damaged, "1", "="}).out, "7.\n");
 }
 
-// A window's side of the calculator, as the desktop program keeps it: every command kept at once.
-// (That a window and other programs are one calculator is the session's own test.)
-struct Window {
-    Engine engine{CalculatorFamilies()};
-    RecordingHost host;
-    Session session{engine, host};
-    SessionStore store{session};
-
-    explicit Window(const std::string& db) {
-        store.Start(StoreLocation::File(db));
-        store.KeepEachCommand();
-    }
-    void Type(std::string_view keys) {
-        for (const char c : keys) session.CharacterKey(static_cast<unsigned char>(c));
-    }
-};
-
 // Runs in parallel take turns: two loops of brinto-cli adding to one register lose no update.
 // (A window typing at the same time would share the number being typed with them: the keys of
 // every program go to one calculator, so only whole runs can be counted on.)
@@ -154,25 +134,22 @@ TEST_F(CliPersistence, ParallelRunsLoseNoUpdate) {
     EXPECT_EQ(Cli({"--db", Db(), "rcl", "0", "5"}).out, std::to_string(2 * kRuns) + ".  CFj\n");
 }
 
-// The tape is one for every program on the file: a window's lines and brinto-cli's follow each
-// other in the order they were made; it keeps the newest 1,000 lines and has its own Clear.
+// The tape is one for every run on the file, its lines in the order they were made; it keeps the
+// newest 1,000 lines and has its own Clear.
 TEST_F(CliPersistence, TheTapeIsSharedAndKeepsItsNewestLines) {
-    Window window(Db());
-    window.Type("2+3=");
+    Cli({"--db", Db(), "2", "+", "3", "="});
     EXPECT_EQ(Cli({"--db", Db(), "4", "*", "5", "=", "undo"}).out, "5\n");  // back to typing the 5
-    std::vector<std::string> lines;
-    for (const TapeLine& line : window.store.Tape()) lines.push_back(line.keys + " = " + line.result);
-    EXPECT_EQ(lines, (std::vector<std::string>{"2 + = 2.", "3 = = 5.", "4 \u00D7 = 4.", "5 = = 20.", "Undo = 5"}));
-    EXPECT_EQ(Cli({"--db", Db(), "--tape"}).out.substr(0, 29), "2 +                     = 2.\n");
-
+    EXPECT_EQ(Cli({"--db", Db(), "--tape"}).out,
+              "2 +                     = 2.\n3 =                     = 5.\n4 \u00D7                     = 4.\n"
+              "5 =                     = 20.\nUndo                    = 5\n");
     std::vector<std::string> presses = {"--db", Db()};
     presses.insert(presses.end(), 1003, "clx");
     Cli(presses);
-    const std::vector<TapeLine> full = window.store.Tape();
-    ASSERT_EQ(full.size(), kTapeLines);
-    EXPECT_EQ(full.front().keys, "CLx");
+    const std::string full = Cli({"--db", Db(), "--tape"}).out;
+    EXPECT_EQ(std::size_t(std::count(full.begin(), full.end(), '\n')), kTapeLines);
+    EXPECT_TRUE(full.starts_with("CLx ")) << full.substr(0, 40);
     EXPECT_EQ(Cli({"--db", Db(), "--clear-tape", "--tape"}).out, "");
-    EXPECT_TRUE(window.store.Tape().empty());
+    EXPECT_EQ(Cli({"--db", Db(), "--tape"}).out, "");
     EXPECT_EQ(Cli({"--memory", "--tape", "1", "+", "2", "="}).out,
               "1 +                     = 1.\n2 =                     = 3.\n");
 }
