@@ -84,12 +84,9 @@ TEST_F(CliPersistence, ImportLegacyFillsTheDatabaseOrNothing) {
 
 // A damaged file is kept aside with one warning and the run goes on afresh. Trouble with the file,
 // met at the start (here a pipe) or at the save (a full disk): the run goes on in memory, one line
-// says so, the exit status is 1, and nothing is touched, byte for byte.
-TEST_F(CliPersistence, DamageAndTroubleSayOneLineAndTroubleTouchesNothing) {
-    const std::filesystem::path files = folder / "files";
-    std::filesystem::create_directories(files);
-    ASSERT_EQ(mkfifo((files / "pipe").c_str(), 0600), 0);
-    WriteFile(files / "notes", "the user's own file\n");
+// says so, and the exit status is 1. (What each leaves on disk is the store's and session's test.)
+TEST_F(CliPersistence, DamageAndTroubleSayOneLine) {
+    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
     const std::string damaged = (folder / "damaged.db").string();
     Cli({"--db", damaged, "9", "+"});
     std::string bytes = ReadFile(damaged);
@@ -99,13 +96,11 @@ TEST_F(CliPersistence, DamageAndTroubleSayOneLineAndTroubleTouchesNothing) {
     Cli({"--db", Db(), "9", "+"});
     const std::tuple<const char*, std::string, rlim_t, int, const char*> cases[] = {  // --db, file size, exit
         {"a damaged file", damaged, RLIM_INFINITY, 0, ".damaged-"},
-        {"a pipe", (files / "pipe").string(), RLIM_INFINITY, 1, "nothing will be saved"},
+        {"a pipe", (folder / "pipe").string(), RLIM_INFINITY, 1, "nothing will be saved"},
         {"a full disk", Db(), 1024, 1, "nothing will be saved"},
     };
     for (const auto& [name, db, fileSize, exit, says] : cases) {
         SCOPED_TRACE(name);
-        const std::string before = ReadFile(Db());
-        const std::string others = Snapshot(files);
         const RunResult run = [&] {
             const FileSizeLimit limit(fileSize);
             return Cli({"--db", db, "6", "+"});
@@ -113,10 +108,7 @@ TEST_F(CliPersistence, DamageAndTroubleSayOneLineAndTroubleTouchesNothing) {
         EXPECT_EQ(std::tuple(run.exitCode, run.out), std::tuple(exit, "6.\n"));
         EXPECT_EQ(std::count(run.err.begin(), run.err.end(), '\n'), 1) << run.err;
         EXPECT_NE(run.err.find(says), std::string::npos) << run.err;
-        EXPECT_TRUE(ReadFile(Db()) == before);
-        EXPECT_EQ(Snapshot(files), others);
     }
-    EXPECT_TRUE(std::filesystem::is_fifo(files / "pipe"));
     EXPECT_EQ(Cli({"--db", Db(), "1", "="}).out, "10.\n");
     EXPECT_EQ(Cli({"--db", damaged, "1", "="}).out, "7.\n");
 }
