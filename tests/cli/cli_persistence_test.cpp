@@ -1,6 +1,6 @@
-// brinto-cli keeps its calculator in the database file between runs: --db, the default file under
-// the XDG folders, --memory, --import-legacy, and what a run says and answers when the file is
-// damaged or in trouble (the store and the session tell the kinds apart). Every run gets its own
+// brinto-cli's runs on a database file that a transcript cannot show (the options --db, --memory and
+// --import-legacy are in the transcripts): what a run says and answers when the file is damaged or
+// in trouble, runs in parallel, the tape, and preferences given for a run. Every test gets its own
 // home and XDG folders, so the real home directory is never touched.
 #include <sys/stat.h>
 
@@ -15,10 +15,6 @@
 namespace brinto::test {
 namespace {
 
-const std::string kRpnExport = "REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\Software\\ZEB\\Brinto]\r\n"
-                               "\"saved_0\"=hex:06,00,01,00,08\r\n";
-const std::string kRpnPrefs = "\"prefs\":[7,0,33,0,0,0,0]";  // RPN, stack depth 8
-
 class CliPersistence : public ::testing::Test {
 protected:
     RunResult Cli(const std::vector<std::string>& args) const {
@@ -26,61 +22,9 @@ protected:
                                  "XDG_CONFIG_HOME=" + (folder / "config").string()});
     }
     std::string Db() const { return (folder / "calc.db").string(); }
-    std::filesystem::path DefaultDatabase() const { return folder / "data" / "brinto" / "brinto.db"; }
 
     TempFolder folder;
 };
-
-TEST_F(CliPersistence, RunsShareTheFileTheyUse) {
-    EXPECT_EQ(Cli({"--memory", "7", "+"}).out, "7.\n");
-    EXPECT_FALSE(std::filesystem::exists(folder / "data"));  // --memory touches no file
-
-    EXPECT_EQ(Cli({"--db", Db(), "12", "+"}).out, "12.\n");
-    const RunResult second = Cli({"--db", Db(), "3", "="});
-    EXPECT_EQ(std::tuple(second.exitCode, second.out, second.err), std::tuple(0, "15.\n", ""));
-    EXPECT_FALSE(std::filesystem::exists(DefaultDatabase()));
-
-    Cli({"40", "+"});
-    EXPECT_EQ(Cli({"2", "="}).out, "42.\n");
-    const std::string before = ReadFile(DefaultDatabase());
-    EXPECT_EQ(Cli({"--memory", "1", "="}).out, "1.\n");  // not 43: nothing was loaded
-    EXPECT_TRUE(ReadFile(DefaultDatabase()) == before);
-    // The default file, named explicitly, is the same calculator.
-    EXPECT_EQ(Cli({"--db", DefaultDatabase().string(), "+", "1", "="}).out, "43.\n");
-    EXPECT_FALSE(std::filesystem::exists(folder / "home"));
-}
-
-TEST_F(CliPersistence, ABadTokenOrOptionSavesNothing) {
-    EXPECT_EQ(Cli({"--db", Db(), "--bogus", "5"}).exitCode, 2);
-    EXPECT_EQ(Cli({"--import-legacy"}).exitCode, 2);
-    EXPECT_FALSE(std::filesystem::exists(Db()));  // options are checked before the file is opened
-    EXPECT_FALSE(std::filesystem::exists(DefaultDatabase()));
-
-    Cli({"--db", Db(), "9", "+"});
-    // The keys before the bad token ran, but the run ends as if it had not started.
-    EXPECT_EQ(Cli({"--db", Db(), "5", "=", "nonsense"}).exitCode, 2);
-    EXPECT_EQ(Cli({"--db", Db(), "1", "="}).out, "10.\n");
-}
-
-TEST_F(CliPersistence, ImportLegacyFillsTheDatabaseOrNothing) {
-    const std::string file = (folder / "old.reg").string();
-    WriteFile(file, "REGEDIT4\r\n[HKEY_CURRENT_USER\\Software\\ZEB\\Brinto]\r\n\"saved_0\"=hex:6g\r\n");
-    Cli({"--db", Db(), "9", "+"});
-    const RunResult bad = Cli({"--db", Db(), "--import-legacy", file, "1", "="});
-    EXPECT_EQ(std::tuple(bad.exitCode, bad.out), std::tuple(1, ""));
-    EXPECT_EQ(std::count(bad.err.begin(), bad.err.end(), '\n'), 1) << bad.err;
-    EXPECT_NE(bad.err.find("line 3"), std::string::npos) << bad.err;
-    EXPECT_EQ(Cli({"--db", Db(), "1", "="}).out, "10.\n");  // the calculator is as it was
-    EXPECT_EQ(Cli({"--db", Db(), "--import-legacy", (folder / "none.reg").string()}).exitCode, 1);
-
-    WriteFile(file, kRpnExport);
-    const RunResult good = Cli({"--db", Db(), "--import-legacy", file, "--json"});
-    EXPECT_NE(good.out.find(kRpnPrefs), std::string::npos) << good.err;
-    EXPECT_NE(Cli({"--db", Db(), "--json"}).out.find(kRpnPrefs), std::string::npos);
-    // Into memory, the import lasts one run.
-    EXPECT_NE(Cli({"--memory", "--import-legacy", file, "--json"}).out.find(kRpnPrefs), std::string::npos);
-    EXPECT_FALSE(std::filesystem::exists(folder / "data"));
-}
 
 // A damaged file is kept aside with one warning and the run goes on afresh. Trouble with the file,
 // met at the start (here a pipe) or at the save (a full disk): the run goes on in memory, one line
