@@ -1,6 +1,6 @@
 // brinto-cli's runs on a database file that a transcript cannot show (the options --db, --memory and
 // --import-legacy are in the transcripts): what a run says and answers when the file is damaged or
-// in trouble, runs in parallel, the tape, and preferences given for a run. Every test gets its own
+// in trouble, runs in parallel, and preferences given for a run. Every test gets its own
 // home and XDG folders, so the real home directory is never touched.
 #include <sys/stat.h>
 
@@ -9,7 +9,6 @@
 
 #include "cli/cli.h"
 #include "cli_runner.h"
-#include "session/tape.h"
 #include "temp_folder.h"
 
 namespace brinto::test {
@@ -68,26 +67,6 @@ TEST_F(CliPersistence, ParallelRunsLoseNoUpdate) {
     const RunResult loops = RunProgram({"/bin/sh", "-c", "(" + loop + ") & (" + loop + ") & wait"});
     EXPECT_EQ(std::tuple(loops.exitCode, loops.out), std::tuple(0, ""));
     EXPECT_EQ(Cli({"--db", Db(), "rcl", "0", "5"}).out, std::to_string(2 * kRuns) + ".  CFj\n");
-}
-
-// The tape is one for every run on the file, its lines in the order they were made; it keeps the
-// newest 1,000 lines and has its own Clear.
-TEST_F(CliPersistence, TheTapeIsSharedAndKeepsItsNewestLines) {
-    Cli({"--db", Db(), "2", "+", "3", "="});
-    EXPECT_EQ(Cli({"--db", Db(), "4", "*", "5", "=", "undo"}).out, "5\n");  // back to typing the 5
-    EXPECT_EQ(Cli({"--db", Db(), "--tape"}).out,
-              "2 +                     = 2.\n3 =                     = 5.\n4 \u00D7                     = 4.\n"
-              "5 =                     = 20.\nUndo                    = 5\n");
-    std::vector<std::string> presses = {"--db", Db()};
-    presses.insert(presses.end(), 1003, "clx");
-    Cli(presses);
-    const std::string full = Cli({"--db", Db(), "--tape"}).out;
-    EXPECT_EQ(std::size_t(std::count(full.begin(), full.end(), '\n')), kTapeLines);
-    EXPECT_TRUE(full.starts_with("CLx ")) << full.substr(0, 40);
-    EXPECT_EQ(Cli({"--db", Db(), "--clear-tape", "--tape"}).out, "");
-    EXPECT_EQ(Cli({"--db", Db(), "--tape"}).out, "");
-    EXPECT_EQ(Cli({"--memory", "--tape", "1", "+", "2", "="}).out,
-              "1 +                     = 1.\n2 =                     = 3.\n");
 }
 
 // --pref holds for the run in both modes; the saved preferences keep what they were.

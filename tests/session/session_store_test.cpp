@@ -117,6 +117,19 @@ TEST_F(SessionStoreTest, TwoWindowsOnOneFileAreOneCalculator) {
     EXPECT_GT(a.host.tapeChanges, shown);
 }
 
+// The file keeps the tape's newest lines.
+TEST_F(SessionStoreTest, TheTapeKeepsItsNewestLines) {
+    FrontEnd run;
+    run.store.Start(StoreLocation::File(db));
+    run.session.CharacterKey('7');
+    run.session.CharacterKey('+');
+    for (std::size_t i = 0; i < kTapeLines; ++i) run.session.Tap(fid::ClearX);
+    ASSERT_TRUE(run.store.Save());
+    const std::vector<TapeLine> tape = run.store.Tape();
+    ASSERT_EQ(tape.size(), kTapeLines);
+    EXPECT_EQ(tape.front().keys, "CLx");
+}
+
 // A first run asks for the input method, once, and keeps the answer; it takes over the handheld
 // release's export beside the settings instead, as one whole or not at all (the store's tests read
 // every kind of broken export). A calculator already saved, or a file in trouble, is never
