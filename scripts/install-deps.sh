@@ -2,7 +2,7 @@
 # Installs whatever the build needs and this machine lacks (Debian packages only).
 set -euo pipefail
 packages=(cmake g++ make libgtest-dev libgmock-dev libbenchmark-dev libsqlite3-dev
-  qt6-base-dev qt6-l10n-tools qt6-tools-dev qt6-translations-l10n libedit-dev nlohmann-json3-dev xvfb xauth
+  qt6-base-dev libfontconfig-dev qt6-l10n-tools qt6-tools-dev qt6-translations-l10n libedit-dev nlohmann-json3-dev xvfb xauth
   desktop-file-utils appstream dpkg-dev file debhelper lintian build-essential fakeroot)
 packages+=("$@")
 missing=()

@@ -42,6 +42,14 @@ themes = re.findall(r"\{theme_id::\w+, " + literal, themes_source)
 reader = (root / "src/session/number_reader.cpp").read_text()
 messages += re.findall(r"return \{std::nullopt, " + literal + r"\}", reader)
 
+# The store's and the session's notices: every sentence written as Notice("...", {...}).
+notices = []
+for source in sorted((root / "src/store").glob("*.cpp")) + sorted((root / "src/session").glob("*.cpp")):
+    for m in re.finditer(r"Notice\(((?:\s*" + literal + r")+)\s*,", source.read_text()):
+        sentence = "".join(re.findall(literal, m.group(1)))
+        if sentence not in notices:
+            notices.append(sentence)
+
 def rows(context, texts):
     return "".join(f'    QT_TRANSLATE_NOOP("{context}", "{t}"),\n' for t in texts)
 
@@ -71,9 +79,15 @@ namespace {{
 {rows("Theme", themes)}}};
 
 }}  // namespace
+
+// The sentences of the store's and the session's notices, found again by NoticeText.
+extern const char* const kNoticeSentences[] = {{
+{rows("Notice", notices)}}};
+extern const int kNoticeSentenceCount = {len(notices)};
+
 }}  // namespace brinto
 // clang-format on
 """
 (root / "src/app/dialogs/session_texts.cpp").write_text(out)
 print(f"{len(meanings)} key meanings and key names, {len(keyboard_names)} keyboard names, {len(messages)} messages, "
-      f"{len(constants)} constants, {len(themes)} themes")
+      f"{len(constants)} constants, {len(themes)} themes, {len(notices)} notices")

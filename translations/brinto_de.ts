@@ -1203,6 +1203,89 @@
     </message>
 </context>
 <context>
+    <name>Notice</name>
+    <message>
+        <source>cannot look at %1: %2</source>
+        <translation>%1 kann nicht geprüft werden: %2</translation>
+    </message>
+    <message>
+        <source>cannot create %1: its folder does not exist</source>
+        <translation>%1 kann nicht angelegt werden: der Ordner existiert nicht</translation>
+    </message>
+    <message>
+        <source>cannot create %1: %2</source>
+        <translation>%1 kann nicht angelegt werden: %2</translation>
+    </message>
+    <message>
+        <source>cannot follow the link %1: %2</source>
+        <translation>der Verknüpfung %1 kann nicht gefolgt werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file</source>
+        <translation>%1 ist keine gewöhnliche Datei</translation>
+    </message>
+    <message>
+        <source>cannot open %1: %2</source>
+        <translation>%1 kann nicht geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <source>cannot read %1: %2</source>
+        <translation>%1 kann nicht gelesen werden: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a Brinto database</source>
+        <translation>%1 ist keine Brinto-Datenbank</translation>
+    </message>
+    <message>
+        <source>%1 is locked by another program; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 ist von einem anderen Programm gesperrt; der Rechner läuft im Speicher, nichts wird gespeichert</translation>
+    </message>
+    <message>
+        <source>%1 is not a Brinto database; it was left as it is; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 ist keine Brinto-Datenbank und bleibt unverändert; der Rechner läuft im Speicher, nichts wird gespeichert</translation>
+    </message>
+    <message>
+        <source>%1; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1; der Rechner läuft im Speicher, nichts wird gespeichert</translation>
+    </message>
+    <message>
+        <source>%1 is damaged (%2) and cannot be moved aside; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 ist beschädigt (%2) und kann nicht beiseitegelegt werden; der Rechner läuft im Speicher, nichts wird gespeichert</translation>
+    </message>
+    <message>
+        <source>%1 was damaged (%2); kept it as %3; starting on defaults</source>
+        <translation>%1 war beschädigt (%2); aufbewahrt als %3; Start mit den Voreinstellungen</translation>
+    </message>
+    <message>
+        <source>%1 was damaged (%2); kept it as %3; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 war beschädigt (%2); aufbewahrt als %3; der Rechner läuft im Speicher, nichts wird gespeichert</translation>
+    </message>
+    <message>
+        <source>cannot save the calculator to %1 (%2); the file keeps its last save</source>
+        <translation>der Rechner kann nicht in %1 gespeichert werden (%2); die Datei behält den letzten Stand</translation>
+    </message>
+    <message>
+        <source>cannot create the folder %1: %2; the calculator runs in memory and nothing will be saved</source>
+        <translation>der Ordner %1 kann nicht angelegt werden: %2; der Rechner läuft im Speicher, nichts wird gespeichert</translation>
+    </message>
+    <message>
+        <source>legacy settings not imported: %1</source>
+        <translation>alte Einstellungen nicht übernommen: %1</translation>
+    </message>
+    <message>
+        <source>cannot load the calculator from %1 (%2); the calculator runs in memory and nothing will be saved</source>
+        <translation>der Rechner kann nicht aus %1 geladen werden (%2); der Rechner läuft im Speicher, nichts wird gespeichert</translation>
+    </message>
+    <message>
+        <source>%1 is read-only; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 ist schreibgeschützt; der Rechner läuft im Speicher, nichts wird gespeichert</translation>
+    </message>
+    <message>
+        <source>%1 is locked by another program (%2)</source>
+        <translation>%1 ist von einem anderen Programm gesperrt (%2)</translation>
+    </message>
+</context>
+<context>
     <name>Theme</name>
     <message>
         <source>Default Color</source>

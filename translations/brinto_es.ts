@@ -1203,6 +1203,89 @@
     </message>
 </context>
 <context>
+    <name>Notice</name>
+    <message>
+        <source>cannot look at %1: %2</source>
+        <translation>no se puede examinar %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot create %1: its folder does not exist</source>
+        <translation>no se puede crear %1: su carpeta no existe</translation>
+    </message>
+    <message>
+        <source>cannot create %1: %2</source>
+        <translation>no se puede crear %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot follow the link %1: %2</source>
+        <translation>no se puede seguir el enlace %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file</source>
+        <translation>%1 no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>cannot open %1: %2</source>
+        <translation>no se puede abrir %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot read %1: %2</source>
+        <translation>no se puede leer %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a Brinto database</source>
+        <translation>%1 no es una base de datos de Brinto</translation>
+    </message>
+    <message>
+        <source>%1 is locked by another program; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 está bloqueado por otro programa; la calculadora funciona en memoria y no se guardará nada</translation>
+    </message>
+    <message>
+        <source>%1 is not a Brinto database; it was left as it is; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 no es una base de datos de Brinto; se ha dejado como estaba; la calculadora funciona en memoria y no se guardará nada</translation>
+    </message>
+    <message>
+        <source>%1; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1; la calculadora funciona en memoria y no se guardará nada</translation>
+    </message>
+    <message>
+        <source>%1 is damaged (%2) and cannot be moved aside; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 está dañado (%2) y no se puede apartar; la calculadora funciona en memoria y no se guardará nada</translation>
+    </message>
+    <message>
+        <source>%1 was damaged (%2); kept it as %3; starting on defaults</source>
+        <translation>%1 estaba dañado (%2); se conserva como %3; se empieza con los valores predeterminados</translation>
+    </message>
+    <message>
+        <source>%1 was damaged (%2); kept it as %3; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 estaba dañado (%2); se conserva como %3; la calculadora funciona en memoria y no se guardará nada</translation>
+    </message>
+    <message>
+        <source>cannot save the calculator to %1 (%2); the file keeps its last save</source>
+        <translation>no se puede guardar la calculadora en %1 (%2); el archivo conserva lo último guardado</translation>
+    </message>
+    <message>
+        <source>cannot create the folder %1: %2; the calculator runs in memory and nothing will be saved</source>
+        <translation>no se puede crear la carpeta %1: %2; la calculadora funciona en memoria y no se guardará nada</translation>
+    </message>
+    <message>
+        <source>legacy settings not imported: %1</source>
+        <translation>configuración antigua no importada: %1</translation>
+    </message>
+    <message>
+        <source>cannot load the calculator from %1 (%2); the calculator runs in memory and nothing will be saved</source>
+        <translation>no se puede cargar la calculadora desde %1 (%2); la calculadora funciona en memoria y no se guardará nada</translation>
+    </message>
+    <message>
+        <source>%1 is read-only; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 es de solo lectura; la calculadora funciona en memoria y no se guardará nada</translation>
+    </message>
+    <message>
+        <source>%1 is locked by another program (%2)</source>
+        <translation>%1 está bloqueado por otro programa (%2)</translation>
+    </message>
+</context>
+<context>
     <name>Theme</name>
     <message>
         <source>Default Color</source>

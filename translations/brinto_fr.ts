@@ -1203,6 +1203,89 @@
     </message>
 </context>
 <context>
+    <name>Notice</name>
+    <message>
+        <source>cannot look at %1: %2</source>
+        <translation>impossible d’examiner %1 : %2</translation>
+    </message>
+    <message>
+        <source>cannot create %1: its folder does not exist</source>
+        <translation>impossible de créer %1 : son dossier n’existe pas</translation>
+    </message>
+    <message>
+        <source>cannot create %1: %2</source>
+        <translation>impossible de créer %1 : %2</translation>
+    </message>
+    <message>
+        <source>cannot follow the link %1: %2</source>
+        <translation>impossible de suivre le lien %1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file</source>
+        <translation>%1 n’est pas un fichier ordinaire</translation>
+    </message>
+    <message>
+        <source>cannot open %1: %2</source>
+        <translation>impossible d’ouvrir %1 : %2</translation>
+    </message>
+    <message>
+        <source>cannot read %1: %2</source>
+        <translation>impossible de lire %1 : %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a Brinto database</source>
+        <translation>%1 n’est pas une base de données Brinto</translation>
+    </message>
+    <message>
+        <source>%1 is locked by another program; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 est verrouillé par un autre programme ; la calculatrice fonctionne en mémoire et rien ne sera enregistré</translation>
+    </message>
+    <message>
+        <source>%1 is not a Brinto database; it was left as it is; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 n’est pas une base de données Brinto ; il est laissé tel quel ; la calculatrice fonctionne en mémoire et rien ne sera enregistré</translation>
+    </message>
+    <message>
+        <source>%1; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 ; la calculatrice fonctionne en mémoire et rien ne sera enregistré</translation>
+    </message>
+    <message>
+        <source>%1 is damaged (%2) and cannot be moved aside; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 est endommagé (%2) et ne peut pas être mis de côté ; la calculatrice fonctionne en mémoire et rien ne sera enregistré</translation>
+    </message>
+    <message>
+        <source>%1 was damaged (%2); kept it as %3; starting on defaults</source>
+        <translation>%1 était endommagé (%2) ; conservé sous %3 ; démarrage avec les valeurs par défaut</translation>
+    </message>
+    <message>
+        <source>%1 was damaged (%2); kept it as %3; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 était endommagé (%2) ; conservé sous %3 ; la calculatrice fonctionne en mémoire et rien ne sera enregistré</translation>
+    </message>
+    <message>
+        <source>cannot save the calculator to %1 (%2); the file keeps its last save</source>
+        <translation>impossible d’enregistrer la calculatrice dans %1 (%2) ; le fichier garde le dernier enregistrement</translation>
+    </message>
+    <message>
+        <source>cannot create the folder %1: %2; the calculator runs in memory and nothing will be saved</source>
+        <translation>impossible de créer le dossier %1 : %2 ; la calculatrice fonctionne en mémoire et rien ne sera enregistré</translation>
+    </message>
+    <message>
+        <source>legacy settings not imported: %1</source>
+        <translation>anciens réglages non importés : %1</translation>
+    </message>
+    <message>
+        <source>cannot load the calculator from %1 (%2); the calculator runs in memory and nothing will be saved</source>
+        <translation>impossible de charger la calculatrice depuis %1 (%2) ; la calculatrice fonctionne en mémoire et rien ne sera enregistré</translation>
+    </message>
+    <message>
+        <source>%1 is read-only; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 est en lecture seule ; la calculatrice fonctionne en mémoire et rien ne sera enregistré</translation>
+    </message>
+    <message>
+        <source>%1 is locked by another program (%2)</source>
+        <translation>%1 est verrouillé par un autre programme (%2)</translation>
+    </message>
+</context>
+<context>
     <name>Theme</name>
     <message>
         <source>Default Color</source>

@@ -1203,6 +1203,89 @@
     </message>
 </context>
 <context>
+    <name>Notice</name>
+    <message>
+        <source>cannot look at %1: %2</source>
+        <translation>impossibile esaminare %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot create %1: its folder does not exist</source>
+        <translation>impossibile creare %1: la cartella non esiste</translation>
+    </message>
+    <message>
+        <source>cannot create %1: %2</source>
+        <translation>impossibile creare %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot follow the link %1: %2</source>
+        <translation>impossibile seguire il collegamento %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file</source>
+        <translation>%1 non è un file normale</translation>
+    </message>
+    <message>
+        <source>cannot open %1: %2</source>
+        <translation>impossibile aprire %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot read %1: %2</source>
+        <translation>impossibile leggere %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a Brinto database</source>
+        <translation>%1 non è un database di Brinto</translation>
+    </message>
+    <message>
+        <source>%1 is locked by another program; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 è bloccato da un altro programma; la calcolatrice funziona in memoria e non verrà salvato nulla</translation>
+    </message>
+    <message>
+        <source>%1 is not a Brinto database; it was left as it is; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 non è un database di Brinto; è stato lasciato com’era; la calcolatrice funziona in memoria e non verrà salvato nulla</translation>
+    </message>
+    <message>
+        <source>%1; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1; la calcolatrice funziona in memoria e non verrà salvato nulla</translation>
+    </message>
+    <message>
+        <source>%1 is damaged (%2) and cannot be moved aside; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 è danneggiato (%2) e non può essere messo da parte; la calcolatrice funziona in memoria e non verrà salvato nulla</translation>
+    </message>
+    <message>
+        <source>%1 was damaged (%2); kept it as %3; starting on defaults</source>
+        <translation>%1 era danneggiato (%2); conservato come %3; avvio con i valori predefiniti</translation>
+    </message>
+    <message>
+        <source>%1 was damaged (%2); kept it as %3; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 era danneggiato (%2); conservato come %3; la calcolatrice funziona in memoria e non verrà salvato nulla</translation>
+    </message>
+    <message>
+        <source>cannot save the calculator to %1 (%2); the file keeps its last save</source>
+        <translation>impossibile salvare la calcolatrice in %1 (%2); il file conserva l’ultimo salvataggio</translation>
+    </message>
+    <message>
+        <source>cannot create the folder %1: %2; the calculator runs in memory and nothing will be saved</source>
+        <translation>impossibile creare la cartella %1: %2; la calcolatrice funziona in memoria e non verrà salvato nulla</translation>
+    </message>
+    <message>
+        <source>legacy settings not imported: %1</source>
+        <translation>impostazioni precedenti non importate: %1</translation>
+    </message>
+    <message>
+        <source>cannot load the calculator from %1 (%2); the calculator runs in memory and nothing will be saved</source>
+        <translation>impossibile caricare la calcolatrice da %1 (%2); la calcolatrice funziona in memoria e non verrà salvato nulla</translation>
+    </message>
+    <message>
+        <source>%1 is read-only; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 è di sola lettura; la calcolatrice funziona in memoria e non verrà salvato nulla</translation>
+    </message>
+    <message>
+        <source>%1 is locked by another program (%2)</source>
+        <translation>%1 è bloccato da un altro programma (%2)</translation>
+    </message>
+</context>
+<context>
     <name>Theme</name>
     <message>
         <source>Default Color</source>

@@ -1203,6 +1203,89 @@
     </message>
 </context>
 <context>
+    <name>Notice</name>
+    <message>
+        <source>cannot look at %1: %2</source>
+        <translation>não é possível examinar %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot create %1: its folder does not exist</source>
+        <translation>não é possível criar %1: a pasta não existe</translation>
+    </message>
+    <message>
+        <source>cannot create %1: %2</source>
+        <translation>não é possível criar %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot follow the link %1: %2</source>
+        <translation>não é possível seguir a ligação %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a regular file</source>
+        <translation>%1 não é um ficheiro normal</translation>
+    </message>
+    <message>
+        <source>cannot open %1: %2</source>
+        <translation>não é possível abrir %1: %2</translation>
+    </message>
+    <message>
+        <source>cannot read %1: %2</source>
+        <translation>não é possível ler %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 is not a Brinto database</source>
+        <translation>%1 não é uma base de dados do Brinto</translation>
+    </message>
+    <message>
+        <source>%1 is locked by another program; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 está bloqueado por outro programa; a calculadora funciona em memória e nada será guardado</translation>
+    </message>
+    <message>
+        <source>%1 is not a Brinto database; it was left as it is; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 não é uma base de dados do Brinto; foi deixado como estava; a calculadora funciona em memória e nada será guardado</translation>
+    </message>
+    <message>
+        <source>%1; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1; a calculadora funciona em memória e nada será guardado</translation>
+    </message>
+    <message>
+        <source>%1 is damaged (%2) and cannot be moved aside; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 está danificado (%2) e não pode ser posto de parte; a calculadora funciona em memória e nada será guardado</translation>
+    </message>
+    <message>
+        <source>%1 was damaged (%2); kept it as %3; starting on defaults</source>
+        <translation>%1 estava danificado (%2); guardado como %3; a iniciar com os valores predefinidos</translation>
+    </message>
+    <message>
+        <source>%1 was damaged (%2); kept it as %3; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 estava danificado (%2); guardado como %3; a calculadora funciona em memória e nada será guardado</translation>
+    </message>
+    <message>
+        <source>cannot save the calculator to %1 (%2); the file keeps its last save</source>
+        <translation>não é possível guardar a calculadora em %1 (%2); o ficheiro mantém o último estado guardado</translation>
+    </message>
+    <message>
+        <source>cannot create the folder %1: %2; the calculator runs in memory and nothing will be saved</source>
+        <translation>não é possível criar a pasta %1: %2; a calculadora funciona em memória e nada será guardado</translation>
+    </message>
+    <message>
+        <source>legacy settings not imported: %1</source>
+        <translation>definições antigas não importadas: %1</translation>
+    </message>
+    <message>
+        <source>cannot load the calculator from %1 (%2); the calculator runs in memory and nothing will be saved</source>
+        <translation>não é possível carregar a calculadora de %1 (%2); a calculadora funciona em memória e nada será guardado</translation>
+    </message>
+    <message>
+        <source>%1 is read-only; the calculator runs in memory and nothing will be saved</source>
+        <translation>%1 é só de leitura; a calculadora funciona em memória e nada será guardado</translation>
+    </message>
+    <message>
+        <source>%1 is locked by another program (%2)</source>
+        <translation>%1 está bloqueado por outro programa (%2)</translation>
+    </message>
+</context>
+<context>
     <name>Theme</name>
     <message>
         <source>Default Color</source>

@@ -82,7 +82,8 @@ QuickSwitchStrip::QuickSwitchStrip(QWidget* parent) : QWidget(parent), m_buttons
         m_buttons->addButton(button, i);
     }
     connect(m_buttons, &QButtonGroup::idClicked, this, &QuickSwitchStrip::chosen);
-    FitTo(width());
+    // The names are fitted when the window lays the strip out at its width: measuring them here,
+    // at a widget's first width, loaded fonts of three sizes that the window never shows.
 }
 
 int QuickSwitchStrip::PreferredHeight(int width) const {

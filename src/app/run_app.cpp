@@ -78,7 +78,7 @@ bool SaveBeforeQuit(MainWindow& window, Calculator& calculator, WindowHost& host
         QMessageBox box(QMessageBox::Warning, QStringLiteral("Brinto"),
                         Ui::tr("The calculator could not be saved."),
                         QMessageBox::Retry | QMessageBox::Discard | QMessageBox::Cancel, &window);
-        box.setInformativeText(QString::fromStdString(host.saveFailure) + QStringLiteral("\n\n") +
+        box.setInformativeText(NoticeText(host.saveFailure) + QStringLiteral("\n\n") +
                                Ui::tr("Try again, or quit without saving what changed since the last save?"));
         box.button(QMessageBox::Discard)->setText(Ui::tr("Quit Without Saving"));
         box.setDefaultButton(QMessageBox::Retry);
@@ -186,7 +186,7 @@ int RunApp(int argc, char** argv) {
     calculator.store.KeepEachCommand();
     window.UseStore(&calculator.store);
     for (const std::string& notice : outcome.notices) {
-        QMessageBox::information(&window, QStringLiteral("Brinto"), QString::fromStdString(notice));
+        QMessageBox::information(&window, QStringLiteral("Brinto"), NoticeText(notice));
     }
     if (const QByteArray geometry = calculator.SavedGeometry(); !geometry.isEmpty()) window.restoreGeometry(geometry);
     window.ApplyTheme();

@@ -55,15 +55,15 @@ InputMethodChoice WindowHost::AskInputMethod() {
 }
 
 void WindowHost::ReportTrouble(std::string_view text) {
-    QMessageBox::warning(window, QStringLiteral("Brinto"), Text(text));
+    QMessageBox::warning(window, QStringLiteral("Brinto"), NoticeText(text));
 }
 
 void WindowHost::ReportSaveFailure(std::string_view text) {
     const bool first = saveFailure.empty();
     saveFailure = std::string(text);
     if (!window) return;
-    window->ShowSaveFailure(Text(text));
-    if (first && !quitting) QMessageBox::warning(window, QStringLiteral("Brinto"), Text(text));
+    window->ShowSaveFailure(NoticeText(text));
+    if (first && !quitting) QMessageBox::warning(window, QStringLiteral("Brinto"), NoticeText(text));
 }
 
 void WindowHost::SaveRecovered() {

@@ -12,7 +12,6 @@ namespace brinto {
 
 namespace {
 
-constexpr const char* kInMemoryNow = "; the calculator runs in memory and nothing will be saved";
 
 std::optional<std::u16string> SettingName(std::string_view name) {
     if (name.empty() || name.size() > kMaxRecordName) return std::nullopt;
@@ -154,9 +153,8 @@ bool SessionStore::Impl::Save() {
     if (!saved) {
         e.dirty = before;
         saveFailed = anySaveFailed = true;
-        session.host().ReportSaveFailure("cannot save the calculator to " +
-                                         (where.empty() ? std::string("memory") : where) + " (" +
-                                         store.LastError() + "); the file keeps its last save");
+        session.host().ReportSaveFailure(Notice("cannot save the calculator to %1 (%2); the file keeps its last save",
+                                                {where.empty() ? std::string("memory") : where, store.LastError()}));
         return false;
     }
     pendingSettings.clear();
@@ -191,8 +189,8 @@ std::filesystem::path SessionStore::Impl::Open(const StoreLocation& location, St
                 out.trouble = !OpenFile(database, out);
                 break;
             }
-            ReportLoad("cannot create the folder " + database.parent_path().string() + ": " + ec.message() +
-                       kInMemoryNow);
+            ReportLoad(Notice("cannot create the folder %1: %2; the calculator runs in memory and nothing will be saved",
+                              {database.parent_path().string(), ec.message()}));
             ToMemory();
             out.trouble = true;
             break;
@@ -210,19 +208,21 @@ StartOutcome SessionStore::Start(const StoreLocation& location) {
         std::error_code ec;
         if (out.trouble || legacy.empty() || !std::filesystem::exists(legacy, ec)) return false;
         const LegacyImport outcome = ImportLegacyFile(into, legacy);
-        if (!outcome.imported) out.notices.push_back("legacy settings not imported: " + outcome.reason);
+        if (!outcome.imported) out.notices.push_back(Notice("legacy settings not imported: %1", {outcome.reason}));
         return outcome.imported;
     };
     m.store.ClearFailure();
     const bool loaded = LoadState(m.engine(), m.userKeys(), m.store, migrate, &m.file);
     if (m.store.Failed() && !m.where.empty()) {
-        m.ReportLoad("cannot load the calculator from " + m.where + " (" + m.store.LastError() + ")" + kInMemoryNow);
+        m.ReportLoad(Notice("cannot load the calculator from %1 (%2); the calculator runs in memory and nothing will "
+                            "be saved",
+                            {m.where, m.store.LastError()}));
         m.ToMemory();
         out.trouble = true;
         LoadState(m.engine(), m.userKeys(), m.store, {}, &m.file);
     } else if (m.store.ReadOnly()) {
         // The calculator is there to use; only its saving is impossible.
-        m.ReportLoad(m.where + " is read-only" + kInMemoryNow);
+        m.ReportLoad(Notice("%1 is read-only; the calculator runs in memory and nothing will be saved", {m.where}));
         m.ToMemory();
         out.trouble = true;
     }
@@ -263,7 +263,7 @@ bool SessionStore::Impl::BeginRun() {
     run.emplace(store, StoreTransaction::Kind::Write);
     if (!run->Started()) {
         run.reset();
-        session.host().ReportSaveFailure(where + " is locked by another program (" + store.LastError() + ")");
+        session.host().ReportSaveFailure(Notice("%1 is locked by another program (%2)", {where, store.LastError()}));
         return false;
     }
     if (OthersSaved()) {
@@ -286,8 +286,8 @@ bool SessionStore::Impl::EndRun() {
         }
         if (!saved && !saveFailed) {
             saveFailed = anySaveFailed = true;
-            session.host().ReportSaveFailure("cannot save the calculator to " + where + " (" + store.LastError() +
-                                             "); the file keeps its last save");
+            session.host().ReportSaveFailure(Notice(
+                "cannot save the calculator to %1 (%2); the file keeps its last save", {where, store.LastError()}));
         }
     }
     return saved;

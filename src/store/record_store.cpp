@@ -144,6 +144,20 @@ struct RecordStore::Found {
     sqlite3_stmt* row = nullptr;  // the scan, positioned on the matching row until reset
 };
 
+std::string Notice(std::string_view sentence, std::initializer_list<std::string_view> fill) {
+    std::string text;
+    for (std::size_t i = 0; i < sentence.size(); ++i) {
+        const std::size_t n = i + 1 < sentence.size() ? static_cast<std::size_t>(sentence[i + 1] - '1') : fill.size();
+        if (sentence[i] == '%' && n < fill.size()) {
+            text += fill.begin()[n];
+            ++i;
+        } else {
+            text += sentence[i];
+        }
+    }
+    return text;
+}
+
 RecordStore::~RecordStore() { Close(); }
 
 void RecordStore::Fail(std::string_view what) {
@@ -228,20 +242,20 @@ OpenResult RecordStore::CheckPath(const std::string& path) {
     struct stat info {};
     if (lstat(path.c_str(), &info) != 0) {
         if (errno != ENOENT) {
-            m_error = "cannot look at " + path + ": " + std::strerror(errno);
+            m_error = Notice("cannot look at %1: %2", {path, std::strerror(errno)});
             return OpenResult::Unavailable;
         }
         const std::filesystem::path folder = std::filesystem::path(path).parent_path();
         struct stat folderInfo {};
         if (stat(folder.empty() ? "." : folder.c_str(), &folderInfo) != 0 || !S_ISDIR(folderInfo.st_mode)) {
-            m_error = "cannot create " + path + ": its folder does not exist";
+            m_error = Notice("cannot create %1: its folder does not exist", {path});
             return OpenResult::Unavailable;
         }
         // An empty file, never a half-made database: the schema is written in one transaction by
         // whichever process opens the empty file first, and the others wait for it.
         const int fd = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0666);
         if (fd < 0 && errno != EEXIST) {
-            m_error = "cannot create " + path + ": " + std::strerror(errno);
+            m_error = Notice("cannot create %1: %2", {path, std::strerror(errno)});
             return OpenResult::Unavailable;
         }
         if (fd >= 0) close(fd);
@@ -249,11 +263,11 @@ OpenResult RecordStore::CheckPath(const std::string& path) {
     }
     // A link is followed once; one that leads nowhere is not created through.
     if (S_ISLNK(info.st_mode) && stat(path.c_str(), &info) != 0) {
-        m_error = "cannot follow the link " + path + ": " + std::strerror(errno);
+        m_error = Notice("cannot follow the link %1: %2", {path, std::strerror(errno)});
         return OpenResult::Unavailable;
     }
     if (!S_ISREG(info.st_mode)) {
-        m_error = path + " is not a regular file";
+        m_error = Notice("%1 is not a regular file", {path});
         return OpenResult::Refused;
     }
     return OpenResult::Opened;
@@ -268,13 +282,13 @@ OpenResult RecordStore::CheckFileHeader(const std::string& path) {
     constexpr std::size_t kHeaderBytes = 100;
     const int fd = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     if (fd < 0) {
-        m_error = "cannot open " + path + ": " + std::strerror(errno);
+        m_error = Notice("cannot open %1: %2", {path, std::strerror(errno)});
         return OpenResult::Unavailable;
     }
     struct stat info {};
     if (fstat(fd, &info) != 0 || !S_ISREG(info.st_mode)) {
         close(fd);
-        m_error = path + " is not a regular file";
+        m_error = Notice("%1 is not a regular file", {path});
         return OpenResult::Refused;
     }
     unsigned char header[kHeaderBytes] = {};
@@ -283,7 +297,7 @@ OpenResult RecordStore::CheckFileHeader(const std::string& path) {
         const ssize_t n = read(fd, header + got, kHeaderBytes - got);
         if (n < 0 && errno == EINTR) continue;
         if (n < 0) {
-            m_error = "cannot read " + path + ": " + std::strerror(errno);
+            m_error = Notice("cannot read %1: %2", {path, std::strerror(errno)});
             close(fd);
             return OpenResult::Unavailable;
         }
@@ -297,7 +311,7 @@ OpenResult RecordStore::CheckFileHeader(const std::string& path) {
     const unsigned applicationId = byte(68) << 24 | byte(69) << 16 | byte(70) << 8 | byte(71);
     if (got != kHeaderBytes || std::memcmp(header, "SQLite format 3", 16) != 0 ||
         applicationId != static_cast<unsigned>(kApplicationId)) {
-        m_error = path + " is not a Brinto database";
+        m_error = Notice("%1 is not a Brinto database", {path});
         return OpenResult::Foreign;
     }
     return OpenResult::Opened;

@@ -10,6 +10,7 @@
 // leaves the file as it was before or after a save, never in between. DataVersion tells a program
 // that another one has saved, so that it can pick the change up before building on it.
 #include <cstddef>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -26,6 +27,11 @@ namespace brinto {
 // Damage is the file's own fault and only Damaged says so; every other failure is trouble around
 // a file that may well be sound, or a file that is not ours, and the file must then be left
 // exactly as it is.
+// A message for the user made from one of the fixed sentences of the store and the session, with
+// "%1", "%2", ... filled in. The window finds the sentence again to show it in the user's language,
+// so every such sentence is written as Notice("...", {...}) (scripts/session-texts.py lists them).
+std::string Notice(std::string_view sentence, std::initializer_list<std::string_view> fill);
+
 enum class OpenResult {
     Opened,       // a Brinto database, created first if the file did not exist or was empty
     Damaged,      // a Brinto database that cannot be used as it is; it was left untouched

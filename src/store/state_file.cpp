@@ -14,7 +14,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kCompanions[] = {"-wal", "-journal", "-shm"};
-constexpr const char* kNothingSaved = "; the calculator runs in memory and nothing will be saved";
 
 fs::path HomeFolder(const char* home) {
     if (home && *home) return home;
@@ -75,26 +74,35 @@ OpenResult OpenStateFile(RecordStore& store, const fs::path& path, std::string& 
     switch (result) {
         case OpenResult::Opened: return result;
         case OpenResult::Busy:
-            warning = path.string() + " is locked by another program" + kNothingSaved;
+            warning = Notice("%1 is locked by another program; the calculator runs in memory and nothing will be saved",
+                             {path.string()});
             return result;
         case OpenResult::Foreign:
-            warning = path.string() + " is not a Brinto database; it was left as it is" + kNothingSaved;
+            warning = Notice("%1 is not a Brinto database; it was left as it is; the calculator runs in memory and "
+                             "nothing will be saved",
+                             {path.string()});
             return result;
         case OpenResult::Unavailable:
         case OpenResult::Refused:
-            warning = store.LastError() + kNothingSaved;
+            warning = Notice("%1; the calculator runs in memory and nothing will be saved", {store.LastError()});
             return result;
         case OpenResult::Damaged: break;
     }
     const std::string reason = store.LastError();
     const fs::path aside = MoveAside(path);
     if (aside.empty()) {
-        warning = path.string() + " is damaged (" + reason + ") and cannot be moved aside" + kNothingSaved;
+        warning = Notice("%1 is damaged (%2) and cannot be moved aside; the calculator runs in memory and nothing "
+                         "will be saved",
+                         {path.string(), reason});
         return result;
     }
     const OpenResult fresh = store.Open(path.string());
-    warning = path.string() + " was damaged (" + reason + "); kept it as " + aside.string() +
-              (fresh == OpenResult::Opened ? "; starting on defaults" : kNothingSaved);
+    warning = fresh == OpenResult::Opened
+                  ? Notice("%1 was damaged (%2); kept it as %3; starting on defaults",
+                           {path.string(), reason, aside.string()})
+                  : Notice("%1 was damaged (%2); kept it as %3; the calculator runs in memory and nothing will "
+                           "be saved",
+                           {path.string(), reason, aside.string()});
     return fresh;
 }
 

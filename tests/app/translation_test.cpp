@@ -19,6 +19,11 @@
 #include "session/number_reader.h"
 #include "session/session.h"
 
+namespace brinto {
+extern const char* const kNoticeSentences[];
+extern const int kNoticeSentenceCount;
+}  // namespace brinto
+
 namespace brinto::test {
 namespace {
 
@@ -40,6 +45,13 @@ TEST(German, TheWindowStartsInGermanUnderAGermanLocale) {
     EXPECT_EQ(MessageText(message::NothingToUndoCaption), QString::fromUtf8("Nichts rückgängig zu machen"));
     // Numbers and dates in the windows follow the locale too.
     EXPECT_EQ(QLocale::system().decimalPoint(), QStringLiteral(","));
+    // A notice about the file: its sentences in German, within one another, the name and the
+    // system's own words kept as they are.
+    EXPECT_EQ(NoticeText("cannot open /a (b)/c.db: Permission denied; the calculator runs in memory and nothing "
+                         "will be saved"),
+              QString::fromUtf8("/a (b)/c.db kann nicht geöffnet werden: Permission denied; der Rechner läuft im "
+                                "Speicher, nichts wird gespeichert"));
+    EXPECT_EQ(NoticeText("no notice"), QStringLiteral("no notice"));
 }
 
 // Every text the window takes from the session and the engine has its translation in each language:
@@ -85,6 +97,9 @@ TEST(Translations, EachLanguageCarriesEveryTextFromTheSession) {
             EXPECT_TRUE(translated("Constant", ConstantName(i))) << ConstantName(i);
         }
         for (std::string_view keyboard : kKeyboardNames) EXPECT_TRUE(translated("Ui", keyboard)) << keyboard;
+        for (int i = 0; i < kNoticeSentenceCount; ++i) {
+            EXPECT_TRUE(translated("Notice", kNoticeSentences[i])) << kNoticeSentences[i];
+        }
         EXPECT_TRUE(translated("Ui", "&View"));
     }
 }

@@ -166,6 +166,15 @@ TEST(NumberFields, DurationSettingsTakePositiveNumbers) {
     run.session.Undo();
     EXPECT_EQ(run.engine.DurationSetting(reg::DaysPerYear), 365.25);
     EXPECT_EQ(run.engine.DurationSetting(reg::DaysPerYear + 4), unset);
+    // Untouched under a display that rounds them, the settings keep their exact values, and OK is
+    // no step: the undone one can still be redone.
+    run.engine.prefs.SetFormat(NumberFormat::Fixed);
+    run.engine.prefs.SetDigitField(2);
+    d = run.dialogs.OpenDurations();
+    EXPECT_EQ(d->field(0)->text(), QStringLiteral("365.3"));
+    Click(Button(d, QDialogButtonBox::Ok));
+    EXPECT_EQ(run.engine.DurationSetting(reg::DaysPerYear), 365.25);
+    EXPECT_TRUE(run.engine.history.CanRedo());
 }
 
 }  // namespace

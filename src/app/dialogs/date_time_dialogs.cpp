@@ -168,10 +168,15 @@ void DurationsDialog::Load() {
 }
 
 // All five are stored as one step, or none: a refused field keeps the dialog open on it, saying why.
+// A field left as it was shown keeps its exact value (the display may round it), and OK on an
+// untouched dialog stores nothing, so it is no step to undo.
 void DurationsDialog::accept() {
     const Engine& e = m_session.engine();
     std::array<double, 5> settings{};
+    bool edited = false;
     for (std::size_t i = 0; i < m_fields.size(); ++i) {
+        settings[i] = e.DurationSetting(kDurationRows[i].number);
+        if (m_fields[i]->text() == DisplayNumber(e, settings[i])) continue;
         const FieldReading reading = ReadNumberField(e, m_fields[i]->text(), FieldKind::Positive);
         if (!reading.value) {
             m_problem->setText(MessageText(reading.problem));
@@ -181,8 +186,9 @@ void DurationsDialog::accept() {
             return;
         }
         settings[i] = *reading.value;
+        edited = true;
     }
-    if (m_session.StoreRegisters(reg::DaysPerYear, settings)) emit changed();
+    if (edited && m_session.StoreRegisters(reg::DaysPerYear, settings)) emit changed();
     QDialog::accept();
 }
 

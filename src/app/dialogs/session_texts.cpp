@@ -339,5 +339,31 @@ namespace {
 };
 
 }  // namespace
+
+// The sentences of the store's and the session's notices, found again by NoticeText.
+extern const char* const kNoticeSentences[] = {
+    QT_TRANSLATE_NOOP("Notice", "cannot look at %1: %2"),
+    QT_TRANSLATE_NOOP("Notice", "cannot create %1: its folder does not exist"),
+    QT_TRANSLATE_NOOP("Notice", "cannot create %1: %2"),
+    QT_TRANSLATE_NOOP("Notice", "cannot follow the link %1: %2"),
+    QT_TRANSLATE_NOOP("Notice", "%1 is not a regular file"),
+    QT_TRANSLATE_NOOP("Notice", "cannot open %1: %2"),
+    QT_TRANSLATE_NOOP("Notice", "cannot read %1: %2"),
+    QT_TRANSLATE_NOOP("Notice", "%1 is not a Brinto database"),
+    QT_TRANSLATE_NOOP("Notice", "%1 is locked by another program; the calculator runs in memory and nothing will be saved"),
+    QT_TRANSLATE_NOOP("Notice", "%1 is not a Brinto database; it was left as it is; the calculator runs in memory and nothing will be saved"),
+    QT_TRANSLATE_NOOP("Notice", "%1; the calculator runs in memory and nothing will be saved"),
+    QT_TRANSLATE_NOOP("Notice", "%1 is damaged (%2) and cannot be moved aside; the calculator runs in memory and nothing will be saved"),
+    QT_TRANSLATE_NOOP("Notice", "%1 was damaged (%2); kept it as %3; starting on defaults"),
+    QT_TRANSLATE_NOOP("Notice", "%1 was damaged (%2); kept it as %3; the calculator runs in memory and nothing will be saved"),
+    QT_TRANSLATE_NOOP("Notice", "cannot save the calculator to %1 (%2); the file keeps its last save"),
+    QT_TRANSLATE_NOOP("Notice", "cannot create the folder %1: %2; the calculator runs in memory and nothing will be saved"),
+    QT_TRANSLATE_NOOP("Notice", "legacy settings not imported: %1"),
+    QT_TRANSLATE_NOOP("Notice", "cannot load the calculator from %1 (%2); the calculator runs in memory and nothing will be saved"),
+    QT_TRANSLATE_NOOP("Notice", "%1 is read-only; the calculator runs in memory and nothing will be saved"),
+    QT_TRANSLATE_NOOP("Notice", "%1 is locked by another program (%2)"),
+};
+extern const int kNoticeSentenceCount = 20;
+
 }  // namespace brinto
 // clang-format on

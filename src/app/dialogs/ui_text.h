@@ -31,4 +31,9 @@ inline QString ThemeText(std::string_view english) {
     return QCoreApplication::translate("Theme", std::string(english).c_str());
 }
 
+// A notice of the store or the session (a file that cannot be used, a save that failed) in the
+// user's language: its sentence is found by its English words, and what fills it (a file's name,
+// the system's own words for an error) is kept, itself translated where it is such a notice.
+QString NoticeText(std::string_view english);
+
 }  // namespace brinto
