@@ -289,6 +289,29 @@ consteval bool SameIdsAsKeyTable() {
 }
 static_assert(SameIdsAsKeyTable(), "the legends name other keys than the key table");
 
+// Characters as a reader counts them: combining marks (the bar of x̄, the hat of ŷ) add none.
+consteval int VisibleLength(std::string_view utf8) {
+    int count = 0;
+    for (std::size_t i = 0; i < utf8.size();) {
+        const unsigned char lead = static_cast<unsigned char>(utf8[i]);
+        const int bytes = lead < 0x80 ? 1 : lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+        char32_t cp = bytes == 1 ? lead : lead & (0x3F >> (bytes - 1));
+        for (int k = 1; k < bytes; ++k) cp = (cp << 6) | (static_cast<unsigned char>(utf8[i + k]) & 0x3F);
+        if (cp < 0x0300 || cp > 0x036F) ++count;
+        i += bytes;
+    }
+    return count;
+}
+
+consteval bool EveryFaceFitsAKey() {
+    for (const KeyLegend& l : kLegends) {
+        const int length = VisibleLength(l.legend);
+        if (length < 1 || length > 6 || l.fullName.empty()) return false;
+    }
+    return true;
+}
+static_assert(EveryFaceFitsAKey(), "a face of no or more than six characters, or a key without its full name");
+
 }  // namespace
 
 std::span<const KeyLegend> AllLegends() { return kLegends; }

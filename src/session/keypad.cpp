@@ -4,6 +4,8 @@
 #include <optional>
 
 #include "engine/engine.h"
+#include "engine/key_table.h"
+#include "engine/keyboards.h"
 
 namespace brinto {
 
@@ -43,6 +45,73 @@ constexpr std::array<BasicRow, 5> BasicLayout(FunctionId corner) {
 }
 constexpr auto kBasicInfix = BasicLayout(fid::Equals);
 constexpr auto kBasicRpn = BasicLayout(fid::Enter);
+
+// Every key the calculator has can be tapped: it is on a built-in keyboard's block or on the shared
+// keypad, shifted or not. Keys that need no face of their own: second keys of the same function,
+// the second and third shift, and the variants the keyboard sends in place of the key the user taps.
+constexpr std::array kNoFaceNeeded = {
+    fid::SecondPoint,     fid::SecondClearAll,  fid::SecondClearStack, fid::SecondClearX,
+    fid::SecondEnter,     fid::SecondAmortize,  fid::FirstShift,       fid::SecondShift,
+    fid::IntegerNegate,   fid::ToDefaultFormat, fid::IntegerAdd,       fid::IntegerSubtract,
+    fid::IntegerMultiply, fid::IntegerDivide,   fid::RecallVariant,    fid::RecallLarge,
+    fid::ExchangeVariant, fid::ExchangeLarge,   fid::StoreVariant,     fid::StoreLarge};
+
+consteval bool OnAFace(FunctionId id) {
+    for (const KeyboardLayout& k : kBuiltInKeyboards) {
+        if (std::ranges::find(k.unshifted, id) != k.unshifted.end()) return true;
+        if (std::ranges::find(k.shifted, id) != k.shifted.end()) return true;
+    }
+    for (const KeypadRow& row : kSharedKeypad) {
+        for (const KeypadKey& key : row) {
+            if (key.unshifted == id || key.shifted == id) return true;
+        }
+    }
+    return false;
+}
+
+consteval bool EveryKeyCanBeTapped() {
+    for (const KeyInfo& k : kKeyTable) {
+        if (!OnAFace(k.id) && std::ranges::find(kNoFaceNeeded, k.id) == kNoFaceNeeded.end()) return false;
+    }
+    return true;
+}
+static_assert(EveryKeyCanBeTapped(), "a key that no face sends");
+
+// A face drawn on screen that is no key of the table would have no legend and no name in brinto-cli.
+consteval bool EveryFaceIsAKey() {
+    const auto known = [](FunctionId id) {
+        return std::ranges::find(kKeyTable, id, &KeyInfo::id) != kKeyTable.end();
+    };
+    for (const KeyboardLayout& k : kBuiltInKeyboards) {
+        if (!std::ranges::all_of(k.unshifted, known) || !std::ranges::all_of(k.shifted, known)) return false;
+    }
+    for (const KeypadRow& row : kSharedKeypad) {
+        for (const KeypadKey& key : row) {
+            if (!known(key.unshifted) || !known(key.shifted)) return false;
+        }
+    }
+    return true;
+}
+static_assert(EveryFaceIsAKey(), "a face that is no key");
+
+// Two faces with one function would waste a key; a shifted face may repeat its own key.
+consteval bool EachFaceOnceOnTheSharedKeypad() {
+    std::array<FunctionId, 2 * kKeypadColumns * 5> seen{};
+    std::size_t count = 0;
+    for (const KeypadRow& row : kSharedKeypad) {
+        for (const KeypadKey& key : row) {
+            seen[count++] = key.unshifted;
+            if (key.shifted != key.unshifted) seen[count++] = key.shifted;
+        }
+    }
+    for (std::size_t i = 0; i < count; ++i) {
+        for (std::size_t j = i + 1; j < count; ++j) {
+            if (seen[i] == seen[j]) return false;
+        }
+    }
+    return true;
+}
+static_assert(EachFaceOnceOnTheSharedKeypad(), "one function on two faces of the shared keypad");
 
 }  // namespace
 

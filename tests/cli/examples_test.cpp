@@ -11,6 +11,11 @@
 //     stdout = TEXT      standard output, without its last newline
 //     stdout ~ TEXT      standard output contains TEXT
 //     PATH = VALUE       a field of the JSON report ("stack.0.text = 5."), arrays as [1,2]
+//     stderr lines = N   standard error has N lines
+//     {dir}/FILE = present, or absent
+//   A transcript's runs share a fresh folder, {dir} in their arguments and checks, that is their
+//   home and holds their XDG folders: runs on the default file or one named with --db keep their
+//   calculator from one to the next, and no real home is touched. {source} is the source tree.
 // - the README's tour: an indented "$ COMMAND" line that mentions brinto-cli and the indented lines
 //   it prints (standard output and error as a terminal shows them). The commands run one after the
 //   other under /bin/sh with a fresh home folder, so the tour's calculator carries over.
@@ -103,6 +108,10 @@ void RunCase(const Case& c, const RunResult& r) {
             EXPECT_NE(r.out.find(value), std::string::npos) << "stdout: " << r.out;
         } else if (path == "stdout") {
             EXPECT_EQ(r.out.substr(0, r.out.empty() ? 0 : r.out.size() - 1), value);
+        } else if (path == "stderr lines") {
+            EXPECT_EQ(std::to_string(std::count(r.err.begin(), r.err.end(), '\n')), value) << r.err;
+        } else if (path.starts_with("/")) {
+            EXPECT_EQ(fs::exists(path) ? "present" : "absent", value) << path;
         } else {
             if (!json) json = ParseJson(r.out);
             ASSERT_TRUE(json.has_value()) << "not JSON: " << r.out << r.err;
@@ -118,12 +127,26 @@ void RunCase(const Case& c, const RunResult& r) {
     }
 }
 
+std::string Placed(std::string text, const std::string& dir) {
+    const std::pair<std::string, std::string> places[] = {{"{dir}", dir}, {"{source}", kSource.string()}};
+    for (const auto& [name, place] : places) {
+        for (std::size_t at; (at = text.find(name)) != std::string::npos;) text.replace(at, name.size(), place);
+    }
+    return text;
+}
+
 TEST(Examples, EveryTranscriptCaseHolds) {
     int count = 0;
     for (const auto& entry : fs::directory_iterator(kSource / "tests/cli/transcripts")) {
         if (entry.path().extension() != ".txt") continue;
-        for (const Case& c : ReadTranscript(entry.path())) {
-            RunCase(c, RunCli(c.argv, c.input));
+        const TempFolder folder;
+        const std::string dir = folder.path().string();
+        const std::vector<std::string> environment = {"HOME=" + dir + "/home", "XDG_DATA_HOME=" + dir + "/data",
+                                                      "XDG_CONFIG_HOME=" + dir + "/config"};
+        for (Case c : ReadTranscript(entry.path())) {
+            for (std::string& a : c.argv) a = Placed(a, dir);
+            for (auto& check : c.checks) check.first = Placed(check.first, dir);
+            RunCase(c, RunCli(c.argv, c.input, environment));
             ++count;
         }
     }

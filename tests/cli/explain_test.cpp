@@ -11,7 +11,6 @@
 
 #include <filesystem>
 #include <fstream>
-#include <map>
 #include <regex>
 #include <set>
 #include <sstream>
@@ -20,7 +19,6 @@
 #include "cli_runner.h"
 #include "engine/key_table.h"
 #include "engine/keyboards.h"
-#include "session/key_legends.h"
 #include "temp_folder.h"
 
 namespace brinto::test {
@@ -35,13 +33,13 @@ std::string NameOf(FunctionId id) {
 
 std::string FirstWord(const std::string& line) { return line.substr(0, line.find(' ')); }
 
-// Every key is listed with its code and family and with the legend, meaning and aliases the desktop
-// program and the name table give it, and each built-in keyboard's section reads as its block does.
+// Every key is listed, and each built-in keyboard's section reads as its block does. (How a line
+// reads is in the transcripts.)
 TEST(Cli, ListKeysShowsEveryKeyAsTheKeyboardsDo) {
     const RunResult r = RunCli({"--list-keys"});
     ASSERT_EQ(r.exitCode, 0);
     std::vector<std::pair<std::string, std::vector<std::string>>> sections;  // heading, its lines
-    std::map<std::string, std::string> byName;                              // a name's first line
+    std::set<std::string> names;
     std::istringstream in(r.out);
     for (std::string line; std::getline(in, line);) {
         if (line.rfind("# ", 0) == 0) {
@@ -50,24 +48,9 @@ TEST(Cli, ListKeysShowsEveryKeyAsTheKeyboardsDo) {
         }
         ASSERT_FALSE(sections.empty()) << line;
         sections.back().second.push_back(line);
-        byName.emplace(FirstWord(line), line);
+        names.insert(FirstWord(line));
     }
-    for (const KeyInfo& k : kKeyTable) {
-        const KeyLegend* legend = FindLegend(k.id);
-        ASSERT_TRUE(byName.count(std::string(k.name)) && legend) << k.name;
-        std::istringstream words(byName[std::string(k.name)]);
-        std::string name, code, family, rest, aliases;
-        words >> name >> code >> family >> std::ws;
-        std::getline(words, rest);
-        EXPECT_EQ(code, std::to_string(ToNumber(k.id))) << name;
-        EXPECT_EQ(family, FamilyName(k.family)) << name;
-        EXPECT_EQ(rest.rfind(std::string(legend->legend), 0), 0u) << rest;
-        EXPECT_NE(rest.find(std::string(legend->fullName)), std::string::npos) << rest;
-        for (const KeyAlias& a : kKeyAliases) {
-            if (a.id == k.id) aliases += (aliases.empty() ? "" : " ") + std::string(a.name);
-        }
-        EXPECT_EQ(rest.ends_with(" (also " + aliases + ")"), !aliases.empty()) << rest;
-    }
+    for (const KeyInfo& k : kKeyTable) EXPECT_TRUE(names.contains(std::string(k.name))) << k.name;
     ASSERT_GE(sections.size(), 2 * kBuiltInKeyboards.size());
     for (std::size_t k = 0; k < kBuiltInKeyboards.size(); ++k) {
         for (const bool shifted : {false, true}) {
@@ -78,9 +61,6 @@ TEST(Cli, ListKeysShowsEveryKeyAsTheKeyboardsDo) {
             for (std::size_t i = 0; i < block.size(); ++i) EXPECT_EQ(FirstWord(lines[i]), NameOf(block[i])) << heading;
         }
     }
-    EXPECT_NE(byName["undo"].find("Undo"), std::string::npos);
-    EXPECT_NE(byName["const:0"].find("Avogadro's number, NA"), std::string::npos);
-    EXPECT_NE(byName["const:32"].find("Reference intensity, I0"), std::string::npos);
 }
 
 // At the prompt: a bad line runs nothing and says where the mistake is, the session goes on,

@@ -2,9 +2,7 @@
 // while a name is being typed.
 #include <gtest/gtest.h>
 
-#include "engine/engine.h"
 #include "session/key_finder.h"
-#include "session/keypad.h"
 
 namespace brinto {
 namespace {
@@ -61,18 +59,6 @@ TEST(KeyFinder, KeysAreFoundByTheMeaningTheWindowShows) {
     EXPECT_EQ(wurzel[0].id, fid::SquareRoot);
     EXPECT_EQ(wurzel[1].id, fid::CubeRoot);
     EXPECT_EQ(OfferKeys("Kubik", 10, german).at(0).id, fid::CubeRoot);
-}
-
-TEST(KeyFinder, LatchKeysAreThoseThatShowAState) {
-    Engine e;
-    EXPECT_TRUE(IsLatchKey(fid::Shift));
-    EXPECT_FALSE(IsLatchKey(fid::Add));
-    EXPECT_TRUE(LatchOn(e, fid::Degrees));
-    EXPECT_FALSE(LatchOn(e, fid::Radians));
-    EXPECT_FALSE(LatchOn(e, fid::Shift));
-    e.state.status |= status::FirstShift;
-    EXPECT_TRUE(LatchOn(e, fid::Shift));
-    EXPECT_FALSE(LatchOn(e, fid::Add));
 }
 
 }  // namespace

@@ -35,65 +35,10 @@ protected:
         setenv("XDG_DATA_HOME", (folder / "data").c_str(), 1);
         setenv("XDG_CONFIG_HOME", (folder / "config").c_str(), 1);
     }
-    std::string Snapshot() const { return test::Snapshot(folder.path()); }
 
     TempFolder folder;
     std::filesystem::path db = folder / "calc.db";
 };
-
-// The default location is made with its folder; memory touches nothing.
-TEST_F(SessionStoreTest, TheDefaultLocationIsMadeAndMemoryTouchesNothing) {
-    FrontEnd atDefault;
-    EXPECT_TRUE(atDefault.store.Start(StoreLocation::Default()).firstRun);
-    EXPECT_TRUE(atDefault.store.Save());
-    EXPECT_TRUE(std::filesystem::is_regular_file(folder / "data" / "brinto" / "brinto.db"));
-    const std::string before = Snapshot();
-    FrontEnd inMemory;
-    EXPECT_TRUE(inMemory.store.Start(StoreLocation::Memory()).firstRun);
-    EXPECT_TRUE(inMemory.store.Save());
-    EXPECT_EQ(Snapshot(), before);
-}
-
-// Damage is moved aside and the run starts afresh; trouble and someone else's file are reported
-// once, change nothing, and the run goes on in memory without asking the first run's question.
-TEST_F(SessionStoreTest, DamageIsMovedAsideTroubleIsReportedAndTouchesNothing) {
-    ASSERT_EQ(mkfifo((folder / "pipe").c_str(), 0600), 0);
-    {
-        FrontEnd maker;
-        maker.store.Start(StoreLocation::File(folder / "damaged.db"));
-        ASSERT_TRUE(maker.store.Save());
-    }
-    std::string damaged = ReadFile(folder / "damaged.db");
-    ASSERT_GT(damaged.size(), 8192u);
-    std::fill(damaged.begin() + 4096, damaged.end(), '\x5A');
-    WriteFile(folder / "damaged.db", damaged);
-    WriteFile(folder / "notes.txt", "not a database at all");
-    // Each kind of trouble is told apart by the store's own tests; here one stands for them all.
-    const std::tuple<const char*, std::filesystem::path, bool> cases[] = {  // name, path, trouble
-        {"a pipe", folder / "pipe", true},
-        {"someone else's file", folder / "notes.txt", true},
-        {"a damaged file", folder / "damaged.db", false},
-    };
-    for (const auto& [name, path, trouble] : cases) {
-        SCOPED_TRACE(name);
-        const std::string before = Snapshot();
-        FrontEnd run;
-        const StartOutcome outcome = run.store.Start(StoreLocation::File(path));
-        EXPECT_EQ(outcome.trouble, trouble);
-        EXPECT_EQ(run.store.HadTrouble(), trouble);
-        EXPECT_EQ(run.host.troubles.size(), trouble ? 1u : 0u);
-        EXPECT_EQ(outcome.firstRun, !trouble);
-        EXPECT_EQ(outcome.notices.size(), trouble ? 0u : 1u);
-        run.session.CharacterKey('7');
-        EXPECT_TRUE(run.store.Save());  // into memory, after trouble
-        EXPECT_EQ(run.host.troubles.size(), trouble ? 1u : 0u);
-        if (trouble) {
-            EXPECT_EQ(Snapshot(), before);
-        } else {
-            EXPECT_TRUE(std::filesystem::is_regular_file(path));
-        }
-    }
-}
 
 TEST_F(SessionStoreTest, EveryFailedSaveIsReportedAndTriedAgainWhole) {
     FrontEnd run;
@@ -170,6 +115,19 @@ TEST_F(SessionStoreTest, TwoWindowsOnOneFileAreOneCalculator) {
     b.session.Special(SpecialKey::Enter);
     a.session.CharacterKey('9');
     EXPECT_GT(a.host.tapeChanges, shown);
+}
+
+// The file keeps the tape's newest lines.
+TEST_F(SessionStoreTest, TheTapeKeepsItsNewestLines) {
+    FrontEnd run;
+    run.store.Start(StoreLocation::File(db));
+    run.session.CharacterKey('7');
+    run.session.CharacterKey('+');
+    for (std::size_t i = 0; i < kTapeLines; ++i) run.session.Tap(fid::ClearX);
+    ASSERT_TRUE(run.store.Save());
+    const std::vector<TapeLine> tape = run.store.Tape();
+    ASSERT_EQ(tape.size(), kTapeLines);
+    EXPECT_EQ(tape.front().keys, "CLx");
 }
 
 // A first run asks for the input method, once, and keeps the answer; it takes over the handheld
