@@ -3,6 +3,7 @@
 // the key grid driven by Tab, the arrows and Space.
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <QApplication>
 #include <QStackedWidget>
@@ -119,7 +120,7 @@ TEST(Accessibility, EveryInteractiveControlOfEveryWindowHasAName) {
     }
 
     // The TVM view's Solve buttons sit on table cells, which are what a screen reader sees: the
-    // cells are named for them, and Return on one solves.
+    // cells are named for them, and Return on one solves, as a click on its button does.
     auto* tvm = dialogs.Open(View::Tvm)->findChild<QTableWidget*>();
     ASSERT_NE(tvm, nullptr);
     QAccessibleTableInterface* table = QAccessible::queryAccessibleInterface(tvm)->tableInterface();
@@ -138,6 +139,9 @@ TEST(Accessibility, EveryInteractiveControlOfEveryWindowHasAName) {
     tvm->setFocus();
     tvm->setCurrentCell(fvRow, 2);
     QTest::keyClick(tvm, Qt::Key_Return);
+    EXPECT_NEAR(desk.engine().registers.values[reg::FV], 112.68, 0.01);
+    desk.session().StoreRegister(reg::FV, 0);
+    qobject_cast<QAbstractButton*>(tvm->cellWidget(fvRow, 2))->click();
     EXPECT_NEAR(desk.engine().registers.values[reg::FV], 112.68, 0.01);
 }
 

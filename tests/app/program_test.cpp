@@ -10,6 +10,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
+#include <set>
 #include <string>
 #include <thread>
 #include <vector>
@@ -66,17 +67,16 @@ TEST(Program, ScreenshotDrawsEveryWindow) {
                                 BRINTO_APP_PATH + " --screenshot " + (dir / "shots").string() + "; echo $?";
     EXPECT_EQ(CommandOutput(command), "0\n");
     EXPECT_FALSE(std::filesystem::exists(dir / "data"));
-    const char* const names[] = {
-        "main-general", "main-financial", "main-scientific", "main-statistical", "main-programmer",
-        "main-conversion-1", "main-conversion-2", "main-date-time", "main-user", "main-basic",
-        "preferences-general", "preferences-display", "preferences-keyboard", "customize-keyboard", "stack",
-        "user-registers", "constants", "tvm", "amortization", "cash-flows", "statistical-registers",
-        "input-method", "enter-date", "enter-time", "durations", "amortization-schedule", "cash-flow-diagram",
-        "about", "customize-colors", "color-chooser", "help", "history", "message-no-function", "message-clear-all",
-        "message-nothing-to-redo", "message-nothing-to-undo", "message-no-macro", "message-macro-length-exceeded",
-        "message-no-cash-flow"};
-    for (const char* name : names) {
-        const QImage image(QString::fromStdString((dir / "shots" / (std::string(name) + ".png")).string()));
+    // The pictures are those the README and the store listing show from docs/screenshots.
+    const auto names = [](const std::filesystem::path& folder) {
+        std::set<std::string> found;
+        for (const auto& file : std::filesystem::directory_iterator(folder)) found.insert(file.path().filename());
+        return found;
+    };
+    const std::set<std::string> shots = names(dir / "shots");
+    EXPECT_EQ(shots, names(std::filesystem::path(__FILE__).parent_path() / "../../docs/screenshots"));
+    for (const std::string& name : shots) {
+        const QImage image(QString::fromStdString((dir / "shots" / name).string()));
         ASSERT_FALSE(image.isNull()) << name;
         EXPECT_GE(image.width(), 100) << name;
         // Blank means one colour everywhere; a drawn window has text and frames on its background.

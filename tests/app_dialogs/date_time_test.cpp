@@ -1,14 +1,11 @@
-// "Enter Date", "Enter Time" and the help viewer.
+// "Enter Date" and "Enter Time".
 #include <QApplication>
 #include <QCalendarWidget>
-#include <QFile>
 #include <QFocusEvent>
 #include <QListWidget>
 #include <QRadioButton>
-#include <QTextBrowser>
 
 #include "app/dialogs/date_time_dialogs.h"
-#include "app/dialogs/help_viewer.h"
 #include "app_dialogs/dialog_test_support.h"
 #include "engine/numeric/date_fields.h"
 
@@ -66,33 +63,6 @@ TEST(EnterDate, OpensOnXOrNowAndEntersOneStep) {
     EXPECT_EQ(d->calendar()->selectedDate(), QDate(2010, 6, 1));
     Click(Button(d, QDialogButtonBox::Cancel));
     EXPECT_EQ(run.engine.X(), 7.0);
-}
-
-// The viewer shows the bundled guide at every anchor a window asks for, or says the guide is
-// missing; find wraps around.
-TEST(HelpViewer, ShowsTheAnchorAndFinds) {
-    dialogs::HelpViewer viewer;
-    QFile guide(QString::fromLatin1(dialogs::kGuideResource));
-#ifdef BRINTO_GUIDE_BUNDLED
-    ASSERT_TRUE(guide.exists());
-#endif
-    if (guide.open(QIODevice::ReadOnly)) {
-        const QByteArray text = guide.readAll();
-        for (const char* anchor : {"Main_Contents", "about", "amortization", "cashflow", "colors", "constants",
-                                   "durations", "enterdate", "keyboard", "prefs", "rpnstack", "schedule",
-                                   "statistical", "tvm", "userregisters"}) {
-            EXPECT_TRUE(text.contains("id=\"" + QByteArray(anchor) + "\"")) << anchor;
-            viewer.ShowAnchor(anchor);
-            EXPECT_EQ(viewer.browser()->source().fragment(), QString::fromLatin1(anchor));
-        }
-        EXPECT_TRUE(viewer.Find(QStringLiteral("Brinto")));
-    } else {
-        viewer.ShowAnchor("tvm");
-        EXPECT_TRUE(viewer.browser()->toPlainText().contains(QStringLiteral("User guide missing")));
-        EXPECT_TRUE(viewer.Find(QStringLiteral("missing")));
-        EXPECT_TRUE(viewer.Find(QStringLiteral("missing")));  // wraps to the first again
-    }
-    EXPECT_FALSE(viewer.Find(QStringLiteral("no such words anywhere")));
 }
 
 }  // namespace
