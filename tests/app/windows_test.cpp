@@ -40,77 +40,69 @@ void CloseWindows(Desk& desk) {
     }
 }
 
-TEST(Windows, EachOpensFromItsMenuEntryAndShortcut) {
+// Each window opens from its menu entry, its shortcut and the display tap set to it; the Action
+// button's "Open last form" reopens the last view shown, and an open Stack view follows the keys.
+TEST(Windows, EachOpensFromItsMenuEntryShortcutAndDisplayTap) {
     struct Row {
         const char* entry;  // nullptr: only the shortcut reaches it
         QKeySequence shortcut;
+        double tap;         // where across the display a tap opens it; 0: no tap
         const char* title;  // and where the window stands: the Stack beside the calculator
     };
     const Row rows[] = {
-        {"Stack...", {}, "Stack beside"},
-        {"User Registers...", {}, "User Registers centred"},
-        {"Constants...", {}, "Constants centred"},
-        {"TVM...", {}, "Time Value of Money centred"},
-        {"Amortization...", {}, "Amortization centred"},
-        {"Cash Flow...", {}, "No Cash Flow Entries centred"},  // nothing beyond CF0 yet
-        {"Statistical...", {}, "Statistical Registers centred"},
-        {"Enter Date...", QKeySequence(Qt::CTRL | Qt::Key_D), "Enter Date centred"},
-        {"Enter Time...", QKeySequence(Qt::CTRL | Qt::Key_T), "Enter Time centred"},
-        {"Durations...", QKeySequence(Qt::CTRL | Qt::Key_U), "Durations centred"},
-        {"Preferences...", {}, "Preferences centred"},
-        {"Keyboard...", {}, "Customize Keyboard centred"},
-        {"About Brinto...", {}, "About Brinto centred"},
-        {"Find Key...", QKeySequence(Qt::CTRL | Qt::Key_K), "Find Key centred"},
-        {nullptr, QKeySequence(Qt::Key_F1), "Brinto Help elsewhere"},
+        {"Stack...", {}, 0.5, "Stack beside"},
+        {"User Registers...", {}, 0, "User Registers centred"},
+        {"Constants...", {}, 0.9, "Constants centred"},
+        {"TVM...", {}, 0.1, "Time Value of Money centred"},
+        {"Amortization...", {}, 0, "Amortization centred"},
+        {"Cash Flow...", {}, 0, "No Cash Flow Entries centred"},  // nothing beyond CF0 yet
+        {"Statistical...", {}, 0, "Statistical Registers centred"},
+        {"Enter Date...", QKeySequence(Qt::CTRL | Qt::Key_D), 0, "Enter Date centred"},
+        {"Enter Time...", QKeySequence(Qt::CTRL | Qt::Key_T), 0, "Enter Time centred"},
+        {"Durations...", QKeySequence(Qt::CTRL | Qt::Key_U), 0, "Durations centred"},
+        {"Preferences...", {}, 0, "Preferences centred"},
+        {"Keyboard...", {}, 0, "Customize Keyboard centred"},
+        {"About Brinto...", {}, 0, "About Brinto centred"},
+        {"Find Key...", QKeySequence(Qt::CTRL | Qt::Key_K), 0, "Find Key centred"},
+        {nullptr, QKeySequence(Qt::Key_F1), 0, "Brinto Help elsewhere"},
     };
     Desk desk;
     desk.window.move(20, 20);
     // Nothing is made before it is first wanted.
     EXPECT_EQ(desk.window.openedDialogs(), nullptr);
-    for (const Row& row : rows) {
-        if (row.entry) {
-            QAction* entry = MenuEntry(desk.window, row.entry);
-            ASSERT_NE(entry, nullptr) << row.entry;
-            EXPECT_EQ(entry->shortcut(), row.shortcut) << row.entry;
-            Trigger(desk.window, row.entry);
-            EXPECT_EQ(OpenWindows(desk.window), row.title) << row.entry;
-            CloseWindows(desk);
-        }
-        if (!row.shortcut.isEmpty()) {
-            QTest::keySequence(&desk.window, row.shortcut);
-            QCoreApplication::processEvents();
-            EXPECT_EQ(OpenWindows(desk.window), row.title)
-                << row.shortcut.toString().toStdString();
-            CloseWindows(desk);
-        }
-    }
-}
-
-TEST(Windows, DisplayTapsAndTheActionButtonOpenTheirTarget) {
-    Desk desk;
-    desk.window.move(20, 20);
     desk.ChangePreferences([](Preferences& p) {
         p.SetTap(TapArea::Left, TapTarget::Tvm);
         p.SetTap(TapArea::Center, TapTarget::Stack);
         p.SetTap(TapArea::Right, TapTarget::Constants);
         p.SetAction(ActionChoice::OpenLastForm);
     });
-    const struct {
-        double at;  // across the display
-        const char* title;
-    } taps[] = {{0.1, "Time Value of Money centred"}, {0.5, "Stack beside"}, {0.9, "Constants centred"}};
     DisplayView* display = desk.window.display();
-    for (const auto& tap : taps) {
-        QTest::mouseClick(display, Qt::LeftButton, {}, QPoint(static_cast<int>(display->width() * tap.at), 10));
-        EXPECT_EQ(OpenWindows(desk.window), tap.title) << tap.at;
-        CloseWindows(desk);
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.title);
+        if (row.entry) {
+            QAction* entry = MenuEntry(desk.window, row.entry);
+            ASSERT_NE(entry, nullptr);
+            EXPECT_EQ(entry->shortcut(), row.shortcut);
+            Trigger(desk.window, row.entry);
+            EXPECT_EQ(OpenWindows(desk.window), row.title);
+            CloseWindows(desk);
+        }
+        if (!row.shortcut.isEmpty()) {
+            QTest::keySequence(&desk.window, row.shortcut);
+            QCoreApplication::processEvents();
+            EXPECT_EQ(OpenWindows(desk.window), row.title) << "by its shortcut";
+            CloseWindows(desk);
+        }
+        if (row.tap) {
+            QTest::mouseClick(display, Qt::LeftButton, {}, QPoint(static_cast<int>(display->width() * row.tap), 10));
+            EXPECT_EQ(OpenWindows(desk.window), row.title) << "by a tap";
+            CloseWindows(desk);
+        }
     }
-    // "Open last form" brings back the last one shown.
     desk.Press(Qt::Key_Return);
-    EXPECT_EQ(OpenWindows(desk.window), "Constants centred");
+    EXPECT_EQ(OpenWindows(desk.window), "Customize Keyboard centred");
     CloseWindows(desk);
 
-    // An open Stack view follows the keys typed on the main window.
     Trigger(desk.window, "Stack...");
     desk.Type("7");
     QStringList lines;
