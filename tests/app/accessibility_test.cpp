@@ -249,13 +249,10 @@ TEST(Accessibility, KeyGridByTabArrowsAndSpace) {
         EXPECT_EQ(recorder.events.back().child, m.to);
     }
 
-    // To 7 by the arrows, then Space presses it and Return presses it again; typed operators still
+    // Space presses the key with the focus and Return presses it again; typed operators still
     // reach the calculator while the keys have the focus.
     const int seven = KeyShowing(keys, fid::Digit7);
-    keys->SetFocusKey(0);
-    for (int r = 0; r < seven / columns; ++r) QTest::keyClick(keys, Qt::Key_Down);
-    for (int c = 0; c < seven % columns; ++c) QTest::keyClick(keys, Qt::Key_Right);
-    ASSERT_EQ(keys->FocusKey(), seven);
+    keys->SetFocusKey(seven);
     QTest::keyClick(keys, Qt::Key_Space);
     QCoreApplication::processEvents();
     // With the focus on the keys, the new X is shown to the screen reader as a notification.
