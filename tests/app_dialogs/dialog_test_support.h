@@ -61,8 +61,9 @@ struct Rig {
 inline QPushButton* Button(QWidget* dialog, QDialogButtonBox::StandardButton which) {
     return dialog->findChild<QDialogButtonBox*>()->button(which);
 }
-inline QPushButton* ButtonCalled(QWidget* dialog, const QString& text) {
-    for (QPushButton* b : dialog->findChildren<QPushButton*>()) {
+// The button, check box or radio button with `text`, or nullptr.
+inline QAbstractButton* ButtonCalled(QWidget* dialog, const QString& text) {
+    for (QAbstractButton* b : dialog->findChildren<QAbstractButton*>()) {
         if (b->text() == text) return b;
     }
     return nullptr;

@@ -75,7 +75,7 @@ QString Line(Engine& e, int level) {
     return text;
 }
 
-QPushButton* StackKey(QWidget* view, FunctionId id) {
+QAbstractButton* StackKey(QWidget* view, FunctionId id) {
     const std::string_view legend = FindLegend(id)->legend;
     return ButtonCalled(view, QString::fromUtf8(legend.data(), static_cast<qsizetype>(legend.size())));
 }

@@ -18,12 +18,7 @@ namespace brinto::test {
 namespace {
 
 QComboBox* List(QWidget* sheet, const char* caption) { return sheet->findChild<QComboBox*>(QString::fromUtf8(caption)); }
-QAbstractButton* Check(QWidget* sheet, const char* text) {
-    for (QAbstractButton* b : sheet->findChildren<QAbstractButton*>()) {
-        if (b->text() == QString::fromUtf8(text)) return b;
-    }
-    return nullptr;
-}
+QAbstractButton* Check(QWidget* sheet, const char* text) { return ButtonCalled(sheet, QString::fromUtf8(text)); }
 
 // Every page's choices reach their stored codings and the input method goes through the
 // dispatcher; Cancel sends nothing and the sheet, made once, shows the record again; OK with
