@@ -1,6 +1,6 @@
 // The main window through its real widgets: taps on drawn keys, hardware keys, keyboard switching,
-// the clipboard, the history tape, the not-saved line, quitting, the icon, and the secondary
-// windows it opens by menu entries, shortcuts, display taps and the Action button.
+// the clipboard, the history tape, the not-saved line, quitting, and the secondary windows it opens
+// by menu entries, shortcuts, display taps and the Action button, with the icon the About box shows.
 #include <gtest/gtest.h>
 
 #include <QAbstractButton>
@@ -219,14 +219,6 @@ TEST(Window, TheHistoryTapeFollowsRecallsAndCopies) {
     EXPECT_FALSE(tape->isVisible());
 }
 
-// The icon is on the window and on the application, so the About box shows it too. (Its files at
-// each size are the install test's.)
-TEST(Window, CarriesTheIcon) {
-    Desk desk;
-    EXPECT_FALSE(desk.window.windowIcon().isNull());
-    EXPECT_FALSE(QGuiApplication::windowIcon().isNull());
-}
-
 // The titles of the windows shown besides the main window, each with where it stands: "beside"
 // the main window, "centred" on it, or "elsewhere".
 std::string OpenWindows(const MainWindow& window) {
@@ -283,6 +275,10 @@ TEST(Windows, EachOpensFromItsMenuEntryShortcutAndDisplayTap) {
     desk.window.move(20, 20);
     // Nothing is made before it is first wanted.
     EXPECT_EQ(desk.window.openedDialogs(), nullptr);
+    // The icon is on the window and on the application, so the About box shows it too. (Its files
+    // at each size are the install test's.)
+    EXPECT_FALSE(desk.window.windowIcon().isNull());
+    EXPECT_FALSE(QGuiApplication::windowIcon().isNull());
     desk.ChangePreferences([](Preferences& p) {
         p.SetTap(TapArea::Left, TapTarget::Tvm);
         p.SetTap(TapArea::Center, TapTarget::Stack);
