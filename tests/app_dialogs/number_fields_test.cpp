@@ -1,6 +1,5 @@
-// Every kind of number field reads text the same way: one table of inputs, typed into a field of
-// each kind in each window as a user types them (editor, text, Return), with the value stored or
-// the refusal shown and the field still in edit.
+// Every kind of number field in each window, typed into as a user types (editor, text, Return):
+// the value stored, or the refusal shown under it and the field still in edit.
 #include <QLabel>
 #include <QLineEdit>
 #include <cmath>
@@ -22,37 +21,15 @@ struct Input {
     double value;  // kRefused: not a number at all
 };
 
-// The same text means one number, or none, in every field.
+// What each kind of field makes of a text is the number reader's; these show that every field
+// passes it the calculator's radix and its own kind, and shows what it says.
 const Input kInputs[] = {
     {"6.5", false, 6.5},
-    {"6,5", false, kRefused},  // not 65
-    {"6,5", true, 6.5},
-    {"6.5", true, kRefused},  // not 65
-    {"1,000.50", false, 1000.5},
-    {"1.000,50", false, kRefused},  // not 1.0005
-    {"1.000,50", true, 1000.5},
-    {"12,345,678", false, 12345678},
-    {"1,2,3", false, kRefused},  // not 123
-    {"1,2345", false, kRefused},
-    {"1,22,333", false, kRefused},
-    {"12", false, 12},
-    {" 24 ", false, 24},
-    {"32768", false, 32768},
-    {"2.5", false, 2.5},
-    {"0", false, 0},
-    {"-3", false, -3},
-    {"-2.5e3", false, -2500},
-    {"1E-2", false, 0.01},
     {"abc", false, kRefused},
-    {"nan", false, kRefused},
-    {"inf", false, kRefused},
-    {"", false, kRefused},
-    {"1e300", false, 1e300},
-    {"1e400", false, kRefused},   // beyond a double
-    {"1e-400", false, kRefused},  // would be stored as 0
-    {"--5", false, kRefused},
-    {"1e", false, kRefused},
-    {"0x10", false, kRefused},
+    {"6,5", true, 6.5},
+    {"0", false, 0},          // not a payment nor a count
+    {"2.5", false, 2.5},      // not a whole payment nor count
+    {"32768", false, 32768},  // a count, not a payment
 };
 
 // What a field of each kind takes of a number.
