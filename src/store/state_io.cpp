@@ -100,7 +100,8 @@ bool UsableEntryText(const CalcState& s) {
             ++exponentDigits;
         }
     }
-    return points <= 1 && exponents <= 1 && exponentDigits <= 3;
+    // The engine counts the exponent's digits to stop at three: the count must be the text's.
+    return points <= 1 && exponents <= 1 && exponentDigits <= 3 && exponentDigits == s.exponentDigits;
 }
 
 bool UsableCalcState(const CalcState& s) {

@@ -168,9 +168,16 @@ TEST_F(StateIoTest, RecordsWithImpossibleCountsOrEntryTextAreReset) {
         {"typing a number",
          [](CalcState& s) {
              std::strcpy(s.entryText, "-12.5e-3");
-             s.status |= status::Entry;
+             s.exponentDigits = 1;
+             s.status |= status::Entry | status::Exponent;
          },
          true},
+        {"exponent digits miscounted",
+         [](CalcState& s) {
+             std::strcpy(s.entryText, "-12.5e-3");
+             s.status |= status::Entry | status::Exponent;
+         },
+         false},
         {"hexadecimal text", [](CalcState& s) { std::strcpy(s.entryText, "-FF0A"); }, true},
         {"unterminated text", [](CalcState& s) { std::memset(s.entryText, '1', sizeof s.entryText); }, false},
         {"foreign character", [](CalcState& s) { std::strcpy(s.entryText, "12x"); }, false},
